@@ -1,0 +1,30 @@
+# The settings of a deployment. Each may be given on the command line (-DNAME=value), in the
+# environment when CMake first runs, or in a file .env at the root (see .env.example).
+if(EXISTS ${CMAKE_SOURCE_DIR}/.env)
+    file(STRINGS ${CMAKE_SOURCE_DIR}/.env env_lines REGEX "^[A-Z_]+=")
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/.env)
+endif()
+
+function(quillon_setting name default help)
+    set(value "${default}")
+    if(DEFINED ENV{${name}} AND NOT "$ENV{${name}}" STREQUAL "")
+        set(value "$ENV{${name}}")
+    endif()
+    foreach(line IN LISTS env_lines)
+        if(line MATCHES "^${name}=(.+)$")
+            set(value "${CMAKE_MATCH_1}")
+        endif()
+    endforeach()
+    set(${name} "${value}" CACHE STRING "${help}")
+endfunction()
+
+quillon_setting(QUILLON_ORGANIZATION_DOMAIN "quillon.example" "Domain of the maker")
+quillon_setting(QUILLON_DOWNLOAD_URL "" "Base URL of releases, ending in /calendar/stable/; empty: no update check")
+quillon_setting(QUILLON_FEEDBACK_URL "" "URL of the feedback page; empty: no feedback entry")
+quillon_setting(QUILLON_AUTH_URL "" "Base URL of the sign-in service")
+quillon_setting(QUILLON_ACCOUNT_API_URL "" "Base URL of the account service, ending in /account/v1")
+quillon_setting(QUILLON_SYNC_API_URL "" "Base URL of the cloud calendar service, ending in /calendar/v1")
+quillon_setting(QUILLON_ACCOUNT_PORTAL_URL "" "URL of the account portal")
+quillon_setting(QUILLON_AUTH_CLIENT_ID "7e2d40a1b95c3f6e08d1c47ab2963ef5" "Client identifier for sign-in")
+
+configure_file(${CMAKE_SOURCE_DIR}/cmake/BuildSettings.h.in ${CMAKE_BINARY_DIR}/generated/BuildSettings.h @ONLY)

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "models/Event.h"
+
+#include <QDate>
+#include <QDateTime>
+
+/// Which days an event covers, for every surface. An all-day event's days are its stored dates, never
+/// converted; a timed event's are those of the machine's local time. Ends are exclusive.
+namespace EventDays {
+
+QDate firstDay(const Event &event); ///< invalid if the start is
+/// The last day the event covers; the first day for an event without an end, or of no length.
+/// A timed event that ends at midnight does not cover the day that begins there.
+QDate lastDay(const Event &event);
+
+/// True if the event shows in the local days [\p first, \p first + \p days). An event of no length shows
+/// on the day of its start.
+bool overlaps(const Event &event, QDate first, int days);
+
+} // namespace EventDays

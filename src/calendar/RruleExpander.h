@@ -1,0 +1,26 @@
+#pragma once
+
+#include "models/Event.h"
+
+#include <QDateTime>
+#include <QList>
+#include <QString>
+
+/// Occurrences of one event. A subset of RFC 5545 §3.3.10: DAILY, WEEKLY, MONTHLY, YEARLY with INTERVAL,
+/// COUNT, UNTIL, and plain BYDAY for daily and weekly rules; other parts are ignored.
+namespace RruleExpander {
+
+/// At most this many instances of a series exist, counted from its first.
+inline constexpr int MaxInstances = 10'000;
+
+/// Occurrences of \p event that overlap [\p from, \p to), in generation order. A single event comes back
+/// unchanged. Steps keep the wall clock of the event's zone across daylight-saving changes; an
+/// occurrence carries its own start, end and recurrenceId, and all else of the master. Never fails: a
+/// rule it cannot read gives fewer results. Cost grows with the occurrences in the window, not with
+/// the age of the series.
+QList<Event> expand(const Event &event, const QDateTime &from, const QDateTime &to);
+
+/// \p start in UTC as "yyyyMMddTHHmmssZ".
+QString formatRecurrenceId(const QDateTime &start);
+
+} // namespace RruleExpander

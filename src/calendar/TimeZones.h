@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QTimeZone>
+
+/// Finding the zone that a TZID means.
+namespace TimeZones {
+
+/// The zone named by \p tzid: an IANA name, a Windows name ("W. Europe Standard Time"), or a path that
+/// ends in an IANA name ("/freeassociation.sourceforge.net/Europe/Berlin"). Invalid if it is none.
+/// Quotes around the name are ignored. Answers from a cache.
+QTimeZone find(QStringView tzid);
+
+} // namespace TimeZones

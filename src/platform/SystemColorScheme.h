@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QObject>
+
+/// Whether the desktop asks for dark windows. Qt's own answer where Qt has one (6.5 on); on Linux before
+/// that the desktop portal's setting, read asynchronously and followed; else by the palette.
+class SystemColorScheme : public QObject {
+    Q_OBJECT
+
+public:
+    explicit SystemColorScheme(QObject *parent = nullptr);
+
+    [[nodiscard]] bool isDark() const { return m_isDark; }
+
+signals:
+    void changed(bool isDark);
+
+private slots:
+    void onPortalSettingChanged(const QString &group, const QString &key, const class QDBusVariant &value);
+
+private:
+    void setDark(bool isDark);
+    void askPortal();
+
+    bool m_isDark = false;
+};

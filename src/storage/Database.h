@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QObject>
+#include <QSqlDatabase>
+#include <QStringList>
+
+/// The program's one connection to its SQLite file, and the migrations that bring the file up to date.
+/// Main thread only.
+class Database : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Database(QObject *parent = nullptr);
+    ~Database() override;
+
+    /// Opens (or creates) the file at \p path on Qt's default connection, with WAL and foreign keys on.
+    /// False, with a critical log line, if SQLite refuses.
+    bool open(const QString &path);
+    [[nodiscard]] bool isOpen() const { return m_isOpen; }
+    QSqlDatabase &db() { return m_db; }
+    void close();
+
+    /// Applies every migration above the file's version, each in a transaction of its own.
+    /// False at the first failure: that migration is rolled back, earlier ones stay.
+    bool runMigrations();
+
+    /// The statements of a migration file, without whole-line comments and final semicolons.
+    /// A trigger body (BEGIN … END) stays in one piece.
+    static QStringList splitStatements(const QString &sql);
+
+    /// Counts every write of something that is shown (events, tasks, calendars, accounts, groups,
+    /// filters), in this process. Whoever keeps a result of stored data compares this number.
+    [[nodiscard]] quint64 dataGeneration() const { return m_dataGeneration; }
+    void dataWritten() { ++m_dataGeneration; }
+
+    /// Counts the removals of events by anything else than EventRepository (a calendar or an account
+    /// went with all it held), and every rollback.
+    [[nodiscard]] quint64 eventPurges() const { return m_eventPurges; }
+    void eventsPurged()
+    {
+        ++m_eventPurges;
+        dataWritten();
+    }
+
+signals:
+    void migrationApplied(int version, const QString &name);
+    void migrationError(int version, const QString &message);
+
+private:
+    bool ensureSchemaVersionTable();
+    int currentVersion();
+    bool applyMigration(int version, const QString &name, const QString &sql);
+
+    QSqlDatabase m_db;
+    bool m_isOpen = false;
+    quint64 m_dataGeneration = 1;
+    quint64 m_eventPurges = 1;
+};

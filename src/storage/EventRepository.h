@@ -1,0 +1,72 @@
+#pragma once
+
+#include "models/Event.h"
+
+#include <QList>
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+class ChangeNotifier;
+class Database;
+
+/// Table `events` with `reminders` and `attendees`. Every read gives whole records, children included.
+/// Each write is atomic; on a database error it returns false, logs, and changes nothing.
+class EventRepository : public QObject {
+    Q_OBJECT
+
+public:
+    explicit EventRepository(Database *database, QObject *parent = nullptr);
+    ~EventRepository() override;
+
+    QList<Event> getByCalendar(const QString &calendarId);
+    QList<Event> getByCalendarIncludingDeleted(const QString &calendarId);
+
+    /// Live events whose stored text overlaps [\p start, \p end), and every series that begins before
+    /// \p end, ordered by start. An empty \p calendarIds means all calendars.
+    ///
+    /// The stored texts are compared digit by digit and not as instants: a caller that needs instants
+    /// asks for a day more on each side, and looks again (see VisibleEvents).
+    QList<Event> getInRange(const QDateTime &start, const QDateTime &end, const QStringList &calendarIds);
+
+    /// The live overrides of these series in these calendars, wherever they moved to.
+    QList<Event> getOverrides(const QStringList &masterUids, const QStringList &calendarIds);
+
+    std::optional<Event> getById(const QString &id); ///< a tombstone too
+    /// Case-insensitive for ASCII; "%" and "_" are wildcards.
+    QList<Event> search(const QString &text, int limit);
+    QList<Event> findByRelatedToUid(const QString &uid);
+    std::optional<Event> getByUid(const QString &uid, const QString &calendarId); ///< a tombstone too
+    std::optional<Event> getByUidAndRecurrenceId(const QString &uid, const QString &calendarId,
+                                                 const QString &recurrenceId); ///< a tombstone too
+    QList<Event> getPending(const QString &calendarId); ///< tombstones included: deletions to push
+    bool hasPending();
+
+    /// Fails if the calendar has this UID and recurrence id already.
+    bool insert(const Event &event);
+    /// Replaces the row and all its children; lastModified becomes now. When the start moved, the
+    /// reminders that hang on it get new trigger times and are due again; else both stay.
+    bool update(const Event &event);
+    bool remove(const QString &id); ///< tombstone, pending
+    bool hardDelete(const QString &id);
+    bool markSynced(const QString &id, const QString &href, const QString &etag);
+    /// Brings a deleted event back for undo, also after a sync purged the row.
+    bool restoreDeleted(const Event &event);
+
+signals:
+    /// 150 ms after the last write of a burst. \p calendarId is the last one touched, not the only one.
+    void eventsChanged(const QString &calendarId);
+
+private:
+    class Statements;
+    class SeriesCache;
+
+    void notifyChanged(const QString &calendarId);
+
+    Database *m_database;
+    ChangeNotifier *m_notifier;
+    std::unique_ptr<Statements> m_statements;
+    std::unique_ptr<SeriesCache> m_series;
+};

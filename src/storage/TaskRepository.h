@@ -1,0 +1,57 @@
+#pragma once
+
+#include "models/Task.h"
+
+#include <QList>
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+class ChangeNotifier;
+class Database;
+
+/// Table `tasks` with `task_reminders`. Same rules as EventRepository.
+class TaskRepository : public QObject {
+    Q_OBJECT
+
+public:
+    explicit TaskRepository(Database *database, QObject *parent = nullptr);
+    ~TaskRepository() override;
+
+    QList<Task> getByCalendar(const QString &calendarId); ///< by due date, undated last
+    QList<Task> getByCalendarIncludingDeleted(const QString &calendarId);
+    /// Live tasks due or starting in [\p start, \p end); an empty \p calendarIds means all calendars.
+    QList<Task> getInDueRange(const QDateTime &start, const QDateTime &end, const QStringList &calendarIds);
+    QList<Task> getUndated(const QStringList &calendarIds); ///< neither completed nor cancelled
+    std::optional<Task> getById(const QString &id); ///< a tombstone too
+    std::optional<Task> getByUid(const QString &uid, const QString &calendarId); ///< a tombstone too
+    std::optional<Task> findByUid(const QString &uid); ///< live, in any calendar
+    QList<Task> getPending(const QString &calendarId); ///< tombstones included
+    bool hasPending();
+
+    bool insert(const Task &task);
+    /// lastModified becomes now. When due or start moved, reminders are due again.
+    bool update(const Task &task);
+    bool remove(const QString &id); ///< tombstone, pending
+    bool hardDelete(const QString &id);
+    bool markSynced(const QString &id, const QString &href, const QString &etag);
+
+    /// Completes a task or takes that back. A repeating task is not completed: it moves on to its next
+    /// date, from its due date or from now (Task::repeatMode), if its rule has one left.
+    bool setCompleted(const QString &id, bool completed);
+
+signals:
+    /// 150 ms after the last write of a burst. \p calendarId is the last one touched, not the only one.
+    void tasksChanged(const QString &calendarId);
+
+private:
+    class Statements;
+
+    bool advance(Task &task);
+
+    Database *m_database;
+    ChangeNotifier *m_notifier;
+    std::unique_ptr<Statements> m_statements;
+};

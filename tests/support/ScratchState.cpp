@@ -1,0 +1,71 @@
+#include "support/ScratchState.h"
+
+#include "calendar/services/VisibleEvents.h"
+#include "models/Calendar.h"
+#include "storage/CalendarRepository.h"
+#include "storage/EventRepository.h"
+
+#include <QUuid>
+
+namespace {
+
+QString newId()
+{
+    return QUuid::createUuid().toString(QUuid::WithoutBraces);
+}
+
+}
+
+ScratchState::ScratchState()
+{
+    const bool opened = m_dir.isValid() && m_state.openStorage(m_dir.filePath(QStringLiteral("calendar.db")));
+    if (!opened)
+        qFatal("cannot open a scratch database");
+    m_state.seedDefaultCalendarIfMissing();
+    m_state.setVisibleEvents(new VisibleEvents(&m_state, &m_state));
+    m_state.restoreViewState();
+}
+
+QString ScratchState::calendarId()
+{
+    return LocalDefaults::PersonalCalendarId;
+}
+
+Event ScratchState::addEvent(const QString &title, const QDateTime &start, const QDateTime &end)
+{
+    Event event;
+    event.id = newId();
+    event.uid = event.id;
+    event.calendarId = calendarId();
+    event.title = title;
+    event.startTime = start;
+    event.endTime = end;
+    event.rawIcalendar = QStringLiteral("BEGIN:VCALENDAR\r\nEND:VCALENDAR\r\n");
+    if (!m_state.events()->insert(event))
+        qFatal("cannot store a scratch event");
+    return event;
+}
+
+Event ScratchState::addAllDayEvent(const QString &title, QDate first, int days)
+{
+    Event event = addEvent(title, QDateTime(first, QTime(0, 0), Qt::UTC), QDateTime(first.addDays(days), QTime(0, 0), Qt::UTC));
+    event.isAllDay = true;
+    if (!m_state.events()->update(event))
+        qFatal("cannot store a scratch event");
+    return event;
+}
+
+QString ScratchState::addCalendar(const QString &name, const QString &color)
+{
+    Calendar calendar = m_state.calendars()->getById(calendarId()).value();
+    calendar.id = newId();
+    calendar.url = QStringLiteral("local://calendar/") + calendar.id;
+    calendar.name = name;
+    calendar.isDefault = false;
+    calendar.canonicalKey.clear();
+    if (!color.isEmpty())
+        calendar.color = color;
+    if (!m_state.calendars()->insert(calendar))
+        qFatal("cannot store a scratch calendar");
+    return calendar.id;
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "app/state/AppState.h"
+#include "models/Event.h"
+
+#include <QTemporaryDir>
+
+/// An AppState over a database of its own, seeded as on a first start, without theme and window.
+class ScratchState {
+public:
+    ScratchState();
+
+    AppState *operator->() { return &m_state; }
+    AppState *state() { return &m_state; }
+    [[nodiscard]] QString path(const QString &fileName) const { return m_dir.filePath(fileName); }
+    /// The calendar that a first start creates.
+    static QString calendarId();
+
+    /// A stored event of that calendar; times as given.
+    Event addEvent(const QString &title, const QDateTime &start, const QDateTime &end);
+    Event addAllDayEvent(const QString &title, QDate first, int days = 1);
+    /// A copy of the calendar with another id and name.
+    QString addCalendar(const QString &name, const QString &color = {});
+
+private:
+    QTemporaryDir m_dir;
+    AppState m_state;
+};
