@@ -1,0 +1,21 @@
+# Desktop integration on Linux, and a .deb: cmake --install build/release, or cpack from build/release.
+if(UNIX AND NOT APPLE)
+    install(FILES packaging/com.quillon.Calendar.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+    install(FILES packaging/com.quillon.Calendar.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+    install(DIRECTORY packaging/icons/ DESTINATION ${CMAKE_INSTALL_DATADIR}/icons)
+    install(FILES NOTICES.md LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/quillon-calendar)
+endif()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME quillon-calendar)
+set(CPACK_PACKAGE_CONTACT "The Quillon Calendar developers <calendar@${QUILLON_ORGANIZATION_DOMAIN}>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Desktop calendar with filters and calendar groups")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Plugins that are loaded by name and so have no linked library to follow.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6sql6-sqlite, libqt6svg6")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n, gnome-keyring | keepassxc | kwalletmanager")
+include(CPack)

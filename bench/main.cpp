@@ -1,0 +1,54 @@
+// quillon-bench                              everything, as tables
+// quillon-bench parse FILE                   one JSON line
+// quillon-bench expand FILE FROM TO REPEATS  a JSON line for each repeat; dates as yyyyMMdd, UTC
+// quillon-bench generate FILE EVENTS YEARS   writes the sample file
+
+#include "CalendarBench.h"
+#include "Comparison.h"
+#include "ProgramBench.h"
+#include "SampleFile.h"
+
+#include <QApplication>
+#include <QFile>
+
+#include <cstdio>
+
+namespace {
+
+bool generate(const QString &path, int events, int years)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(SampleFile::generate({.events = events, .years = years})) > 0;
+}
+
+bool dispatch(const QStringList &arguments)
+{
+    const QString command = arguments.value(1);
+    if (command.isEmpty())
+        return Comparison::run() && ProgramBench::run();
+    if (command == u"parse" && arguments.size() == 3)
+        return CalendarBench::parse(arguments[2]);
+    if (command == u"expand" && arguments.size() == 6)
+        return CalendarBench::expand(arguments[2], arguments[3], arguments[4], arguments[5].toInt());
+    if (command == u"generate" && arguments.size() == 5)
+        return generate(arguments[2], arguments[3].toInt(), arguments[4].toInt());
+    std::fputs("usage: quillon-bench [parse FILE | expand FILE FROM TO REPEATS | generate FILE EVENTS YEARS]\n", stderr);
+    return false;
+}
+
+/// A widget program needs a display; parsing and expansion do not, and should not pay for one.
+std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
+{
+    if (argc > 1)
+        return std::make_unique<QCoreApplication>(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QApplication>(argc, argv);
+}
+
+}
+
+int main(int argc, char **argv)
+{
+    const auto application = makeApplication(argc, argv);
+    return dispatch(QCoreApplication::arguments()) ? 0 : 1;
+}
