@@ -18,4 +18,18 @@ QDate lastDay(const Event &event);
 /// on the day of its start.
 bool overlaps(const Event &event, QDate first, int days);
 
+/// The same for many events: the instants of the local days are worked out once.
+class Span {
+public:
+    Span(QDate first, int days);
+
+    [[nodiscard]] bool holds(const Event &event) const;
+
+private:
+    QDate m_first;
+    QDate m_end; ///< exclusive
+    qint64 m_fromMs;
+    qint64 m_toMs;
+};
+
 } // namespace EventDays

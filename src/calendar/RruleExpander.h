@@ -20,6 +20,20 @@ inline constexpr int MaxInstances = 10'000;
 /// the age of the series.
 QList<Event> expand(const Event &event, const QDateTime &from, const QDateTime &to);
 
+/// What tells an occurrence from its master.
+struct Occurrence {
+    QDateTime start;
+    QDateTime end; ///< an hour after the start if the master has no end
+    QString recurrenceId;
+};
+
+/// The same for a series (an event with a recurrence rule), without the copies of the event.
+/// The window is in milliseconds since the epoch.
+QList<Occurrence> occurrences(const Event &master, qint64 fromMs, qint64 toMs);
+
+/// \p master as it is at \p occurrence.
+Event instance(const Event &master, const Occurrence &occurrence);
+
 /// \p start in UTC as "yyyyMMddTHHmmssZ".
 QString formatRecurrenceId(const QDateTime &start);
 

@@ -2,8 +2,11 @@
 
 #include <QObject>
 
+class QDBusPendingCallWatcher;
+
 /// Whether the desktop asks for dark windows. Qt's own answer where Qt has one (6.5 on); on Linux before
-/// that the desktop portal's setting, read asynchronously and followed; else by the palette.
+/// that the desktop portal's setting, read asynchronously and followed; else by the palette that the
+/// application has when this object is made.
 class SystemColorScheme : public QObject {
     Q_OBJECT
 
@@ -21,6 +24,9 @@ private slots:
 private:
     void setDark(bool isDark);
     void askPortal();
+    void onPortalAnswered(QDBusPendingCallWatcher *watcher);
+    void takePortalValue(const QVariant &value);
 
+    bool m_paletteIsDark = false;
     bool m_isDark = false;
 };

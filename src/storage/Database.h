@@ -4,6 +4,11 @@
 #include <QSqlDatabase>
 #include <QStringList>
 
+#include <memory>
+#include <unordered_map>
+
+class QSqlQuery;
+
 /// The program's one connection to its SQLite file, and the migrations that bring the file up to date.
 /// Main thread only.
 class Database : public QObject {
@@ -33,8 +38,8 @@ public:
     [[nodiscard]] quint64 dataGeneration() const { return m_dataGeneration; }
     void dataWritten() { ++m_dataGeneration; }
 
-    /// Counts the removals of events by anything else than EventRepository (a calendar or an account
-    /// went with all it held), and every rollback.
+    /// Counts the changes of events by anything else than EventRepository (a calendar or an account
+    /// went with all it held), and the rollbacks of such.
     [[nodiscard]] quint64 eventPurges() const { return m_eventPurges; }
     void eventsPurged()
     {
@@ -42,17 +47,35 @@ public:
         dataWritten();
     }
 
+    /// How many Savepoints are open.
+    [[nodiscard]] int savepointDepth() const { return m_savepointDepth; }
+
 signals:
     void migrationApplied(int version, const QString &name);
     void migrationError(int version, const QString &message);
 
 private:
+    friend class Savepoint;
+    friend class Statement;
+
+    struct TextHash {
+        size_t operator()(const QString &text) const noexcept { return qHash(text); }
+    };
+
     bool ensureSchemaVersionTable();
     int currentVersion();
     bool applyMigration(int version, const QString &name, const QString &sql);
 
+    std::unique_ptr<QSqlQuery> takePrepared(const QString &sql);
+    void givePrepared(const QString &sql, std::unique_ptr<QSqlQuery> query);
+    [[nodiscard]] bool isTransactionLost() const { return m_isTransactionLost; }
+    void checkTransaction();
+
     QSqlDatabase m_db;
     bool m_isOpen = false;
+    std::unordered_map<QString, std::unique_ptr<QSqlQuery>, TextHash> m_prepared;
+    int m_savepointDepth = 0;
+    bool m_isTransactionLost = false; // SQLite ended it by itself while a Savepoint was open
     quint64 m_dataGeneration = 1;
     quint64 m_eventPurges = 1;
 };

@@ -15,7 +15,7 @@ public:
     ~Savepoint();
     Q_DISABLE_COPY_MOVE(Savepoint)
 
-    /// False if the savepoint could not be opened; statements then run one by one.
+    /// False if the savepoint could not be opened; statements then run one by one, and commit() fails.
     [[nodiscard]] bool isActive() const { return m_active; }
     /// Keeps what was written. False, and rolled back, if SQLite refuses (a full disk).
     bool commit();
@@ -23,5 +23,6 @@ public:
 
 private:
     Database *m_database;
+    quint64 m_purgesBefore;
     bool m_active = false;
 };

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QDate>
+#include <QDateTime>
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QSet>
@@ -109,6 +111,10 @@ public:
     /// Writes the view state that still waits for its half second.
     void flushViewState();
 
+    /// Compares \p now with the day seen last, and signals todayChanged if another one has begun.
+    /// The clock is looked at each minute and right after midnight.
+    void checkToday(const QDateTime &now = QDateTime::currentDateTime());
+
 signals:
     void databaseReady();
     void activeViewChanged(const QString &id);
@@ -136,6 +142,7 @@ private:
     void excludeSampleDataFromSync();
     void enableSyncOnLegacyQuillonCalendars();
     void renameQuillonAccount();
+    void collapseDuplicateAccounts();
 
     QTimer *m_syncDebounce = nullptr;
     QTimer *m_storeTimer = nullptr;

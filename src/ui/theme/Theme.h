@@ -28,14 +28,17 @@ QColor accent();
 QColor accentMuted(); ///< translucent
 QColor danger();
 QColor warning(); ///< amber that can be read as text on surfaceMuted in both modes
-QColor link(); ///< can be read on surface in both modes
+/// The accent as text colour: made darker or lighter until its contrast on surface, canvas and surfaceMuted
+/// is at least 4.5:1.
+QColor accentText();
+QColor link(); ///< can be read on surface, canvas and surfaceMuted in both modes
 
 /// The user's accent as a colour name; empty or unreadable means the standard one.
 QString accentOverride();
 void setAccentOverride(const QString &color);
 
-/// Black-ish or white, whichever can be read on \p background: white where its contrast is at least 4.5:1,
-/// else the better of the two.
+/// White or a dark ink, for text and marks on \p background: white where its contrast is at least 4.5:1, else
+/// the ink, which then has at least that.
 QColor textOn(const QColor &background);
 /// WCAG contrast ratio, 1 to 21. Alpha is ignored.
 double contrastRatio(const QColor &a, const QColor &b);

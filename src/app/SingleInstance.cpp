@@ -1,0 +1,184 @@
+#include "app/SingleInstance.h"
+
+#include "app/state/Platform.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QStandardPaths>
+#include <QWidget>
+
+namespace {
+
+constexpr int SocketTimeoutMs = 800;
+constexpr int ModalRetryMs = 100;
+constexpr qsizetype MaxWaiting = 64;
+constexpr qsizetype LoggedBytes = 200;
+constexpr char ActivationTokenVariable[] = "XDG_ACTIVATION_TOKEN";
+
+const QString CmdKey = QStringLiteral("cmd");
+const QString TextKey = QStringLiteral("text");
+const QString PathKey = QStringLiteral("path");
+const QString TokenKey = QStringLiteral("token");
+
+QByteArray toLine(const QJsonObject &command)
+{
+    return QJsonDocument(command).toJson(QJsonDocument::Compact) + '\n';
+}
+
+QString absolutePath(const QString &path)
+{
+    return path.isEmpty() ? path : QFileInfo(path).absoluteFilePath();
+}
+
+// On Wayland only the token that the desktop gave to this launch lets the running window come to the front.
+QByteArray withActivationToken(const QByteArray &line)
+{
+    const QString token = qEnvironmentVariable(ActivationTokenVariable);
+    if (token.isEmpty())
+        return line;
+    QJsonObject command = QJsonDocument::fromJson(line).object();
+    command.insert(TokenKey, token);
+    return toLine(command);
+}
+
+}
+
+SingleInstance::SingleInstance(QObject *parent)
+    : QObject(parent)
+{
+    m_retry.setInterval(ModalRetryMs);
+    connect(&m_retry, &QTimer::timeout, this, &SingleInstance::dispatchWaiting);
+}
+
+QString SingleInstance::socketName()
+{
+    const QString home = QStandardPaths::writableLocation(QStandardPaths::HomeLocation);
+    const QString name = QStringLiteral("quillon-calendar-") + QFileInfo(home).fileName();
+    const QString instance = Platform::instanceName();
+    return instance.isEmpty() ? name : name + QLatin1Char('-') + instance;
+}
+
+QByteArray SingleInstance::parseArgsToCommand(const QStringList &args)
+{
+    const QString quickAddPrefix = QStringLiteral("--quick-add=");
+    QJsonObject command { { CmdKey, QStringLiteral("focus") } };
+    for (qsizetype i = 1; i < args.size(); ++i) {
+        const QString &arg = args[i];
+        const bool hasNext = i + 1 < args.size();
+        if (arg == QLatin1StringView("--show-today")) {
+            command.insert(CmdKey, QStringLiteral("show-today"));
+        } else if (arg == QLatin1StringView("--new-event")) {
+            command.insert(CmdKey, QStringLiteral("new-event"));
+        } else if (arg == QLatin1StringView("--quick-add") && hasNext) {
+            command.insert(CmdKey, QStringLiteral("quick-add"));
+            command.insert(TextKey, args[++i]);
+        } else if (arg.startsWith(quickAddPrefix)) {
+            command.insert(CmdKey, QStringLiteral("quick-add"));
+            command.insert(TextKey, arg.mid(quickAddPrefix.size()));
+        } else if (arg == QLatin1StringView("--ics") && hasNext) {
+            command.insert(CmdKey, QStringLiteral("open-ics"));
+            command.insert(PathKey, absolutePath(args[++i]));
+        } else if (arg.endsWith(QLatin1StringView(".ics"), Qt::CaseInsensitive) && QFileInfo::exists(arg)) {
+            command.insert(CmdKey, QStringLiteral("open-ics"));
+            command.insert(PathKey, absolutePath(arg));
+        }
+    }
+    return toLine(command);
+}
+
+bool SingleInstance::tryRouteToExisting(const QStringList &args)
+{
+    const QString name = socketName();
+    QLocalSocket socket;
+    socket.connectToServer(name);
+    if (socket.waitForConnected(SocketTimeoutMs)) {
+        socket.write(withActivationToken(parseArgsToCommand(args)));
+        socket.flush();
+        socket.waitForBytesWritten(SocketTimeoutMs);
+        socket.disconnectFromServer();
+        return true;
+    }
+
+    QLocalServer::removeServer(name); // left behind by a crash
+    m_server = new QLocalServer(this);
+    m_server->setSocketOptions(QLocalServer::UserAccessOption);
+    connect(m_server, &QLocalServer::newConnection, this, &SingleInstance::onNewConnection);
+    if (!m_server->listen(name))
+        qWarning().noquote() << "[SingleInstance] failed to listen on" << name << ":" << m_server->errorString();
+    return false;
+}
+
+void SingleInstance::onNewConnection()
+{
+    while (QLocalSocket *socket = m_server->nextPendingConnection()) {
+        socket->setReadBufferSize(MaxLineBytes);
+        connect(socket, &QLocalSocket::readyRead, this, [this, socket] { readLines(socket); });
+        connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+        if (socket->bytesAvailable() > 0)
+            readLines(socket);
+    }
+}
+
+void SingleInstance::readLines(QLocalSocket *socket)
+{
+    while (socket->canReadLine())
+        enqueue(socket->readLine());
+    if (socket->bytesAvailable() >= MaxLineBytes) {
+        qWarning() << "[SingleInstance] bad command: too long";
+        socket->abort();
+        enqueue({});
+    }
+}
+
+void SingleInstance::enqueue(const QByteArray &line)
+{
+    if (m_waiting.size() < MaxWaiting)
+        m_waiting.append(line);
+    dispatchWaiting();
+    // What the new launch was meant to bring to the front is the dialog that holds it up.
+    if (QWidget *modal = m_waiting.isEmpty() ? nullptr : QApplication::activeModalWidget()) {
+        modal->raise();
+        modal->activateWindow();
+    }
+}
+
+void SingleInstance::dispatchWaiting()
+{
+    // Each command may open a modal dialog in its turn, and the rest then waits for that one.
+    while (!m_waiting.isEmpty() && !QApplication::activeModalWidget())
+        dispatchCommand(m_waiting.takeFirst());
+    if (m_waiting.isEmpty())
+        m_retry.stop();
+    else
+        m_retry.start();
+}
+
+void SingleInstance::dispatchCommand(const QByteArray &line)
+{
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(line, &error);
+    if (!document.isObject()) {
+        qWarning() << "[SingleInstance] bad command:" << error.errorString() << line.first(qMin(line.size(), LoggedBytes));
+        emit focusRequested();
+        return;
+    }
+    const QJsonObject command = document.object();
+    if (const QString token = command.value(TokenKey).toString(); !token.isEmpty())
+        qputenv(ActivationTokenVariable, token.toUtf8());
+
+    const QString cmd = command.value(CmdKey).toString();
+    if (cmd == QLatin1StringView("show-today"))
+        emit showTodayRequested();
+    else if (cmd == QLatin1StringView("new-event"))
+        emit newEventRequested();
+    else if (cmd == QLatin1StringView("quick-add"))
+        emit quickAddRequested(command.value(TextKey).toString());
+    else if (cmd == QLatin1StringView("open-ics"))
+        emit openIcsRequested(command.value(PathKey).toString());
+    else
+        emit focusRequested();
+}

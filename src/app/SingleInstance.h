@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QTimer>
+
+class QLocalServer;
+class QLocalSocket;
+
+/// One running program for each user and CALENDAR_INSTANCE. A later launch hands its command to it,
+/// one JSON object in a line, over a local socket that admits the same user only.
+class SingleInstance : public QObject {
+    Q_OBJECT
+
+public:
+    /// Longest command; a peer that sends more without a line feed is cut off.
+    static constexpr qint64 MaxLineBytes = 1024 * 1024;
+
+    explicit SingleInstance(QObject *parent = nullptr);
+
+    /// True if another instance took the command. Else this one listens from now on.
+    /// Blocks for up to 1.6 s; call it before the event loop starts.
+    bool tryRouteToExisting(const QStringList &args);
+
+    /// The command of these arguments (the first is the program), line feed included. Paths come out
+    /// absolute, as the receiver has another working directory.
+    static QByteArray parseArgsToCommand(const QStringList &args);
+    static QString socketName();
+
+    /// Emits the signal of one command. What cannot be read asks for the window.
+    Q_INVOKABLE void dispatchCommand(const QByteArray &line);
+
+signals:
+    void focusRequested();
+    void showTodayRequested();
+    void newEventRequested();
+    void quickAddRequested(const QString &text);
+    void openIcsRequested(const QString &path);
+
+private:
+    void onNewConnection();
+    void readLines(QLocalSocket *socket);
+    void enqueue(const QByteArray &line);
+    void dispatchWaiting();
+
+    QLocalServer *m_server = nullptr; // null until this is the running instance
+    QList<QByteArray> m_waiting; // while a modal dialog is open
+    QTimer m_retry;
+};

@@ -1,0 +1,125 @@
+#include "calendar/RecurrenceRule.h"
+
+#include "calendar/CivilDate.h"
+
+#include <array>
+
+namespace {
+
+using Frequency = RecurrenceRule::Frequency;
+
+bool isWord(QStringView text, QLatin1StringView word)
+{
+    return text.compare(word, Qt::CaseInsensitive) == 0;
+}
+
+/// The text up to the next \p separator, which is taken off \p rest with it.
+QStringView takePart(QStringView &rest, QChar separator)
+{
+    const qsizetype end = rest.indexOf(separator);
+    const QStringView part = end < 0 ? rest : rest.first(end);
+    rest = end < 0 ? QStringView() : rest.sliced(end + 1);
+    return part;
+}
+
+Frequency frequencyFrom(QStringView text)
+{
+    if (isWord(text, QLatin1StringView("DAILY")))
+        return Frequency::Daily;
+    if (isWord(text, QLatin1StringView("WEEKLY")))
+        return Frequency::Weekly;
+    if (isWord(text, QLatin1StringView("MONTHLY")))
+        return Frequency::Monthly;
+    if (isWord(text, QLatin1StringView("YEARLY")))
+        return Frequency::Yearly;
+    return Frequency::Once;
+}
+
+quint8 weekdaysFrom(QStringView text)
+{
+    static constexpr std::array<QLatin1StringView, 7> tokens {
+        QLatin1StringView("MO"), QLatin1StringView("TU"), QLatin1StringView("WE"), QLatin1StringView("TH"),
+        QLatin1StringView("FR"), QLatin1StringView("SA"), QLatin1StringView("SU")
+    };
+    unsigned days = 0;
+    while (!text.isEmpty()) {
+        const QStringView token = takePart(text, u',');
+        for (unsigned i = 0; i < tokens.size(); ++i) {
+            if (isWord(token, tokens[i]))
+                days |= 1U << i;
+        }
+    }
+    return static_cast<quint8>(days);
+}
+
+std::optional<qint64> untilFrom(QStringView text)
+{
+    if (text.endsWith(u'Z'))
+        text.chop(1);
+    const std::optional<CompactTime> time = CompactTime::parse(text);
+    if (!time)
+        return std::nullopt;
+    return time->day * Civil::MsPerDay + time->msOfDay;
+}
+
+/// -1 unless all of \p text is digits.
+int digits(QStringView text)
+{
+    int number = 0;
+    for (const QChar c : text) {
+        if (c < u'0' || c > u'9')
+            return -1;
+        number = number * 10 + (c.unicode() - u'0');
+    }
+    return number;
+}
+
+}
+
+RecurrenceRule RecurrenceRule::parse(QStringView text)
+{
+    RecurrenceRule rule;
+    while (!text.isEmpty()) {
+        QStringView value = takePart(text, u';');
+        if (!value.contains(u'='))
+            continue;
+        const QStringView key = takePart(value, u'=');
+        if (isWord(key, QLatin1StringView("FREQ"))) {
+            rule.frequency = frequencyFrom(value);
+        } else if (isWord(key, QLatin1StringView("INTERVAL"))) {
+            rule.interval = std::max(1, value.toInt());
+        } else if (isWord(key, QLatin1StringView("COUNT"))) {
+            rule.count = std::max(0, value.toInt());
+        } else if (isWord(key, QLatin1StringView("UNTIL"))) {
+            if (const std::optional<qint64> until = untilFrom(value))
+                rule.untilMs = until;
+        } else if (isWord(key, QLatin1StringView("BYDAY"))) {
+            rule.weekdays = weekdaysFrom(value);
+        }
+    }
+    return rule;
+}
+
+std::optional<CompactTime> CompactTime::parse(QStringView text)
+{
+    const bool isDate = text.size() == 8;
+    if (!isDate && (text.size() != 15 || text.at(8) != u'T'))
+        return std::nullopt;
+    const Civil::Date date { .year = digits(text.first(4)),
+                             .month = digits(text.sliced(4, 2)),
+                             .day = digits(text.sliced(6, 2)) };
+    if (date.year < 1 || date.month < 1 || date.month > 12 || date.day < 1
+        || date.day > Civil::daysInMonth(date.year, date.month)) {
+        return std::nullopt;
+    }
+    CompactTime time { .day = Civil::toDays(date), .msOfDay = 0 };
+    if (isDate)
+        return time;
+    const int hour = digits(text.sliced(9, 2));
+    const int minute = digits(text.sliced(11, 2));
+    const int second = digits(text.sliced(13, 2));
+    if (hour < 0 || hour > 23 || minute < 0 || minute > 59 || second < 0 || second > 59)
+        return std::nullopt;
+    time.msOfDay = ((hour * 60 + minute) * 60 + second) * 1000;
+    return time;
+}

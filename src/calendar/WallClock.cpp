@@ -1,0 +1,147 @@
+#include "calendar/WallClock.h"
+
+#include "calendar/CivilDate.h"
+
+#include <QHash>
+
+#include <vector>
+
+namespace {
+
+constexpr qint64 MsPerSecond = 1000;
+// A table reaches this far around the instant asked for: surfaces ask for one span at a time.
+constexpr qint64 TableReachMs = 500 * Civil::MsPerDay;
+// Zone names come from files: a file full of odd ones must not fill the memory.
+constexpr qsizetype MaxTables = 64;
+// No zone is further from UTC than this.
+constexpr qint64 MaxOffsetMs = Civil::MsPerDay;
+
+qint64 zoneOffsetMs(const QTimeZone &zone, qint64 utcMs)
+{
+    return zone.offsetFromUtc(QDateTime::fromMSecsSinceEpoch(utcMs, Qt::UTC)) * MsPerSecond;
+}
+
+}
+
+/// The offsets of a zone around the last instant asked for.
+class WallClock::Offsets {
+public:
+    explicit Offsets(QTimeZone zone)
+        : m_zone(std::move(zone))
+    {
+    }
+
+    qint64 at(qint64 utcMs)
+    {
+        if (utcMs < m_from || utcMs >= m_to)
+            fill(utcMs);
+        qint64 offset = m_firstOffsetMs;
+        for (const Change &change : m_changes) {
+            if (change.utcMs > utcMs)
+                break;
+            offset = change.offsetMs;
+        }
+        return offset;
+    }
+
+    static std::shared_ptr<Offsets> of(const QTimeZone &zone)
+    {
+        thread_local QHash<QByteArray, std::shared_ptr<Offsets>> tables;
+        if (tables.size() > MaxTables)
+            tables.clear();
+        std::shared_ptr<Offsets> &table = tables[zone.id()];
+        if (!table)
+            table = std::make_shared<Offsets>(zone);
+        return table;
+    }
+
+private:
+    struct Change {
+        qint64 utcMs;
+        qint64 offsetMs; // from then on
+    };
+
+    void fill(qint64 utcMs)
+    {
+        m_from = utcMs - TableReachMs;
+        m_to = utcMs + TableReachMs;
+        m_firstOffsetMs = zoneOffsetMs(m_zone, m_from);
+        m_changes.clear();
+        const auto transitions = m_zone.transitions(QDateTime::fromMSecsSinceEpoch(m_from, Qt::UTC),
+                                                    QDateTime::fromMSecsSinceEpoch(m_to, Qt::UTC));
+        for (const QTimeZone::OffsetData &transition : transitions)
+            m_changes.push_back({ transition.atUtc.toMSecsSinceEpoch(), transition.offsetFromUtc * MsPerSecond });
+    }
+
+    QTimeZone m_zone;
+    qint64 m_from = 0;
+    qint64 m_to = 0;
+    qint64 m_firstOffsetMs = 0;
+    std::vector<Change> m_changes;
+};
+
+WallClock::WallClock(const QDateTime &value)
+    : m_spec(value.timeSpec())
+{
+    if (m_spec == Qt::OffsetFromUTC) {
+        m_fixedOffsetMs = value.offsetFromUtc() * MsPerSecond;
+    } else if (m_spec == Qt::TimeZone) {
+        m_zone = value.timeZone();
+        m_offsets = Offsets::of(m_zone);
+    }
+}
+
+WallClock::WallClock(const QTimeZone &zone)
+    : m_spec(zone.isValid() ? Qt::TimeZone : Qt::LocalTime)
+    , m_zone(zone)
+{
+    if (m_spec == Qt::TimeZone)
+        m_offsets = Offsets::of(m_zone);
+}
+
+WallClock::~WallClock() = default;
+
+qint64 WallClock::toUtcMs(qint64 day, int msOfDay) const
+{
+    const qint64 wallMs = day * Civil::MsPerDay + msOfDay;
+    if (m_spec == Qt::UTC || m_spec == Qt::OffsetFromUTC)
+        return wallMs - m_fixedOffsetMs;
+    const qint64 before = offsetMs(wallMs - MaxOffsetMs);
+    const qint64 after = offsetMs(wallMs + MaxOffsetMs);
+    if (before == after || offsetMs(wallMs - before) == before)
+        return wallMs - before;
+    const bool isInGap = offsetMs(wallMs - after) != after;
+    return wallMs - (isInGap ? before : after);
+}
+
+QDateTime WallClock::at(qint64 utcMs) const
+{
+    switch (m_spec) {
+    case Qt::UTC:
+        return QDateTime::fromMSecsSinceEpoch(utcMs, Qt::UTC);
+    case Qt::OffsetFromUTC:
+        return QDateTime::fromMSecsSinceEpoch(utcMs, Qt::OffsetFromUTC,
+                                              static_cast<int>(m_fixedOffsetMs / MsPerSecond));
+    case Qt::TimeZone:
+        return QDateTime::fromMSecsSinceEpoch(utcMs, m_zone);
+    case Qt::LocalTime:
+        break;
+    }
+    return QDateTime::fromMSecsSinceEpoch(utcMs);
+}
+
+QDateTime WallClock::at(QDate date, QTime time) const
+{
+    if (!date.isValid() || !time.isValid())
+        return {};
+    static const qint64 epochJulianDay = QDate(1970, 1, 1).toJulianDay();
+    return at(toUtcMs(date.toJulianDay() - epochJulianDay, time.msecsSinceStartOfDay()));
+}
+
+qint64 WallClock::offsetMs(qint64 utcMs) const
+{
+    // The machine's zone can change while the program runs, so it has no table.
+    if (m_spec == Qt::LocalTime)
+        return QDateTime::fromMSecsSinceEpoch(utcMs).offsetFromUtc() * MsPerSecond;
+    return m_offsets->at(utcMs);
+}

@@ -1,0 +1,112 @@
+#include "storage/StoredTime.h"
+
+#include <QHash>
+#include <QTimeZone>
+
+namespace {
+
+constexpr qsizetype localLength = 19; // yyyy-MM-ddTHH:mm:ss
+constexpr qsizetype utcLength = 20; // …Z
+constexpr qsizetype offsetLength = 25; // …+hh:mm
+
+// The number in text[from, from + digits), or -1.
+int number(QStringView text, qsizetype from, qsizetype digits)
+{
+    int result = 0;
+    for (const QChar c : text.sliced(from, digits)) {
+        if (c < u'0' || c > u'9')
+            return -1;
+        result = result * 10 + (c.unicode() - u'0');
+    }
+    return result;
+}
+
+bool hasUsualPunctuation(QStringView text)
+{
+    return text[4] == u'-' && text[7] == u'-' && text[10] == u'T' && text[13] == u':' && text[16] == u':';
+}
+
+// Seconds east of UTC of "+hh:mm" at the end of text.
+std::optional<int> offsetSeconds(QStringView text)
+{
+    const QChar sign = text[localLength];
+    const int hours = number(text, localLength + 1, 2);
+    const int minutes = number(text, localLength + 4, 2);
+    if ((sign != u'+' && sign != u'-') || text[localLength + 3] != u':' || hours < 0 || hours > 13 || minutes < 0
+        || minutes > 59)
+        return std::nullopt;
+    const int seconds = (hours * 60 + minutes) * 60;
+    return sign == u'-' ? -seconds : seconds;
+}
+
+std::optional<QDateTime> parseUsualForm(QStringView text)
+{
+    if ((text.size() != localLength && text.size() != utcLength && text.size() != offsetLength)
+        || !hasUsualPunctuation(text))
+        return std::nullopt;
+    const QDate date(number(text, 0, 4), number(text, 5, 2), number(text, 8, 2));
+    const QTime time(number(text, 11, 2), number(text, 14, 2), number(text, 17, 2));
+    if (!date.isValid() || !time.isValid())
+        return std::nullopt;
+    if (text.size() == localLength)
+        return QDateTime(date, time);
+    if (text.size() == utcLength)
+        return text.back() == u'Z' ? std::optional(QDateTime(date, time, Qt::UTC)) : std::nullopt;
+    const std::optional<int> offset = offsetSeconds(text);
+    if (!offset)
+        return std::nullopt;
+    return QDateTime(date, time, Qt::OffsetFromUTC, *offset);
+}
+
+const QTimeZone &cachedZone(const QString &id)
+{
+    // Finding a zone reads a file; only a few names occur, but what stands in a row is not bounded.
+    constexpr qsizetype limit = 1000;
+    static QHash<QString, QTimeZone> zones;
+    auto it = zones.find(id);
+    if (it == zones.end()) {
+        if (zones.size() >= limit)
+            zones.clear();
+        it = zones.insert(id, QTimeZone(id.toUtf8()));
+    }
+    return *it;
+}
+
+}
+
+QVariant StoredTime::store(const QDateTime &time)
+{
+    if (!time.isValid())
+        return {};
+    const QString text = time.toString(Qt::ISODate);
+    return text.isEmpty() ? QVariant() : QVariant(text);
+}
+
+QDateTime StoredTime::parse(const QString &text)
+{
+    if (text.isEmpty())
+        return {};
+    if (const auto time = parseUsualForm(text))
+        return *time;
+    return QDateTime::fromString(text, Qt::ISODate);
+}
+
+QDateTime StoredTime::parseStamp(const QString &text)
+{
+    if (text.size() == localLength && text[10] == u' ')
+        return parse(QStringView(text).first(10) + u'T' + QStringView(text).sliced(11) + u'Z');
+    return parse(text);
+}
+
+QDateTime StoredTime::wholeDay(const QDateTime &time)
+{
+    return time.isValid() ? QDateTime(time.date(), QTime(0, 0), Qt::UTC) : time;
+}
+
+QDateTime StoredTime::inZone(const QDateTime &time, const QString &zoneId)
+{
+    if (!time.isValid() || zoneId.isEmpty() || zoneId == QLatin1StringView("UTC"))
+        return time;
+    const QTimeZone &zone = cachedZone(zoneId);
+    return zone.isValid() ? time.toTimeZone(zone) : time;
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QToolButton>
+
+class AppState;
+struct ViewDef;
+
+/// Names the active calendar group, and has the menu to choose, add, edit and delete groups.
+class GroupButton : public QToolButton {
+    Q_OBJECT
+
+public:
+    explicit GroupButton(AppState *state, QWidget *parent = nullptr);
+
+    void refresh();
+
+private:
+    void addGroupEntries(QMenu *menu, const QList<ViewDef> &groups);
+    void addEditEntries(QMenu *menu, const ViewDef *active);
+    void createGroup();
+
+    AppState *m_state;
+};

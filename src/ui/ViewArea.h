@@ -1,0 +1,76 @@
+#pragma once
+
+#include "models/Event.h"
+#include "models/FilterRule.h"
+#include "ui/WheelPager.h"
+
+#include <QDate>
+#include <QElapsedTimer>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+class AppState;
+class DayView;
+class ElidedLabel;
+class GroupButton;
+class ModeBar;
+class QHBoxLayout;
+class QStackedWidget;
+class QTimer;
+class QToolButton;
+class WeekView;
+
+/// The centre of the window: the navigation bar above the calendar surfaces. Drives the navigation state
+/// of AppState and follows it; publishes how many events the filters hide in what is on show.
+class ViewArea : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ViewArea(AppState *state, QWidget *parent = nullptr);
+
+    /// The modes that have a surface, in the order of their buttons.
+    static QStringList availableModes();
+    [[nodiscard]] QString mode() const { return m_mode; }
+    [[nodiscard]] QString dateText() const;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+public slots:
+    void setMode(const QString &requested);
+    void showHorizon(int days); ///< the days timeline, with that many days
+    void stepDate(int direction); ///< by what the mode shows; +1 or -1
+    void moveDays(int days);
+    void moveMonths(int months);
+    void goToToday();
+    void zoomBy(int steps);
+
+signals:
+    void filterEditRequested(const FilterRule &rule);
+    void filterFromEventRequested(const Event &event);
+
+private:
+    QWidget *buildHeader();
+    QHBoxLayout *buildNavigationRow();
+    QToolButton *addStepButton(QHBoxLayout *row, const QString &text, const QString &name, int direction);
+    void buildSurfaces();
+    void connectState();
+    void onCurrentDateChanged(QDate date);
+    void updateDateLabel();
+    void recountSoon();
+    void recomputeFilterStats();
+
+    AppState *m_state;
+    QToolButton *m_back = nullptr;
+    QToolButton *m_forward = nullptr;
+    ElidedLabel *m_dateLabel = nullptr;
+    ModeBar *m_modes = nullptr;
+    QStackedWidget *m_stack;
+    DayView *m_day = nullptr;
+    WeekView *m_week = nullptr;
+    WeekView *m_days = nullptr;
+    QTimer *m_statsTimer;
+    QString m_mode = QStringLiteral("week");
+    WheelPager m_pager;
+    QElapsedTimer m_clock;
+};

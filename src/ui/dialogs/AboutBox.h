@@ -1,0 +1,6 @@
+#pragma once
+
+class QWidget;
+
+/// Name, version, and the licences of what the program is built on.
+void showAboutBox(QWidget *parent);

@@ -1,0 +1,179 @@
+#include "ui/dialogs/FormDialog.h"
+
+#include "ui/dialogs/InlineMessage.h"
+#include "ui/theme/Theme.h"
+
+#include <QDialogButtonBox>
+#include <QEvent>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int Margin = 16;
+constexpr int Spacing = 12;
+constexpr int RowSpacing = 8;
+constexpr int MinWidth = 480;
+
+/// Takes the size that its content wants as long as the screen has it, and scrolls only beyond that.
+class BodyArea : public QScrollArea {
+public:
+    explicit BodyArea(QWidget *parent)
+        : QScrollArea(parent)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setFocusPolicy(Qt::NoFocus);
+        viewport()->setAutoFillBackground(false);
+    }
+
+    [[nodiscard]] QSize sizeHint() const override { return bounded(widget()->sizeHint(), 0.75); }
+    [[nodiscard]] QSize minimumSizeHint() const override { return bounded(widget()->minimumSizeHint(), 0.6); }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
+
+    void resizeEvent(QResizeEvent *event) override
+    {
+        QScrollArea::resizeEvent(event);
+        updateGeometry(); // wrapped text needs another height for another width
+    }
+
+private:
+    [[nodiscard]] QSize bounded(QSize size, double screenShare) const
+    {
+        const int width = qMax(size.width(), viewport()->width());
+        if (widget()->layout()->hasHeightForWidth())
+            size.setHeight(qMax(widget()->layout()->minimumHeightForWidth(width), size.height()));
+        const int highest = int(screen()->availableGeometry().height() * screenShare);
+        if (size.height() > highest)
+            size = QSize(size.width() + verticalScrollBar()->sizeHint().width(), highest);
+        return size;
+    }
+};
+
+}
+
+FormDialog::FormDialog(const QString &title, QWidget *parent)
+    : QDialog(parent)
+{
+    setWindowTitle(title);
+    setMinimumWidth(MinWidth);
+    setSizeGripEnabled(false);
+
+    auto *area = new BodyArea(this);
+    auto *content = new QWidget;
+    m_body = new QVBoxLayout(content);
+    m_body->setContentsMargins(0, 0, 0, 0);
+    m_body->setSpacing(Spacing);
+    area->setWidget(content);
+    content->setAutoFillBackground(false);
+
+    m_problem = new InlineMessage(InlineMessage::Kind::Problem, this);
+    m_buttons = new QDialogButtonBox(this);
+    connect(m_buttons, &QDialogButtonBox::accepted, this, &FormDialog::accept);
+    connect(m_buttons, &QDialogButtonBox::rejected, this, &FormDialog::reject);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(Margin, Margin, Margin, Margin);
+    layout->setSpacing(Spacing);
+    layout->addWidget(area, 1);
+    layout->addWidget(m_problem);
+    layout->addWidget(m_buttons);
+}
+
+void FormDialog::open()
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    QDialog::open();
+}
+
+void FormDialog::accept()
+{
+    clearProblem();
+    if (save())
+        QDialog::accept();
+}
+
+QString FormDialog::problemText() const
+{
+    return m_problem->isHidden() ? QString() : m_problem->text();
+}
+
+QFormLayout *FormDialog::addForm()
+{
+    auto *form = new QFormLayout;
+    form->setContentsMargins(0, 0, 0, 0);
+    form->setHorizontalSpacing(Spacing);
+    form->setVerticalSpacing(RowSpacing);
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_body->addLayout(form);
+    return form;
+}
+
+QLabel *FormDialog::addSection(const QString &title)
+{
+    auto *label = new QLabel(title, this);
+    label->setTextFormat(Qt::PlainText);
+    label->setProperty("muted", true);
+    QFont font = label->font();
+    font.setPointSize(Theme::FontSizeSm);
+    font.setBold(true);
+    label->setFont(font);
+    m_body->addWidget(label);
+    return label;
+}
+
+QLabel *FormDialog::makeHint(const QString &text)
+{
+    auto *label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setProperty("muted", true);
+    return label;
+}
+
+QPushButton *FormDialog::addSaveButtons(const QString &acceptText)
+{
+    m_buttons->addButton(QDialogButtonBox::Cancel);
+    QPushButton *button = m_buttons->addButton(acceptText, QDialogButtonBox::AcceptRole);
+    button->setDefault(true);
+    return button;
+}
+
+QPushButton *FormDialog::addSideButton(const QString &text)
+{
+    QPushButton *button = m_buttons->addButton(text, QDialogButtonBox::ResetRole);
+    button->setAutoDefault(false);
+    return button;
+}
+
+void FormDialog::addCloseButton()
+{
+    m_buttons->addButton(QDialogButtonBox::Close);
+}
+
+void FormDialog::showProblem(const QString &text, QWidget *at)
+{
+    m_problem->showText(text);
+    if (at)
+        at->setFocus(Qt::OtherFocusReason);
+}
+
+void FormDialog::clearProblem()
+{
+    m_problem->showText({});
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QDialog>
+#include <QString>
+
+class InlineMessage;
+class QDialogButtonBox;
+class QFormLayout;
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+
+/// What the small dialogs share: a scrollable body, one place for an error, and the buttons. Accepting
+/// calls save(); the dialog stays open when that is refused.
+class FormDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    /// Shows the dialog over its parent's window; it deletes itself once closed.
+    void open() override;
+    void accept() override;
+    [[nodiscard]] QString problemText() const; ///< of the error on show; empty if there is none
+
+protected:
+    FormDialog(const QString &title, QWidget *parent);
+
+    [[nodiscard]] QVBoxLayout *body() const { return m_body; }
+    [[nodiscard]] QDialogButtonBox *buttons() const { return m_buttons; }
+    QFormLayout *addForm(); ///< below what the body holds already
+    QLabel *addSection(const QString &title);
+    static QLabel *makeHint(const QString &text); ///< muted, wrapped, plain
+
+    /// Cancel, and the button that accepts.
+    QPushButton *addSaveButtons(const QString &acceptText);
+    QPushButton *addSideButton(const QString &text); ///< apart from the others, as "Delete"
+    void addCloseButton();
+
+    /// Stores the form. On refusal it has called showProblem() and returns false.
+    virtual bool save() { return true; }
+    void showProblem(const QString &text, QWidget *at); ///< and puts the focus on \p at
+    void clearProblem();
+
+private:
+    QVBoxLayout *m_body;
+    InlineMessage *m_problem;
+    QDialogButtonBox *m_buttons;
+};

@@ -1,0 +1,264 @@
+#include "ui/dialogs/PreferencesDialog.h"
+
+#include "app/state/AppState.h"
+#include "app/state/DefaultCalendar.h"
+#include "calendar/services/TimeFormat.h"
+#include "storage/PreferencesRepository.h"
+#include "ui/dialogs/ColorButton.h"
+#include "ui/dialogs/ImportDialog.h"
+#include "ui/theme/Theme.h"
+#include "ui/theme/ThemeManager.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QSettings>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int MinFontPercent = 70;
+constexpr int MaxFontPercent = 200;
+constexpr int FontStepPercent = 10;
+constexpr int FontScaleDelayMs = 300; // each step lays the whole program out again
+constexpr int HoursInDay = 24;
+constexpr int DefaultWorkdayStart = 8;
+constexpr int DefaultWorkdayEnd = 18;
+
+const QString WeekStartKey = QStringLiteral("ui/weekStartDay");
+const QString WeekStartChosenKey = QStringLiteral("ui/weekStartDay/customized");
+const QString WorkdayStartKey = QStringLiteral("ui/workdayStart");
+const QString WorkdayEndKey = QStringLiteral("ui/workdayEnd");
+const QString TimeFormatKey = QStringLiteral("ui/timeFormat");
+const QString LanguageKey = QStringLiteral("ui/language");
+
+QFormLayout *makePageForm(QWidget *page)
+{
+    auto *form = new QFormLayout(page);
+    form->setContentsMargins(0, 16, 0, 0);
+    form->setHorizontalSpacing(12);
+    form->setVerticalSpacing(8);
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    return form;
+}
+
+QCheckBox *makeSwitch(AppState *state, const QString &text, const QString &key, bool defaultValue)
+{
+    auto *box = new QCheckBox(text);
+    box->setChecked(state->preferences()->getBool(key, defaultValue));
+    QObject::connect(box, &QCheckBox::toggled, state,
+                     [state, key](bool checked) { state->preferences()->setBool(key, checked); });
+    return box;
+}
+
+}
+
+PreferencesDialog::PreferencesDialog(AppState *state, QWidget *parent)
+    : FormDialog(tr("Preferences"), parent)
+    , m_state(state)
+{
+    auto *tabs = new QTabWidget(this);
+    tabs->setDocumentMode(true);
+    tabs->addTab(buildAppearancePage(), tr("&Appearance"));
+    tabs->addTab(buildCalendarPage(), tr("&Calendar"));
+    tabs->addTab(buildGeneralPage(), tr("&General"));
+    body()->addWidget(tabs, 1);
+    addCloseButton();
+}
+
+PreferencesDialog::~PreferencesDialog()
+{
+    if (m_fontScaleTimer && m_fontScaleTimer->isActive())
+        applyFontScale();
+}
+
+QWidget *PreferencesDialog::buildAppearancePage()
+{
+    auto *page = new QWidget;
+    QFormLayout *form = makePageForm(page);
+    ThemeManager *theme = m_state->theme();
+
+    auto *mode = new QComboBox;
+    mode->addItem(tr("Like the system"), QStringLiteral("system"));
+    mode->addItem(tr("Light"), QStringLiteral("light"));
+    mode->addItem(tr("Dark"), QStringLiteral("dark"));
+    m_accent = new ColorButton;
+    m_accent->setColor(Theme::accent().name());
+    auto *reset = new QPushButton(tr("&Reset"));
+    reset->setAutoDefault(false);
+    reset->setEnabled(!Theme::accentOverride().isEmpty());
+    auto *accentRow = new QHBoxLayout;
+    accentRow->setSpacing(8);
+    accentRow->addWidget(m_accent);
+    accentRow->addWidget(reset);
+    accentRow->addStretch();
+    m_fontScale = new QSpinBox;
+    m_fontScale->setRange(MinFontPercent, MaxFontPercent);
+    m_fontScale->setSingleStep(FontStepPercent);
+    m_fontScale->setSuffix(QStringLiteral(" %"));
+    m_fontScale->setKeyboardTracking(false);
+    m_fontScale->setValue(Theme::fontScalePercent());
+    m_fontScaleTimer = new QTimer(this);
+    m_fontScaleTimer->setSingleShot(true);
+    m_fontScaleTimer->setInterval(FontScaleDelayMs);
+
+    form->addRow(tr("&Theme"), mode);
+    form->addRow(tr("Accent c&olor"), accentRow);
+    form->addRow(tr("&Font size"), m_fontScale);
+    page->setEnabled(theme != nullptr);
+    if (!theme)
+        return page;
+    mode->setCurrentIndex(qMax(0, mode->findData(theme->mode())));
+    connect(mode, &QComboBox::currentIndexChanged, this,
+            [mode, theme] { theme->setMode(mode->currentData().toString()); });
+    connect(m_accent, &ColorButton::colorChanged, theme, &ThemeManager::setAccentOverride);
+    connect(reset, &QPushButton::clicked, theme, [theme] { theme->setAccentOverride({}); });
+    const auto showAccent = [this, reset] {
+        m_accent->setColor(Theme::accent().name());
+        reset->setEnabled(!Theme::accentOverride().isEmpty());
+    };
+    connect(theme, &ThemeManager::accentChanged, this, showAccent);
+    connect(theme, &ThemeManager::modeChanged, this, showAccent);
+    connect(m_fontScale, &QSpinBox::valueChanged, m_fontScaleTimer, qOverload<>(&QTimer::start));
+    connect(m_fontScaleTimer, &QTimer::timeout, this, &PreferencesDialog::applyFontScale);
+    return page;
+}
+
+void PreferencesDialog::applyFontScale()
+{
+    m_fontScaleTimer->stop();
+    m_state->theme()->applyFontScalePercent(m_fontScale->value(), true);
+}
+
+QWidget *PreferencesDialog::buildCalendarPage()
+{
+    auto *page = new QWidget;
+    QFormLayout *form = makePageForm(page);
+    auto *weekStart = new QComboBox;
+    fillWeekStart(weekStart);
+    m_workdayStart = new QComboBox;
+    m_workdayEnd = new QComboBox;
+    m_workdayStart->setAccessibleName(tr("Workday begins"));
+    m_workdayEnd->setAccessibleName(tr("Workday ends"));
+    fillWorkdayHours();
+    connect(m_workdayStart, &QComboBox::activated, this, [this] { onWorkdayChanged(true); });
+    connect(m_workdayEnd, &QComboBox::activated, this, [this] { onWorkdayChanged(false); });
+    auto *workday = new QHBoxLayout;
+    workday->setSpacing(8);
+    workday->addWidget(m_workdayStart, 1);
+    workday->addWidget(new QLabel(QStringLiteral("–")));
+    workday->addWidget(m_workdayEnd, 1);
+
+    auto *timeFormat = new QComboBox;
+    timeFormat->addItem(tr("12 hours (1:30 PM)"), QStringLiteral("12"));
+    timeFormat->addItem(tr("24 hours (13:30)"), QStringLiteral("24"));
+    timeFormat->setCurrentIndex(TimeFormat::use24Hour(m_state) ? 1 : 0);
+    connect(timeFormat, &QComboBox::activated, this, [this, timeFormat] {
+        m_state->preferences()->set(TimeFormatKey, timeFormat->currentData().toString());
+        fillWorkdayHours();
+    });
+    auto *defaultCalendar = new QComboBox;
+    fillDefaultCalendar(defaultCalendar);
+
+    form->addRow(tr("&First day of the week"), weekStart);
+    auto *workdayLabel = new QLabel(tr("&Workday"));
+    workdayLabel->setBuddy(m_workdayStart);
+    form->addRow(workdayLabel, workday);
+    form->addRow(tr("&Time format"), timeFormat);
+    form->addRow(tr("Calendar for &new events"), defaultCalendar);
+    return page;
+}
+
+void PreferencesDialog::fillWeekStart(QComboBox *combo)
+{
+    const QLocale locale;
+    combo->addItem(tr("Automatic"), 0);
+    for (int day = Qt::Monday; day <= Qt::Sunday; ++day)
+        combo->addItem(locale.standaloneDayName(day), day);
+    combo->setCurrentIndex(qMax(0, combo->findData(m_state->preferences()->getInt(WeekStartKey, 0))));
+    connect(combo, &QComboBox::activated, this, [this, combo] {
+        // Before the day itself: whoever hears of the day finds it marked as the user's own.
+        m_state->preferences()->setBool(WeekStartChosenKey, true);
+        m_state->preferences()->setInt(WeekStartKey, combo->currentData().toInt());
+    });
+}
+
+void PreferencesDialog::fillWorkdayHours()
+{
+    const auto fill = [this](QComboBox *combo, int first, int last, const QString &key, int defaultHour) {
+        combo->clear();
+        for (int hour = first; hour <= last; ++hour)
+            combo->addItem(TimeFormat::formatTime(m_state, QTime(hour % HoursInDay, 0)), hour);
+        combo->setCurrentIndex(combo->findData(qBound(first, m_state->preferences()->getInt(key, defaultHour), last)));
+    };
+    fill(m_workdayStart, 0, HoursInDay - 1, WorkdayStartKey, DefaultWorkdayStart);
+    fill(m_workdayEnd, 1, HoursInDay, WorkdayEndKey, DefaultWorkdayEnd);
+}
+
+void PreferencesDialog::onWorkdayChanged(bool startMoved)
+{
+    int start = m_workdayStart->currentData().toInt();
+    int end = m_workdayEnd->currentData().toInt();
+    if (start >= end) { // the hour that was chosen stays, the other one gives way
+        if (startMoved)
+            end = start + 1;
+        else
+            start = end - 1;
+    }
+    m_state->preferences()->setInt(WorkdayStartKey, start);
+    m_state->preferences()->setInt(WorkdayEndKey, end);
+    fillWorkdayHours();
+}
+
+void PreferencesDialog::fillDefaultCalendar(QComboBox *combo)
+{
+    combo->addItem(tr("Automatic"), QString());
+    combo->addItem(tr("The one used last"), DefaultCalendar::sentinel());
+    combo->insertSeparator(combo->count());
+    ImportDialog::fillCalendarCombo(m_state, combo);
+    const QString key = DefaultCalendar::defaultKey(false);
+    combo->setCurrentIndex(qMax(0, combo->findData(m_state->preferences()->get(key, QString()))));
+    connect(combo, &QComboBox::activated, this, [this, combo, key] {
+        const QString id = combo->currentData().toString();
+        if (id.isEmpty())
+            m_state->preferences()->remove(key);
+        else
+            m_state->preferences()->set(key, id);
+    });
+}
+
+QWidget *PreferencesDialog::buildGeneralPage()
+{
+    auto *page = new QWidget;
+    QFormLayout *form = makePageForm(page);
+    auto *language = new QComboBox;
+    fillLanguages(language);
+    form->addRow(tr("&Language"), language);
+    form->addRow(QString(), makeHint(tr("A new language takes effect at the next launch.")));
+    form->addRow(QString(), makeSwitch(m_state, tr("Start &minimized"), QStringLiteral("ui/startMinimized"), false));
+    form->addRow(QString(), makeSwitch(m_state, tr("&Close to tray"), QStringLiteral("ui/closeToTray"), true));
+    return page;
+}
+
+void PreferencesDialog::fillLanguages(QComboBox *combo)
+{
+    combo->addItem(tr("Like the system"), QStringLiteral("system"));
+    combo->addItem(QStringLiteral("English"), QStringLiteral("en"));
+    combo->addItem(QStringLiteral("Español"), QStringLiteral("es"));
+    combo->addItem(QStringLiteral("Deutsch"), QStringLiteral("de"));
+    combo->addItem(QStringLiteral("Français"), QStringLiteral("fr"));
+    combo->addItem(QStringLiteral("日本語"), QStringLiteral("ja"));
+    // Kept apart from the other settings: translations load before the database opens.
+    const QString chosen = QSettings().value(LanguageKey, QStringLiteral("system")).toString();
+    combo->setCurrentIndex(qMax(0, combo->findData(chosen)));
+    connect(combo, &QComboBox::activated, this,
+            [combo] { QSettings().setValue(LanguageKey, combo->currentData().toString()); });
+}

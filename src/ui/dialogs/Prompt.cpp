@@ -1,0 +1,94 @@
+#include "ui/dialogs/Prompt.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QMetaObject>
+#include <QPushButton>
+
+namespace {
+
+Prompt::ScopedAnswers *s_answers = nullptr;
+
+QMessageBox *makeBox(QWidget *parent, QMessageBox::Icon icon, const QString &title, const QString &text)
+{
+    auto *box = new QMessageBox(parent);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setIcon(icon);
+    box->setWindowTitle(title);
+    box->setTextFormat(Qt::PlainText);
+    box->setText(text);
+    return box;
+}
+
+bool record(const QString &kind, const QString &title, const QString &text)
+{
+    if (!s_answers)
+        return false;
+    s_answers->asked.append({ kind, title, text });
+    return true;
+}
+
+}
+
+namespace Prompt {
+
+ScopedAnswers::ScopedAnswers()
+    : m_outer(s_answers)
+{
+    s_answers = this;
+}
+
+ScopedAnswers::~ScopedAnswers()
+{
+    s_answers = m_outer;
+}
+
+void warning(QWidget *parent, const QString &title, const QString &text)
+{
+    if (!record(QStringLiteral("warning"), title, text))
+        makeBox(parent, QMessageBox::Warning, title, text)->open();
+}
+
+void information(QWidget *parent, const QString &title, const QString &text)
+{
+    if (!record(QStringLiteral("information"), title, text))
+        makeBox(parent, QMessageBox::Information, title, text)->open();
+}
+
+void question(QWidget *parent, const QString &title, const QString &text, QObject *context, std::function<void()> onYes)
+{
+    if (record(QStringLiteral("question"), title, text)) {
+        if (s_answers->sayYes)
+            QMetaObject::invokeMethod(context, std::move(onYes), Qt::QueuedConnection);
+        return;
+    }
+    QMessageBox *box = makeBox(parent, QMessageBox::Question, title, text);
+    box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box->setDefaultButton(QMessageBox::No);
+    box->setEscapeButton(QMessageBox::No);
+    QObject::connect(box, &QDialog::finished, context, [onYes = std::move(onYes)](int answer) {
+        if (answer == QMessageBox::Yes)
+            onYes();
+    });
+    box->open();
+}
+
+void openFiles(QWidget *parent, const QString &title, const QString &filter, QObject *context,
+               std::function<void(const QStringList &)> onFiles)
+{
+    if (record(QStringLiteral("openFiles"), title, filter)) {
+        if (!s_answers->files.isEmpty()) {
+            QMetaObject::invokeMethod(
+                context, [onFiles = std::move(onFiles), files = s_answers->files] { onFiles(files); },
+                Qt::QueuedConnection);
+        }
+        return;
+    }
+    auto *dialog = new QFileDialog(parent, title, {}, filter);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFiles);
+    QObject::connect(dialog, &QFileDialog::filesSelected, context, std::move(onFiles));
+    dialog->open();
+}
+
+} // namespace Prompt

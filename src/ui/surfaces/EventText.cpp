@@ -1,0 +1,116 @@
+#include "ui/surfaces/EventText.h"
+
+#include "app/state/AppState.h"
+#include "calendar/EventDays.h"
+#include "calendar/services/TimeFormat.h"
+#include "models/Constants.h"
+#include "storage/CalendarRepository.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QStringList>
+
+namespace {
+
+constexpr int MaxShownChars = 300; // a title of megabytes would take seconds to measure
+
+class Tr {
+    Q_DECLARE_TR_FUNCTIONS(EventText)
+};
+
+QString oneLine(const QString &text)
+{
+    return text.left(MaxShownChars).simplified();
+}
+
+QString dayText(QDate date)
+{
+    return QLocale().toString(date, Tr::tr("ddd, MMM d"));
+}
+
+/// The local end, if it says more than the start.
+std::optional<QDateTime> shownEnd(const Event &event)
+{
+    if (!event.endTime || !event.endTime->isValid() || *event.endTime <= event.startTime)
+        return {};
+    return event.endTime->toLocalTime();
+}
+
+QString allDayWhen(const Event &event)
+{
+    const QDate first = EventDays::firstDay(event);
+    const QDate last = EventDays::lastDay(event);
+    const QString days = last > first ? dayText(first) + u" – " + dayText(last) : dayText(first);
+    return Tr::tr("%1, all day").arg(days);
+}
+
+QStringList details(AppState *state, const Event &event)
+{
+    QStringList lines{EventText::title(event), EventText::when(state, event)};
+    if (event.status == EventStatus::Cancelled)
+        lines.append(Tr::tr("Cancelled"));
+    if (const QString place = EventText::location(event); !place.isEmpty())
+        lines.append(place);
+    if (const auto calendar = state->calendars()->getById(event.calendarId))
+        lines.append(oneLine(calendar->name));
+    return lines;
+}
+
+}
+
+QString EventText::title(const Event &event)
+{
+    const QString title = oneLine(event.title);
+    return title.isEmpty() ? Tr::tr("(Untitled)") : title;
+}
+
+QString EventText::location(const Event &event)
+{
+    return oneLine(event.location);
+}
+
+QString EventText::timeLine(AppState *state, const Event &event)
+{
+    const QDateTime start = event.startTime.toLocalTime();
+    const std::optional<QDateTime> end = shownEnd(event);
+    if (!end)
+        return TimeFormat::formatTime(state, start);
+    const bool spansDates = end->date() != start.date();
+    const auto clock = [state, spansDates](const QDateTime &value) {
+        const QString time = TimeFormat::formatTime(state, value);
+        return spansDates ? QLocale().toString(value.date(), QStringLiteral("ddd ")) + time : time;
+    };
+    return clock(start) + u" – " + clock(*end);
+}
+
+QString EventText::when(AppState *state, const Event &event)
+{
+    if (event.isAllDay)
+        return allDayWhen(event);
+    const QDateTime start = event.startTime.toLocalTime();
+    const std::optional<QDateTime> end = shownEnd(event);
+    const auto moment = [state](const QDateTime &value) {
+        return dayText(value.date()) + u", " + TimeFormat::formatTime(state, value);
+    };
+    if (!end)
+        return moment(start);
+    const QString until = end->date() == start.date() ? TimeFormat::formatTime(state, *end) : moment(*end);
+    return moment(start) + u" – " + until;
+}
+
+QString EventText::toolTip(AppState *state, const Event &event)
+{
+    return details(state, event).join(u'\n');
+}
+
+QString EventText::sentence(AppState *state, const Event &event)
+{
+    return details(state, event).join(QStringLiteral(", "));
+}
+
+QString EventText::hourLabel(AppState *state, int hour)
+{
+    //: the label of an hour line, as a time pattern
+    const QString pattern = TimeFormat::use24Hour(state) ? QStringLiteral("HH:mm") : Tr::tr("h AP");
+    return QLocale().toString(QTime(hour, 0), pattern);
+}

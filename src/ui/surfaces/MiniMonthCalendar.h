@@ -1,0 +1,65 @@
+#pragma once
+
+#include "ui/surfaces/MiniMonthGeometry.h"
+
+#include <QDate>
+#include <QSet>
+#include <QWidget>
+
+class AppState;
+class QToolButton;
+
+/// A month to pick a date from, with a dot under each day that has events. It can show another month than
+/// that of the current date; a click or a key makes a day the current date of \p state.
+class MiniMonthCalendar : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit MiniMonthCalendar(AppState *state, QWidget *parent = nullptr);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+    [[nodiscard]] QDate displayedMonth() const { return m_month; } ///< its first day
+    [[nodiscard]] QDate gridStart() const;
+    [[nodiscard]] QDate dateAt(QPoint point) const; ///< invalid outside the days
+    [[nodiscard]] QRect dateRect(QDate date) const; ///< empty for a day that is not on show
+    [[nodiscard]] bool isBusy(QDate date) const { return m_busyDays.contains(date); }
+
+public slots:
+    void stepMonth(int months); ///< moves only what is on show
+
+signals:
+    void displayedMonthChanged(QDate month);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void connectSources();
+    void onCurrentDateChanged(QDate date);
+    void reloadOrMarkStale();
+    void reloadEvents();
+    void updateLayout();
+    [[nodiscard]] Qt::DayOfWeek firstDayOfWeek() const;
+    void paintHeader(QPainter &painter) const;
+    void paintWeekdays(QPainter &painter) const;
+    void paintDay(QPainter &painter, QDate date, const QRect &cell) const;
+
+    AppState *m_state;
+    QToolButton *m_previous;
+    QToolButton *m_next;
+    MiniMonthGeometry m_geometry;
+    QDate m_month;
+    QDate m_hovered;
+    QSet<QDate> m_busyDays;
+    bool m_isStale = true;
+};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QDate>
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+
+/// Where the parts of a small month lie, in pixels of its widget. The constants fit a font of ordinary size;
+/// the three heights grow with what the font needs.
+struct MiniMonthGeometry {
+    static constexpr int Columns = 7;
+    static constexpr int Rows = 6;
+    static constexpr int MarginPx = 4;
+
+    int widthPx = 240;
+    int headerHeightPx = 32;
+    int weekdayHeightPx = 22;
+    int rowHeightPx = 34;
+
+    /// The days on show are those of \p month's six weeks, from the last \p firstDayOfWeek that is not after
+    /// the first of the month. Invalid for an invalid date.
+    static QDate gridStart(QDate month, Qt::DayOfWeek firstDayOfWeek);
+
+    [[nodiscard]] QSize sizeHint() const;
+    [[nodiscard]] QRect headerRect() const;
+    [[nodiscard]] QRect weekdayRect(int column) const;
+    /// Pixels that seven equal columns leave over go to the first ones, one each.
+    [[nodiscard]] QRect cellRect(int column, int row) const;
+    /// The index of the cell at \p point, 0 to 41, or -1.
+    [[nodiscard]] int cellAt(QPoint point) const;
+
+    /// The largest circle that leaves room around it, in pixels.
+    static qreal dayRadius(const QRect &cell);
+};
+
+/// Months that a turn of the wheel steps, by its angle delta: -1, 0 or 1.
+int monthStepForWheel(QPoint angleDelta);

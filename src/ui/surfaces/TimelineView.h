@@ -1,0 +1,88 @@
+#pragma once
+
+#include "models/Event.h"
+#include "models/FilterRule.h"
+
+#include <QDate>
+#include <QTimer>
+#include <QWidget>
+
+#include <optional>
+
+class AllDayStrip;
+class AppState;
+class EventCanvas;
+class QScrollArea;
+class QVBoxLayout;
+class TimelineWidget;
+struct VisibleSpan;
+
+/// A timeline in a scroll area under its all-day strip. It loads what they show, follows the program's
+/// state, and hands the user's requests on. While hidden it loads nothing, and catches up when it is shown.
+class TimelineView : public QWidget {
+    Q_OBJECT
+
+public:
+    void reload();
+    void relandOnStartHour(); ///< at once if it is on show, else when it next is
+    void applyInitialScroll();
+    void zoomBy(int steps); ///< around the middle of what is on show; a step is 8 pixels an hour
+
+    [[nodiscard]] virtual QDate firstDay() const = 0;
+    [[nodiscard]] virtual int columnCount() const = 0;
+    [[nodiscard]] TimelineWidget *timeline() const { return m_timeline; }
+    [[nodiscard]] AllDayStrip *strip() const { return m_strip; }
+    [[nodiscard]] QScrollArea *scrollArea() const { return m_scroll; }
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+signals:
+    /// \p globalRect is empty if the event is not on screen.
+    void eventSelected(const QString &id, const QDateTime &occurrenceStart, const QRect &globalRect);
+    void eventActivated(const QString &id);
+    void filterEditRequested(const FilterRule &rule);
+    void filterFromEventRequested(const Event &event);
+
+protected:
+    /// \p mode names the view mode whose density applies.
+    TimelineView(AppState *state, TimelineWidget *timeline, const QString &mode, int nowLineIntervalMs,
+                 QWidget *parent);
+
+    [[nodiscard]] AppState *state() const { return m_state; }
+    [[nodiscard]] QVBoxLayout *column() const { return m_layout; }
+    void reloadOrMarkStale();
+
+    virtual void showData(const VisibleSpan &span, const QSet<QString> &syncableCalendarIds) = 0;
+    virtual void onColumnsChanged(int gutterPx, int contentWidthPx);
+    virtual void onTodayChanged(QDate today);
+
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void connectState();
+    void connectCanvas(EventCanvas *canvas);
+    void onHourHeightChanged(int pixels);
+    void onWorkdayHoursChanged(int start, int end);
+    void onEventSelected(const QString &id, const QDateTime &occurrenceStart, const QRect &globalRect);
+    void onContextRequested(const EventCanvas *canvas, const QString &id, const QPoint &globalPos);
+    void zoomAt(int steps, int viewportY);
+    void updateNow();
+    void updateColumns();
+    void fitTimeline();
+
+    AppState *m_state;
+    QString m_mode;
+    TimelineWidget *m_timeline;
+    AllDayStrip *m_strip;
+    QScrollArea *m_scroll;
+    QVBoxLayout *m_layout;
+    QTimer m_nowTimer;
+    int m_workdayStart = 8; // hours
+    int m_workdayEnd = 18;
+    bool m_isStale = true;
+    bool m_landPending = true;
+    std::optional<int> m_zoomAnchorPx; // in the viewport, during a zoom of our own
+};

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "ui/surfaces/EventCanvas.h"
+#include "ui/surfaces/TimelineGeometry.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QStaticText>
+
+#include <optional>
+
+struct VisibleSpan;
+class QPainter;
+
+/// Timed events on a vertical axis of 24 hours, one column for each day. It is as tall as its hours need, and
+/// sits in a scroll area. DayTimelineWidget and WeekTimelineWidget only differ in their Look.
+class TimelineWidget : public EventCanvas {
+    Q_OBJECT
+
+public:
+    using Block = EventBlock;
+
+    struct Look {
+        int widthHintPx;
+        int blockRightPx;
+        int textLeftPx; ///< from the block's left edge
+        int textRightPx;
+        int iconRightPx; ///< from the block's right edge
+        int nowDotRadiusPx;
+        bool hasColumnLines; ///< lines between columns, and a tint on today's
+    };
+
+    void setCompact(bool compact);
+    void setBaseHourHeight(int pixels);
+    void setWorkdayHours(int start, int end);
+    void setGutterPx(int pixels);
+    /// The moment that the now line shows; its date is today.
+    void setNow(const QDateTime &now);
+
+    [[nodiscard]] QDate firstDay() const { return m_firstDay; }
+    [[nodiscard]] int columnCount() const { return m_columnCount; }
+    [[nodiscard]] int baseHourHeight() const { return m_baseHourHeight; }
+    [[nodiscard]] int hourHeight() const; ///< pixels; grows when the widget is taller than its hours need
+    [[nodiscard]] int yForTime(QTime time) const { return metrics().yForTime(time); }
+    [[nodiscard]] int yForBoundary(const QDateTime &boundary, QDate date) const;
+    [[nodiscard]] int neededGutterPx() const; ///< for the widest hour label
+    [[nodiscard]] TimelineMetrics metrics() const;
+    [[nodiscard]] QRect nowLineRect() const; ///< empty if today does not show
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+signals:
+    /// Ctrl and the wheel: by how many notches, and the pointer's y in the widget.
+    void zoomRequested(int steps, int y);
+    void revealRequested(const QRect &rect);
+
+protected:
+    TimelineWidget(AppState *state, const Look &look, QWidget *parent);
+
+    void setDays(QDate firstDay, int columnCount);
+    void setSpan(const VisibleSpan &span, const QSet<QString> &syncableCalendarIds);
+
+    void relayout() override;
+    [[nodiscard]] QList<EventKey> walkOrder() const override;
+    void reveal(const EventKey &key) override;
+    [[nodiscard]] Qt::CursorShape cursorOver(const EventBlock &block) const override;
+
+    [[nodiscard]] virtual QColor nowLineColor() const = 0;
+
+    void paintEvent(QPaintEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    /// A block's colours and measured texts, made when it is first painted.
+    struct Content {
+        QColor body, stripe, text;
+        QStaticText title, time, location; // empty where there is no room
+        QString icons; // glyphs, from the right
+        QPoint textPos;
+    };
+
+    [[nodiscard]] int paddingPx() const { return m_isCompact ? 1 : 4; }
+    [[nodiscard]] int todayColumn() const; ///< -1 if today does not show
+    [[nodiscard]] Content makeContent(const EventBlock &block) const;
+    void paintBackground(QPainter &painter, const QRect &exposed) const;
+    void paintHours(QPainter &painter, const QRect &exposed) const;
+    void paintNowLine(QPainter &painter) const;
+    void paintBlock(QPainter &painter, int index);
+    void paintIcons(QPainter &painter, const QRect &rect, const Content &content) const;
+
+    Look m_look;
+    QDate m_firstDay;
+    int m_columnCount = 1;
+    QSet<QString> m_syncableCalendarIds;
+    int m_workdayStart = 8; // hours
+    int m_workdayEnd = 18;
+    int m_baseHourHeight = 56; // pixels
+    int m_gutterPx = DayColumns::StandardGutterPx;
+    bool m_isCompact = false;
+    QDateTime m_now;
+    WheelNotches m_zoomNotches;
+    QList<std::optional<Content>> m_contents; // beside blocks()
+};

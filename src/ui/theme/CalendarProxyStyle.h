@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QProxyStyle>
+
+/// The style Fusion with check boxes and radio buttons of our own, in lists too.
+class CalendarProxyStyle : public QProxyStyle {
+    Q_OBJECT
+
+public:
+    CalendarProxyStyle();
+
+    int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
+                    const QWidget *widget = nullptr) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget = nullptr) const override;
+};
