@@ -10,6 +10,7 @@
 #include "ui/dialogs/UpdateDialog.h"
 #include "ui/theme/Theme.h"
 
+#include <QDebug>
 #include <QEvent>
 #include <QFile>
 #include <QFontDatabase>
@@ -143,6 +144,7 @@ int Application::run()
 
 int Application::reportDatabaseFailure()
 {
+    qCritical().noquote() << "[Startup] the database cannot be used:" << Platform::databasePath();
     QMessageBox box(QMessageBox::Critical, tr("Database Error"),
                     tr("Failed to initialize the database.\n\nData directory: %1\n\nPlease check file permissions and "
                        "try again.")

@@ -130,7 +130,7 @@ void SingleInstance::readLines(QLocalSocket *socket)
     if (socket->bytesAvailable() >= MaxLineBytes) {
         qWarning() << "[SingleInstance] bad command: too long";
         socket->abort();
-        enqueue({});
+        enqueue("{}"); // asks for the window, as all that cannot be read
     }
 }
 

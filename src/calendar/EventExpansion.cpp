@@ -55,10 +55,10 @@ struct Rows {
     }
 };
 
-void appendInstances(QList<Event> &result, const Event &master, const QList<Occurrence> &occurrences,
+void appendInstances(QList<Event> &result, const Event &master, QList<Occurrence> &occurrences,
                      SeriesOverrides *overrides)
 {
-    for (const Occurrence &occurrence : occurrences) {
+    for (Occurrence &occurrence : occurrences) {
         if (overrides) {
             const auto found = overrides->find(occurrence.recurrenceId);
             if (found != overrides->end()) {
@@ -67,7 +67,7 @@ void appendInstances(QList<Event> &result, const Event &master, const QList<Occu
                 continue;
             }
         }
-        result.append(RruleExpander::instance(master, occurrence));
+        RruleExpander::appendInstance(result, master, std::move(occurrence));
     }
 }
 

@@ -64,6 +64,7 @@ QSet<QString> parseCalendarIds(const QString &json);
 
 /// The first rule by priority that matches decides over an event; disabled and unreadable rules are skipped.
 FilterResult apply(const QList<Event> &events, const QList<FilterRule> &rules);
+FilterResult apply(QList<Event> &&events, const QList<FilterRule> &rules); ///< spares the copies
 std::optional<FilterRule> firstMatchingRule(const Event &event, const QList<FilterRule> &rules);
 
 } // namespace FilterEngine

@@ -2,15 +2,25 @@
 
 #include "calendar/CivilDate.h"
 
+#include <QString>
+
 #include <array>
 
 namespace {
 
 using Frequency = RecurrenceRule::Frequency;
 
+/// Compares without regard to the case of ASCII letters; \p word is in upper case.
 bool isWord(QStringView text, QLatin1StringView word)
 {
-    return text.compare(word, Qt::CaseInsensitive) == 0;
+    if (text.size() != word.size())
+        return false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i].unicode();
+        if ((c >= u'a' && c <= u'z' ? c - (u'a' - u'A') : c) != word[i].unicode())
+            return false;
+    }
+    return true;
 }
 
 /// The text up to the next \p separator, which is taken off \p rest with it.

@@ -261,18 +261,17 @@ QList<RruleExpander::Occurrence> RruleExpander::occurrences(const Event &master,
     result.reserve(starts.size());
     for (const qint64 startMs : starts) {
         if (!std::binary_search(exceptions.begin(), exceptions.end(), startMs))
-            result.append({ clock.at(startMs), clock.at(startMs + durationMs), recurrenceIdAt(startMs) });
+            result.emplaceBack(Occurrence { clock.at(startMs), clock.at(startMs + durationMs), recurrenceIdAt(startMs) });
     }
     return result;
 }
 
-Event RruleExpander::instance(const Event &master, const Occurrence &occurrence)
+void RruleExpander::appendInstance(QList<Event> &events, const Event &master, Occurrence &&occurrence)
 {
-    Event copy = master;
-    copy.startTime = occurrence.start;
-    copy.endTime = occurrence.end;
-    copy.recurrenceId = occurrence.recurrenceId;
-    return copy;
+    Event &copy = events.emplaceBack(master);
+    copy.startTime = std::move(occurrence.start);
+    copy.endTime = std::move(occurrence.end);
+    copy.recurrenceId = std::move(occurrence.recurrenceId);
 }
 
 QList<Event> RruleExpander::expand(const Event &event, const QDateTime &from, const QDateTime &to)
@@ -283,11 +282,11 @@ QList<Event> RruleExpander::expand(const Event &event, const QDateTime &from, co
             return {};
         return { event };
     }
-    const QList<Occurrence> found = occurrences(event, from.toMSecsSinceEpoch(), to.toMSecsSinceEpoch());
+    QList<Occurrence> found = occurrences(event, from.toMSecsSinceEpoch(), to.toMSecsSinceEpoch());
     QList<Event> result;
     result.reserve(found.size());
-    for (const Occurrence &occurrence : found)
-        result.append(instance(event, occurrence));
+    for (Occurrence &occurrence : found)
+        appendInstance(result, event, std::move(occurrence));
     return result;
 }
 

@@ -31,8 +31,8 @@ struct Occurrence {
 /// The window is in milliseconds since the epoch.
 QList<Occurrence> occurrences(const Event &master, qint64 fromMs, qint64 toMs);
 
-/// \p master as it is at \p occurrence.
-Event instance(const Event &master, const Occurrence &occurrence);
+/// Adds \p master as it is at \p occurrence to \p events, with a single copy.
+void appendInstance(QList<Event> &events, const Event &master, Occurrence &&occurrence);
 
 /// \p start in UTC as "yyyyMMddTHHmmssZ".
 QString formatRecurrenceId(const QDateTime &start);

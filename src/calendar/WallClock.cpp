@@ -9,6 +9,7 @@
 namespace {
 
 constexpr qint64 MsPerSecond = 1000;
+constexpr qint64 EpochJulianDay = 2'440'588;
 // A table reaches this far around the instant asked for: surfaces ask for one span at a time.
 constexpr qint64 TableReachMs = 500 * Civil::MsPerDay;
 // Zone names come from files: a file full of odd ones must not fill the memory.
@@ -134,14 +135,16 @@ QDateTime WallClock::at(QDate date, QTime time) const
 {
     if (!date.isValid() || !time.isValid())
         return {};
-    static const qint64 epochJulianDay = QDate(1970, 1, 1).toJulianDay();
-    return at(toUtcMs(date.toJulianDay() - epochJulianDay, time.msecsSinceStartOfDay()));
+    return at(toUtcMs(date.toJulianDay() - EpochJulianDay, time.msecsSinceStartOfDay()));
 }
 
 qint64 WallClock::offsetMs(qint64 utcMs) const
 {
     // The machine's zone can change while the program runs, so it has no table.
-    if (m_spec == Qt::LocalTime)
-        return QDateTime::fromMSecsSinceEpoch(utcMs).offsetFromUtc() * MsPerSecond;
+    if (m_spec == Qt::LocalTime) {
+        const QDateTime local = QDateTime::fromMSecsSinceEpoch(utcMs);
+        const qint64 day = local.date().toJulianDay() - EpochJulianDay;
+        return day * Civil::MsPerDay + local.time().msecsSinceStartOfDay() - utcMs;
+    }
     return m_offsets->at(utcMs);
 }

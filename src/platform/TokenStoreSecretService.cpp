@@ -117,7 +117,11 @@ bool SecretServiceStore::open()
     });
     ErrorHolder holder;
     m_service.reset(secret_service_open_finish(result.get(), &holder.error));
-    return m_service != nullptr;
+    if (!m_service)
+        return false;
+    // By default GLib ends the process when the session bus goes away.
+    g_dbus_connection_set_exit_on_close(g_dbus_proxy_get_connection(G_DBUS_PROXY(m_service.get())), FALSE);
+    return true;
 }
 
 SecretServiceStore::Attributes SecretServiceStore::attributes(const QByteArray &key) const

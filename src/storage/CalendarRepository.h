@@ -37,5 +37,7 @@ signals:
     void calendarsChanged();
 
 private:
+    bool announce(bool stored); // signals a write that succeeded
+
     Database *m_database;
 };

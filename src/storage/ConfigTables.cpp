@@ -5,44 +5,42 @@ using namespace StoredAs;
 
 const Table<ViewDef> &Tables::views()
 {
-    static const Table<ViewDef> table(
-        "calendar_views",
-        {
-            column<&ViewDef::id, Text>("id", Write::OnInsert),
-            column<&ViewDef::name, Text>("name"),
-            column<&ViewDef::color, NullableText>("color"),
-            column<&ViewDef::calendarIds, Text>("calendar_ids"),
-            column<&ViewDef::isDefault, Flag>("is_default"),
-            column<&ViewDef::sortOrder, Number>("sort_order"),
-            column<&ViewDef::syncStatus, Text>("sync_status"),
-            column<&ViewDef::createdAt, Stamp>("created_at", Write::OnInsert),
-            column<&ViewDef::updatedAt, Stamp>("updated_at"),
-            column<&ViewDef::deletedAt, OptionalStamp>("deleted_at", Write::Never),
-        });
+    static const Table<ViewDef> table("calendar_views",
+                                      {
+                                          column<&ViewDef::id, Text>("id", Write::OnInsert),
+                                          column<&ViewDef::name, Text>("name"),
+                                          column<&ViewDef::color, NullableText>("color"),
+                                          column<&ViewDef::calendarIds, Text>("calendar_ids"),
+                                          column<&ViewDef::isDefault, Flag>("is_default"),
+                                          column<&ViewDef::sortOrder, Number>("sort_order"),
+                                          column<&ViewDef::syncStatus, Text>("sync_status"),
+                                          column<&ViewDef::createdAt, Stamp>("created_at", Write::OnInsert),
+                                          column<&ViewDef::updatedAt, Stamp>("updated_at"),
+                                          column<&ViewDef::deletedAt, OptionalStamp>("deleted_at", Write::Never),
+                                      });
     return table;
 }
 
 const Table<FilterRule> &Tables::filterRules()
 {
-    static const Table<FilterRule> table(
-        "filter_rules",
-        {
-            column<&FilterRule::id, Text>("id", Write::OnInsert),
-            column<&FilterRule::name, Text>("name"),
-            column<&FilterRule::type, Text>("type"),
-            column<&FilterRule::enabled, Flag>("enabled"),
-            column<&FilterRule::calendarIds, Text>("calendar_ids"),
-            column<&FilterRule::conditions, Text>("conditions"),
-            column<&FilterRule::action, Text>("action"),
-            column<&FilterRule::priority, Number>("priority"),
-            column<&FilterRule::eventUid, NullableText>("event_uid"),
-            column<&FilterRule::eventCalendarId, NullableText>("event_calendar_id"),
-            column<&FilterRule::suppressReminders, Flag>("suppress_reminders"),
-            column<&FilterRule::syncStatus, Text>("sync_status"),
-            column<&FilterRule::createdAt, Stamp>("created_at", Write::OnInsert),
-            column<&FilterRule::updatedAt, Stamp>("updated_at"),
-            column<&FilterRule::deletedAt, OptionalStamp>("deleted_at", Write::Never),
-        });
+    static const Table<FilterRule> table("filter_rules",
+                                         {
+                                             column<&FilterRule::id, Text>("id", Write::OnInsert),
+                                             column<&FilterRule::name, Text>("name"),
+                                             column<&FilterRule::type, Text>("type"),
+                                             column<&FilterRule::enabled, Flag>("enabled"),
+                                             column<&FilterRule::calendarIds, Text>("calendar_ids"),
+                                             column<&FilterRule::conditions, Text>("conditions"),
+                                             column<&FilterRule::action, Text>("action"),
+                                             column<&FilterRule::priority, Number>("priority"),
+                                             column<&FilterRule::eventUid, NullableText>("event_uid"),
+                                             column<&FilterRule::eventCalendarId, NullableText>("event_calendar_id"),
+                                             column<&FilterRule::suppressReminders, Flag>("suppress_reminders"),
+                                             column<&FilterRule::syncStatus, Text>("sync_status"),
+                                             column<&FilterRule::createdAt, Stamp>("created_at", Write::OnInsert),
+                                             column<&FilterRule::updatedAt, Stamp>("updated_at"),
+                                             column<&FilterRule::deletedAt, OptionalStamp>("deleted_at", Write::Never),
+                                         });
     return table;
 }
 
@@ -64,7 +62,7 @@ const Table<EventTemplate> &Tables::templates()
             column<&EventTemplate::reminders, JsonArray>("reminders"),
             column<&EventTemplate::sortOrder, Number>("sort_order"),
             // Every change made here is still to be pushed, and the record does not say so.
-            {"sync_status", [](const EventTemplate &) { return QVariant(QString(SyncStatus::Pending)); }, nullptr},
+            { "sync_status", [](const EventTemplate &) { return QVariant(QString(SyncStatus::Pending)); }, nullptr },
             column<&EventTemplate::createdAt, Stamp>("created_at", Write::OnInsert),
             column<&EventTemplate::updatedAt, Stamp>("updated_at"),
             column<&EventTemplate::deletedAt, OptionalStamp>("deleted_at", Write::Never),

@@ -11,6 +11,7 @@
 
 class ChangeNotifier;
 class Database;
+class EventRanges;
 
 /// Table `events` with `reminders` and `attendees`. Every read gives whole records, children included.
 /// Each write is atomic; on a database error it returns false, logs, and changes nothing.
@@ -60,13 +61,9 @@ signals:
     void eventsChanged(const QString &calendarId);
 
 private:
-    class Statements;
-    class SeriesCache;
-
     void notifyChanged(const QString &calendarId);
 
     Database *m_database;
     ChangeNotifier *m_notifier;
-    std::unique_ptr<Statements> m_statements;
-    std::unique_ptr<SeriesCache> m_series;
+    std::unique_ptr<EventRanges> m_ranges;
 };

@@ -32,5 +32,7 @@ signals:
     void filterRulesChanged();
 
 private:
+    bool announce(bool stored); // signals a write that succeeded
+
     Database *m_database;
 };

@@ -14,22 +14,22 @@ struct Migration {
 };
 
 constexpr Migration migrations[] = {
-    {1, "initial", "001_initial.sql"},
-    {2, "event_sync", "002_event_sync.sql"},
-    {3, "tasks_sync", "003_tasks_sync.sql"},
-    {4, "accounts_sort_order", "004_accounts_sort_order.sql"},
-    {5, "provider_event_idx", "005_provider_event_id_index.sql"},
-    {6, "events_uid_unique", "006_events_uid_unique.sql"},
-    {7, "tasks_dateonly_repeat", "007_tasks_dateonly_and_repeat_mode.sql"},
-    {8, "accounts_soft_delete", "008_accounts_soft_delete.sql"},
-    {9, "event_related_to", "009_event_related_to.sql"},
-    {10, "task_reminders", "010_task_reminders.sql"},
-    {11, "task_item_type", "011_task_item_type.sql"},
-    {12, "reap_orphaned_calendars", "012_reap_orphaned_calendars.sql"},
-    {13, "calendar_allow_tasks_override", "013_calendar_allow_tasks_override.sql"},
-    {14, "local_calendars_support_tasks", "014_local_calendars_support_tasks.sql"},
-    {15, "drop_sync_queue", "015_drop_sync_queue.sql"},
-    {16, "calendars_soft_delete", "016_calendars_soft_delete.sql"},
+    { 1, "initial", "001_initial.sql" },
+    { 2, "event_sync", "002_event_sync.sql" },
+    { 3, "tasks_sync", "003_tasks_sync.sql" },
+    { 4, "accounts_sort_order", "004_accounts_sort_order.sql" },
+    { 5, "provider_event_idx", "005_provider_event_id_index.sql" },
+    { 6, "events_uid_unique", "006_events_uid_unique.sql" },
+    { 7, "tasks_dateonly_repeat", "007_tasks_dateonly_and_repeat_mode.sql" },
+    { 8, "accounts_soft_delete", "008_accounts_soft_delete.sql" },
+    { 9, "event_related_to", "009_event_related_to.sql" },
+    { 10, "task_reminders", "010_task_reminders.sql" },
+    { 11, "task_item_type", "011_task_item_type.sql" },
+    { 12, "reap_orphaned_calendars", "012_reap_orphaned_calendars.sql" },
+    { 13, "calendar_allow_tasks_override", "013_calendar_allow_tasks_override.sql" },
+    { 14, "local_calendars_support_tasks", "014_local_calendars_support_tasks.sql" },
+    { 15, "drop_sync_queue", "015_drop_sync_queue.sql" },
+    { 16, "calendars_soft_delete", "016_calendars_soft_delete.sql" },
 };
 
 }

@@ -111,6 +111,6 @@ template <typename Record, typename Value> Record recordOf(Value Record::*);
 template <auto Member, typename As> auto column(const char *name, Write write = Write::Always)
 {
     using Record = decltype(StoredAs::recordOf(Member));
-    return Column<Record>{name, [](const Record &record) { return QVariant(As::store(record.*Member)); },
-                          [](Record &record, const QVariant &value) { As::load(record.*Member, value); }, write};
+    return Column<Record>{ name, [](const Record &record) { return QVariant(As::store(record.*Member)); },
+                           [](Record &record, const QVariant &value) { As::load(record.*Member, value); }, write };
 }

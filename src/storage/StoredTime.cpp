@@ -82,6 +82,11 @@ QVariant StoredTime::store(const QDateTime &time)
     return text.isEmpty() ? QVariant() : QVariant(text);
 }
 
+QVariant StoredTime::now()
+{
+    return store(QDateTime::currentDateTimeUtc());
+}
+
 QDateTime StoredTime::parse(const QString &text)
 {
     if (text.isEmpty())
@@ -93,9 +98,12 @@ QDateTime StoredTime::parse(const QString &text)
 
 QDateTime StoredTime::parseStamp(const QString &text)
 {
-    if (text.size() == localLength && text[10] == u' ')
-        return parse(QStringView(text).first(10) + u'T' + QStringView(text).sliced(11) + u'Z');
-    return parse(text);
+    constexpr qsizetype separatorAt = 10;
+    if (text.size() != localLength || text[separatorAt] != u' ')
+        return parse(text);
+    QString isoText = text + u'Z';
+    isoText[separatorAt] = u'T';
+    return parse(isoText);
 }
 
 QDateTime StoredTime::wholeDay(const QDateTime &time)

@@ -11,6 +11,9 @@ namespace StoredTime {
 /// The text to store, or NULL for an invalid value.
 QVariant store(const QDateTime &time);
 
+/// The text of the current time.
+QVariant now();
+
 /// Equal to QDateTime::fromString(text, Qt::ISODate), only faster for the usual forms.
 QDateTime parse(const QString &text);
 

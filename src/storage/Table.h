@@ -140,8 +140,9 @@ private:
             if (column.write == Write::Always)
                 assignments.append(QLatin1StringView(column.name) + QStringLiteral(" = ?"));
         }
-        m_update = QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?")
-                       .arg(m_name, assignments.join(QLatin1StringView(", ")), QLatin1StringView(m_columns.front().name));
+        m_update =
+            QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?")
+                .arg(m_name, assignments.join(QLatin1StringView(", ")), QLatin1StringView(m_columns.front().name));
     }
 
     QString m_name;

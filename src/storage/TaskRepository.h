@@ -6,7 +6,6 @@
 #include <QObject>
 #include <QStringList>
 
-#include <memory>
 #include <optional>
 
 class ChangeNotifier;
@@ -18,7 +17,6 @@ class TaskRepository : public QObject {
 
 public:
     explicit TaskRepository(Database *database, QObject *parent = nullptr);
-    ~TaskRepository() override;
 
     QList<Task> getByCalendar(const QString &calendarId); ///< by due date, undated last
     QList<Task> getByCalendarIncludingDeleted(const QString &calendarId);
@@ -47,11 +45,8 @@ signals:
     void tasksChanged(const QString &calendarId);
 
 private:
-    class Statements;
-
-    bool advance(Task &task);
+    void notifyChanged(const QString &calendarId);
 
     Database *m_database;
     ChangeNotifier *m_notifier;
-    std::unique_ptr<Statements> m_statements;
 };

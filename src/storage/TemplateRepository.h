@@ -28,5 +28,7 @@ signals:
     void templatesChanged();
 
 private:
+    bool announce(bool stored); // signals a write that succeeded
+
     Database *m_database;
 };

@@ -30,5 +30,7 @@ signals:
     void viewsChanged();
 
 private:
+    bool announce(bool stored); // signals a write that succeeded
+
     Database *m_database;
 };

@@ -72,7 +72,7 @@ QList<ShortcutInfo> ActionTable::shortcuts() const
         const QString group = m_groups.value(action);
         if (!groups.contains(group))
             groups.append(group);
-        byGroup[group].append({group, withoutMnemonic(action->text()), action->shortcuts()});
+        byGroup[group].append({ group, withoutMnemonic(action->text()), action->shortcuts() });
     }
     QList<ShortcutInfo> result;
     for (const QString &group : std::as_const(groups))
@@ -83,5 +83,5 @@ QList<ShortcutInfo> ActionTable::shortcuts() const
 QList<QKeySequence> ActionTable::keysFor(QKeySequence::StandardKey standard, const QKeySequence &fallback)
 {
     const QList<QKeySequence> keys = QKeySequence::keyBindings(standard);
-    return keys.isEmpty() ? QList<QKeySequence>{fallback} : keys;
+    return keys.isEmpty() ? QList<QKeySequence>{ fallback } : keys;
 }

@@ -3,6 +3,7 @@
 #include "ui/CalendarListWidget.h"
 #include "ui/theme/Theme.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -37,7 +38,7 @@ void CalendarListDelegate::initStyleOption(QStyleOptionViewItem *option, const Q
 QSize CalendarListDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     const QSize hint = QStyledItemDelegate::sizeHint(option, index);
-    return {hint.width(), std::max(MinRowHeightPx, QFontMetrics(option.font).height() + RowPaddingPx)};
+    return { hint.width(), std::max(MinRowHeightPx, QFontMetrics(option.font).height() + RowPaddingPx) };
 }
 
 void CalendarListDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const

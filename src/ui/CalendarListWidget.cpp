@@ -17,6 +17,7 @@
 
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QScrollBar>
 #include <QTimer>
 
 #include <algorithm>
@@ -135,7 +136,7 @@ void CalendarListWidget::fill()
 
 QTreeWidgetItem *CalendarListWidget::addAccount(const QString &name)
 {
-    auto *item = new QTreeWidgetItem(this, {name});
+    auto *item = new QTreeWidgetItem(this, { name });
     item->setFlags(Qt::ItemIsEnabled);
     item->setToolTip(0, Theme::plainToolTip(name));
     return item;
@@ -154,7 +155,7 @@ void CalendarListWidget::fillItem(QTreeWidgetItem *item, const Calendar &calenda
     item->setData(0, DefaultRole, calendar.id == m_defaultId);
     item->setData(0, OutsideGroupRole, outside);
 
-    QStringList said{calendar.name};
+    QStringList said{ calendar.name };
     if (calendar.isReadOnly)
         said.append(tr("read-only"));
     if (calendar.id == m_defaultId)

@@ -30,13 +30,13 @@ void ElidedLabel::setMuted(bool muted)
 QSize ElidedLabel::sizeHint() const
 {
     const QFontMetrics metrics(font());
-    return {metrics.horizontalAdvance(m_text) + 2, metrics.height() + 4};
+    return { metrics.horizontalAdvance(m_text) + 2, metrics.height() + 4 };
 }
 
 QSize ElidedLabel::minimumSizeHint() const
 {
     const QFontMetrics metrics(font());
-    return {metrics.horizontalAdvance(m_text.left(3) + u'…'), metrics.height() + 4};
+    return { metrics.horizontalAdvance(m_text.left(3) + u'…'), metrics.height() + 4 };
 }
 
 void ElidedLabel::paintEvent(QPaintEvent *)

@@ -58,7 +58,8 @@ void FiltersPill::updateLabel()
 void FiltersPill::rebuildMenu()
 {
     const QList<FilterRule> rules = m_state->filterRules()->getAll();
-    const bool anyEnabled = std::any_of(rules.begin(), rules.end(), [](const FilterRule &rule) { return rule.enabled; });
+    const bool anyEnabled =
+        std::any_of(rules.begin(), rules.end(), [](const FilterRule &rule) { return rule.enabled; });
     auto *menu = new QMenu(this);
     QAction *all = menu->addAction(anyEnabled ? tr("Disable all filters") : tr("Enable all filters"));
     all->setEnabled(!rules.isEmpty());

@@ -68,7 +68,8 @@ void GroupButton::addGroupEntries(QMenu *menu, const QList<ViewDef> &groups)
 
 void GroupButton::addEditEntries(QMenu *menu, const ViewDef *active)
 {
-    connect(menu->addAction(tr("Add Calendar Group…")), &QAction::triggered, this, &GroupButton::createGroup);
+    connect(menu->addAction(tr("Add Calendar Group…")), &QAction::triggered, this,
+            [this] { createGroup(m_state, window()); });
     if (!active)
         return;
     connect(menu->addAction(tr("Edit Current Group…")), &QAction::triggered, this,
@@ -79,12 +80,12 @@ void GroupButton::addEditEntries(QMenu *menu, const ViewDef *active)
             [this, group = *active] { ManageViewsDialog::askToDelete(m_state, group, window()); });
 }
 
-void GroupButton::createGroup()
+void GroupButton::createGroup(AppState *state, QWidget *window)
 {
-    auto *dialog = new ViewFormDialog(m_state, window());
-    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+    auto *dialog = new ViewFormDialog(state, window);
+    connect(dialog, &QDialog::accepted, state, [state, dialog] {
         if (!dialog->resultViewId().isEmpty())
-            m_state->setActiveViewId(dialog->resultViewId());
+            state->setActiveViewId(dialog->resultViewId());
     });
     dialog->open();
 }

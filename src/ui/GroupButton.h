@@ -13,11 +13,12 @@ public:
     explicit GroupButton(AppState *state, QWidget *parent = nullptr);
 
     void refresh();
+    /// Opens the form for a new group over \p window, and activates what was stored.
+    static void createGroup(AppState *state, QWidget *window);
 
 private:
     void addGroupEntries(QMenu *menu, const QList<ViewDef> &groups);
     void addEditEntries(QMenu *menu, const ViewDef *active);
-    void createGroup();
 
     AppState *m_state;
 };

@@ -22,23 +22,23 @@ GroupMenu::GroupMenu(AppState *state, ActionTable *table, QMenu *menu)
 void GroupMenu::addRows(ActionTable *table)
 {
     const QString group = tr("Calendar groups");
-    m_next = table->add({.id = QStringLiteral("nextGroup"),
-                         .group = group,
-                         .text = tr("&Next Group"),
-                         .keys = {QKeySequence(Qt::CTRL | Qt::Key_BracketRight)},
-                         .run = [this] { activateNeighbour(1); }});
-    m_previous = table->add({.id = QStringLiteral("previousGroup"),
-                             .group = group,
-                             .text = tr("&Previous Group"),
-                             .keys = {QKeySequence(Qt::CTRL | Qt::Key_BracketLeft)},
-                             .run = [this] { activateNeighbour(-1); }});
+    m_next = table->add({ .id = QStringLiteral("nextGroup"),
+                          .group = group,
+                          .text = tr("&Next Group"),
+                          .keys = { QKeySequence(Qt::CTRL | Qt::Key_BracketRight) },
+                          .run = [this] { activateNeighbour(1); } });
+    m_previous = table->add({ .id = QStringLiteral("previousGroup"),
+                              .group = group,
+                              .text = tr("&Previous Group"),
+                              .keys = { QKeySequence(Qt::CTRL | Qt::Key_BracketLeft) },
+                              .run = [this] { activateNeighbour(-1); } });
     for (int position = 0; position < NumberedGroups; ++position) {
-        m_numbered.append(table->add({.id = QStringLiteral("group%1").arg(position + 1),
-                                      .group = group,
-                                      .text = {},
-                                      .keys = {QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + position))},
-                                      .run = [this, position] { activateAt(position); },
-                                      .checkable = true}));
+        m_numbered.append(table->add({ .id = QStringLiteral("group%1").arg(position + 1),
+                                       .group = group,
+                                       .text = {},
+                                       .keys = { QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + position)) },
+                                       .run = [this, position] { activateAt(position); },
+                                       .checkable = true }));
     }
 }
 

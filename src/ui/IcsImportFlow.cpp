@@ -23,7 +23,8 @@ QString fileName(const QString &path)
 bool hasStorableEvents(const IcsImporter::File &file)
 {
     return file.error == IcsImporter::FileError::None
-        && std::any_of(file.events.begin(), file.events.end(), [](const Event &event) { return event.startTime.isValid(); });
+        && std::any_of(file.events.begin(), file.events.end(),
+                       [](const Event &event) { return event.startTime.isValid(); });
 }
 
 }

@@ -36,7 +36,7 @@ NoAccountsPage::NoAccountsPage(AppState *state, QWidget *parent)
     auto *texts = new QVBoxLayout(column);
     texts->setContentsMargins(0, 0, 0, 0);
     texts->setSpacing(12);
-    for (QLabel *label : {title, m_body}) {
+    for (QLabel *label : { title, m_body }) {
         label->setWordWrap(true);
         label->setAlignment(Qt::AlignCenter);
         label->setTextFormat(Qt::PlainText);

@@ -49,7 +49,7 @@ Sidebar::Sidebar(AppState *state, QWidget *parent)
 
 QSize Sidebar::minimumSizeHint() const
 {
-    return {m_month->minimumSizeHint().width(), QWidget::minimumSizeHint().height()};
+    return { m_month->minimumSizeHint().width(), QWidget::minimumSizeHint().height() };
 }
 
 QHBoxLayout *Sidebar::buildListHeader()

@@ -56,7 +56,7 @@ ViewArea::ViewArea(AppState *state, QWidget *parent)
 
 QStringList ViewArea::availableModes()
 {
-    return {QStringLiteral("day"), QStringLiteral("week"), QStringLiteral("days")};
+    return { QStringLiteral("day"), QStringLiteral("week"), QStringLiteral("days") };
 }
 
 QString ViewArea::dateText() const
@@ -120,12 +120,12 @@ void ViewArea::buildSurfaces()
     m_day = new DayView(m_state);
     m_week = new WeekView(m_state, WeekView::Form::Week);
     m_days = new WeekView(m_state, WeekView::Form::Days);
-    for (TimelineView *view : std::initializer_list<TimelineView *>{m_day, m_week, m_days}) {
+    for (TimelineView *view : std::initializer_list<TimelineView *>{ m_day, m_week, m_days }) {
         m_stack->addWidget(view);
         connect(view, &TimelineView::filterEditRequested, this, &ViewArea::filterEditRequested);
         connect(view, &TimelineView::filterFromEventRequested, this, &ViewArea::filterFromEventRequested);
     }
-    for (WeekView *view : {m_week, m_days}) {
+    for (WeekView *view : { m_week, m_days }) {
         connect(view, &WeekView::dayActivated, this,
                 [this](QDate date) { m_state->setViewModeAndDate(QStringLiteral("day"), date); });
     }
@@ -227,8 +227,8 @@ void ViewArea::recomputeFilterStats()
         m_state->setFilterHiddenCount(0);
         return;
     }
-    const ViewModes::Span span = ViewModes::statisticsSpan(m_mode, m_state->currentDate(), m_state->weekHorizon(),
-                                                           m_state->firstDayOfWeek());
+    const ViewModes::Span span =
+        ViewModes::statisticsSpan(m_mode, m_state->currentDate(), m_state->weekHorizon(), m_state->firstDayOfWeek());
     m_state->setFilterHiddenCount(m_state->visibleEvents()->inRange(span.first, span.days)->hiddenCount);
 }
 

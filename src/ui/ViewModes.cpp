@@ -25,8 +25,10 @@ QString spanTitle(QDate first, QDate last)
 {
     const QLocale locale;
     const bool oneMonth = first.year() == last.year() && first.month() == last.month();
-    const QString from = oneMonth ? Text::tr("MMM d", "start of days within one month") : Text::tr("MMM d", "start of days");
-    const QString to = oneMonth ? Text::tr("d, yyyy", "end of days within one month") : Text::tr("MMM d, yyyy", "end of days");
+    const QString from =
+        oneMonth ? Text::tr("MMM d", "start of days within one month") : Text::tr("MMM d", "start of days");
+    const QString to =
+        oneMonth ? Text::tr("d, yyyy", "end of days within one month") : Text::tr("MMM d, yyyy", "end of days");
     return locale.toString(first, from) + QStringLiteral(" – ") + locale.toString(last, to);
 }
 
@@ -63,16 +65,16 @@ ViewModes::Span ViewModes::statisticsSpan(const QString &mode, QDate date, int w
                                           Qt::DayOfWeek firstDayOfWeek)
 {
     if (mode == u"day")
-        return {date, 1};
+        return { date, 1 };
     if (mode == u"week")
-        return {weekStart(date, firstDayOfWeek), 7};
+        return { weekStart(date, firstDayOfWeek), 7 };
     if (mode == u"days")
-        return {date, std::max(1, weekHorizon)};
+        return { date, std::max(1, weekHorizon) };
     if (mode == u"grid")
-        return {date, GridDays};
+        return { date, GridDays };
     if (mode == u"month" || mode == u"year")
-        return {weekStart(QDate(date.year(), date.month(), 1), firstDayOfWeek), MonthGridDays};
-    return {date, 7};
+        return { weekStart(QDate(date.year(), date.month(), 1), firstDayOfWeek), MonthGridDays };
+    return { date, 7 };
 }
 
 QString ViewModes::title(const QString &mode, QDate date, int weekHorizon, Qt::DayOfWeek firstDayOfWeek, QDate today)

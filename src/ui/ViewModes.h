@@ -15,7 +15,7 @@ struct Span {
 };
 
 /// The choices of the days timeline.
-inline constexpr int Horizons[] = {3, 5, 7, 10, 14};
+inline constexpr int Horizons[] = { 3, 5, 7, 10, 14 };
 
 /// "agenda" and "list", of an earlier design, and a mode that is not among \p available become "week".
 QString normalized(const QString &mode, const QStringList &available);

@@ -65,7 +65,7 @@ void WindowLayout::clampToScreen()
 void WindowLayout::applyDefaultPaneWidths()
 {
     // The centre gives up its share only to the panes that are there.
-    QList<int> widths{SidebarWidthPx, m_window->width() - SidebarWidthPx};
+    QList<int> widths{ SidebarWidthPx, m_window->width() - SidebarWidthPx };
     for (int pane = 2; pane < m_panes->count(); ++pane) {
         widths[1] -= RightPaneWidthPx;
         widths.append(RightPaneWidthPx);

@@ -2,6 +2,7 @@
 
 #include "models/Event.h"
 
+#include <QByteArray>
 #include <QCache>
 #include <QDate>
 #include <QHash>
@@ -43,7 +44,13 @@ public:
     QList<Event> unfilteredInRange(QDate first, int days);
 
 private:
+    void dropStale();
+    [[nodiscard]] QString spanKey(QDate first, int days) const;
+
     AppState *m_state;
     QCache<QString, QSharedPointer<const VisibleSpan>> m_spans;
+    QString m_unfilteredKey;
+    QList<Event> m_unfiltered; // of the last span asked for
     quint64 m_generation = 0;
+    QByteArray m_zoneId;
 };

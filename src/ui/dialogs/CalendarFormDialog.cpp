@@ -7,6 +7,7 @@
 #include "ui/dialogs/ColorButton.h"
 
 #include <QFormLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QUuid>

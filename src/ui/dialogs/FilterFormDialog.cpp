@@ -64,6 +64,7 @@ void FilterFormDialog::build()
 {
     m_form = addForm();
     m_name = new QLineEdit(this);
+    m_name->setObjectName(QStringLiteral("name"));
     m_form->addRow(tr("&Name"), m_name);
     buildConditions();
     buildScope();
@@ -79,6 +80,7 @@ void FilterFormDialog::build()
 void FilterFormDialog::buildConditions()
 {
     m_kind = new QComboBox(this);
+    m_kind->setObjectName(QStringLiteral("kind"));
     m_kind->addItem(tr("Text in the event"), QString(FilterType::Pattern));
     m_kind->addItem(tr("Day or start time"), QString(FilterType::Time));
     m_kind->addItem(tr("All-day events"), QString(FilterType::AllDay));
@@ -96,6 +98,7 @@ void FilterFormDialog::buildConditions()
 void FilterFormDialog::buildScope()
 {
     m_scope = new QComboBox(this);
+    m_scope->setObjectName(QStringLiteral("scope"));
     m_scope->addItems({ tr("In all calendars"), tr("Only in chosen calendars") });
     m_calendars = new CalendarChecklist(m_state, this);
     m_form->addRow(tr("&Calendars"), m_scope);
@@ -105,6 +108,7 @@ void FilterFormDialog::buildScope()
 void FilterFormDialog::buildEffect()
 {
     m_action = new QComboBox(this);
+    m_action->setObjectName(QStringLiteral("action"));
     m_action->addItem(tr("Hide the events"), QString(FilterAction::Hide));
     m_action->addItem(tr("Dim the events"), QString(FilterAction::Dim));
     m_suppress = new QCheckBox(tr("&Silence their reminders"), this);

@@ -79,8 +79,8 @@ void ImportDialog::fillCalendarCombo(AppState *state, QComboBox *combo)
     for (const Calendar &calendar : calendars) {
         const QString account = accountNames.value(calendar.accountId);
         const QString name = calendar.name.simplified();
-        combo->addItem(Theme::calendarDotIcon(calendar.color), account.isEmpty() ? name : name + u" — " + account,
-                       calendar.id);
+        combo->addItem(Theme::calendarDotIcon(calendar.color),
+                       account.isEmpty() ? name : name + QStringLiteral(" — ") + account, calendar.id);
     }
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMinimumContentsLength(20);

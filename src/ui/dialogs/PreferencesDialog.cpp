@@ -31,12 +31,12 @@ constexpr int HoursInDay = 24;
 constexpr int DefaultWorkdayStart = 8;
 constexpr int DefaultWorkdayEnd = 18;
 
-const QString WeekStartKey = QStringLiteral("ui/weekStartDay");
-const QString WeekStartChosenKey = QStringLiteral("ui/weekStartDay/customized");
-const QString WorkdayStartKey = QStringLiteral("ui/workdayStart");
-const QString WorkdayEndKey = QStringLiteral("ui/workdayEnd");
-const QString TimeFormatKey = QStringLiteral("ui/timeFormat");
-const QString LanguageKey = QStringLiteral("ui/language");
+constexpr QLatin1StringView WeekStartKey{ "ui/weekStartDay" };
+constexpr QLatin1StringView WeekStartChosenKey{ "ui/weekStartDay/customized" };
+constexpr QLatin1StringView WorkdayStartKey{ "ui/workdayStart" };
+constexpr QLatin1StringView WorkdayEndKey{ "ui/workdayEnd" };
+constexpr QLatin1StringView TimeFormatKey{ "ui/timeFormat" };
+constexpr QLatin1StringView LanguageKey{ "ui/language" };
 
 QFormLayout *makePageForm(QWidget *page)
 {

@@ -49,7 +49,8 @@ QList<AllDayBar> layOutBars(const QList<Event> &events, QDate first, int days)
     // Bars come by their first column, so a lane is free when its last bar has ended.
     QList<int> laneEnds;
     for (AllDayBar &bar : bars) {
-        const auto free = std::find_if(laneEnds.begin(), laneEnds.end(), [&bar](int end) { return end < bar.firstColumn; });
+        const auto free =
+            std::find_if(laneEnds.begin(), laneEnds.end(), [&bar](int end) { return end < bar.firstColumn; });
         bar.lane = static_cast<int>(free - laneEnds.begin());
         if (free == laneEnds.end())
             laneEnds.append(bar.lastColumn);
@@ -96,7 +97,7 @@ QRect AllDayMetrics::cellRect(int firstColumn, int lastColumn, int lane) const
 {
     const int y = (lane - topLane) * (laneHeightPx + LaneGapPx) + TopPx;
     const int width = (lastColumn - firstColumn + 1) * columns.columnWidthPx() - 4;
-    return {columns.left(firstColumn) + 2, y, std::max(1, width), laneHeightPx};
+    return { columns.left(firstColumn) + 2, y, std::max(1, width), laneHeightPx };
 }
 
 QRect AllDayMetrics::barRect(const AllDayBar &bar) const

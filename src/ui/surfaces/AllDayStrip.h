@@ -45,10 +45,10 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    [[nodiscard]] QRect lanesRect() const; ///< the part of the strip where lanes show
-    [[nodiscard]] int scrolledPx() const;
+    [[nodiscard]] QFont barFont() const;
+    [[nodiscard]] QFont smallFont() const;
     void updateScrollBar();
-    void paintBar(QPainter &painter, const EventBlock &block) const;
+    void paintBar(QPainter &painter, const EventBlock &block, const AllDayBar &bar) const;
     void paintChips(QPainter &painter) const;
     void paintChevron(QPainter &painter) const;
 
@@ -56,7 +56,9 @@ private:
     DayColumns m_columns;
     QDate m_first;
     QList<AllDayBar> m_bars;
+    QList<AllDayBar> m_shownBars; // beside blocks()
     QList<int> m_hiddenPerColumn;
     bool m_isExpanded = false;
     int m_heightLimit = QWIDGETSIZE_MAX;
+    WheelNotches m_wheelNotches;
 };

@@ -28,7 +28,7 @@ struct EventBlock {
     QDateTime occurrenceStart;
     int eventIndex = -1; ///< in the list that the surface was given
 
-    [[nodiscard]] EventKey key() const { return {eventId, occurrenceStart}; }
+    [[nodiscard]] EventKey key() const { return { eventId, occurrenceStart }; }
 
     bool operator==(const EventBlock &) const = default;
 };

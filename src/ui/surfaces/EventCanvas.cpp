@@ -1,6 +1,8 @@
 #include "ui/surfaces/EventCanvas.h"
 
+#include "models/Constants.h"
 #include "ui/surfaces/EventCanvasAccessible.h"
+#include "ui/surfaces/EventColors.h"
 #include "ui/surfaces/EventText.h"
 #include "ui/surfaces/TimelineGeometry.h"
 #include "ui/theme/Theme.h"
@@ -11,6 +13,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QToolTip>
 
 #include <algorithm>
@@ -27,7 +30,7 @@ EventCanvas::EventCanvas(AppState *state, QWidget *parent)
 void EventCanvas::setSelectedEventId(const QString &id)
 {
     if (id != m_selection.id)
-        setSelection({id, {}});
+        setSelection({ id, {} });
 }
 
 bool EventCanvas::isSelected(const EventBlock &block) const
@@ -44,7 +47,7 @@ QString EventCanvas::eventIdAt(QPoint point) const
 const Event *EventCanvas::findEvent(const EventKey &key) const
 {
     const auto found = std::find_if(m_events.begin(), m_events.end(), [&key](const Event &event) {
-        return key.matches({event.id, event.startTime});
+        return key.matches({ event.id, event.startTime });
     });
     return found == m_events.end() ? nullptr : &*found;
 }
@@ -56,14 +59,48 @@ int EventCanvas::blockIndexOf(const EventKey &key) const
     return key.isEmpty() || found == m_blocks.end() ? -1 : static_cast<int>(found - m_blocks.begin());
 }
 
-QColor EventCanvas::colorOf(const Event &event) const
+BlockColors EventCanvas::colorsOf(const Event &event, int bodyAlpha, int faintBodyAlpha, const QColor &base) const
 {
-    return Theme::eventColor(event.color, m_calendarColors.value(event.calendarId));
+    constexpr int FaintTextAlpha = 140;
+    constexpr int FaintStripeAlpha = 80;
+    const QColor color = Theme::eventColor(event.color, m_calendarColors.value(event.calendarId));
+    const QColor text = palette().color(QPalette::WindowText);
+    if (!m_dimmedIds.contains(event.id) && event.status != EventStatus::Cancelled)
+        return EventColors::blockColors(color, bodyAlpha, 255, base, text);
+    BlockColors faint = EventColors::blockColors(color, faintBodyAlpha, FaintTextAlpha, base, text);
+    faint.stripe.setAlpha(FaintStripeAlpha);
+    return faint;
+}
+
+void EventCanvas::paintShape(QPainter &painter, const EventBlock &block, const BlockColors &colors,
+                             int stripeWidthPx) const
+{
+    constexpr int RadiusPx = 4;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colors.body);
+    painter.drawRoundedRect(block.rect, RadiusPx, RadiusPx);
+    painter.setBrush(colors.stripe);
+    painter.drawRoundedRect(QRect(block.rect.topLeft(), QSize(stripeWidthPx, block.rect.height())), RadiusPx, RadiusPx);
+    if (!isSelected(block))
+        return;
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(Theme::accent(), 2));
+    painter.drawRoundedRect(block.rect.adjusted(1, 1, -1, -1), RadiusPx, RadiusPx);
+    if (!hasFocus())
+        return;
+    painter.setPen(QPen(Theme::textPrimary(), 1));
+    painter.drawRoundedRect(QRectF(block.rect).adjusted(-0.5, -0.5, 0.5, 0.5), RadiusPx, RadiusPx);
+}
+
+void EventCanvas::paintFocusMark(QPainter &painter, int gutterPx) const
+{
+    if (hasFocus())
+        painter.fillRect(QRect(gutterPx - 2, 0, 2, height()), Theme::accent());
 }
 
 QRect EventCanvas::globalRect(const QRect &rect) const
 {
-    return {mapToGlobal(rect.topLeft()), rect.size()};
+    return { mapToGlobal(rect.topLeft()), rect.size() };
 }
 
 QFont EventCanvas::resized(QFont font, int points, int minPoints)
@@ -137,9 +174,11 @@ bool EventCanvas::walk(int step, bool wrap)
     const EventKey key = order.at(next);
     setSelection(key);
     reveal(key);
-    QAccessibleEvent focused(this, QAccessible::Focus);
-    focused.setChild(blockIndexOf(key));
-    QAccessible::updateAccessibility(&focused);
+    if (const int block = blockIndexOf(key); block >= 0) {
+        QAccessibleEvent focused(this, QAccessible::Focus);
+        focused.setChild(block);
+        QAccessible::updateAccessibility(&focused);
+    }
     emit eventFocused(key.id);
     return true;
 }
@@ -284,8 +323,8 @@ void EventCanvas::contextMenuEvent(QContextMenuEvent *event)
         return QWidget::contextMenuEvent(event);
     const EventBlock block = m_blocks.at(index);
     const QRect onScreen = block.rect & visibleRegion().boundingRect();
-    const QPoint globalPos = isByKeyboard ? mapToGlobal((onScreen.isEmpty() ? block.rect : onScreen).center())
-                                          : event->globalPos();
+    const QPoint globalPos =
+        isByKeyboard ? mapToGlobal((onScreen.isEmpty() ? block.rect : onScreen).center()) : event->globalPos();
     setSelection(block.key());
     emit eventContextRequested(block.eventId, globalPos);
 }

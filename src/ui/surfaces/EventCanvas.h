@@ -12,6 +12,8 @@
 #include <optional>
 
 class AppState;
+class QPainter;
+struct BlockColors;
 
 /// The base of the surfaces that paint events themselves. It keeps the events and the blocks as last laid
 /// out, the selection, and answers mouse, keyboard, tool tip and assistive technology from them. It changes
@@ -54,8 +56,8 @@ signals:
 protected:
     [[nodiscard]] AppState *state() const { return m_state; }
     [[nodiscard]] const QList<Event> &events() const { return m_events; }
-    [[nodiscard]] bool isDimmed(const Event &event) const { return m_dimmedIds.contains(event.id); }
-    [[nodiscard]] QColor colorOf(const Event &event) const;
+    /// The colours of the event's block on \p base. Dimmed and cancelled events are fainter.
+    [[nodiscard]] BlockColors colorsOf(const Event &event, int bodyAlpha, int faintBodyAlpha, const QColor &base) const;
     [[nodiscard]] QRect globalRect(const QRect &rect) const;
 
     /// \p font by \p points larger, but not below \p minPoints.
@@ -64,6 +66,11 @@ protected:
     void setEvents(const QList<Event> &events, const QHash<QString, QString> &calendarColors,
                    const QSet<QString> &dimmedIds);
     void setBlocks(QList<EventBlock> blocks);
+
+    /// Body, stripe and, for the selected block, the selection with the mark of the keyboard's focus.
+    void paintShape(QPainter &painter, const EventBlock &block, const BlockColors &colors, int stripeWidthPx) const;
+    /// Shows in the gutter that the keyboard is here, also when no event is selected.
+    void paintFocusMark(QPainter &painter, int gutterPx) const;
 
     /// Computes the blocks anew; called when the font, the size or the palette has changed.
     virtual void relayout() = 0;

@@ -35,7 +35,7 @@ public:
         if (!isValid())
             return {};
         const QRect &rect = block().rect;
-        return {m_canvas->mapToGlobal(rect.topLeft()), rect.size()};
+        return { m_canvas->mapToGlobal(rect.topLeft()), rect.size() };
     }
 
     [[nodiscard]] QAccessible::State state() const override
@@ -61,7 +61,7 @@ public:
     {
         return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface *>(this) : nullptr;
     }
-    [[nodiscard]] QStringList actionNames() const override { return {pressAction()}; }
+    [[nodiscard]] QStringList actionNames() const override { return { pressAction() }; }
     void doAction(const QString &name) override
     {
         if (name == pressAction() && isValid())

@@ -4,14 +4,10 @@
 
 #include <algorithm>
 
-namespace {
-
-QColor withAlpha(QColor color, int alpha)
+QColor EventColors::withAlpha(QColor color, int alpha)
 {
     color.setAlpha(alpha);
     return color;
-}
-
 }
 
 QColor EventColors::blend(const QColor &over, const QColor &under)
@@ -35,5 +31,5 @@ BlockColors EventColors::blockColors(const QColor &event, int bodyAlpha, int tex
     int alpha = textAlpha;
     while (alpha < 255 && contrast(body, alpha) < MinContrast)
         alpha = std::min(255, alpha + Step);
-    return {body, event, withAlpha(text, alpha)};
+    return { body, event, withAlpha(text, alpha) };
 }

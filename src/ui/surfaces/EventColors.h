@@ -15,6 +15,8 @@ namespace EventColors {
 
 inline constexpr double MinContrast = 4.5;
 
+QColor withAlpha(QColor color, int alpha); ///< 0 to 255
+
 /// \p over as it looks on the opaque \p under.
 QColor blend(const QColor &over, const QColor &under);
 

@@ -23,6 +23,11 @@ QString oneLine(const QString &text)
     return text.left(MaxShownChars).simplified();
 }
 
+QString range(const QString &from, const QString &to)
+{
+    return from + QStringLiteral(" – ") + to;
+}
+
 QString dayText(QDate date)
 {
     return QLocale().toString(date, Tr::tr("ddd, MMM d"));
@@ -40,13 +45,13 @@ QString allDayWhen(const Event &event)
 {
     const QDate first = EventDays::firstDay(event);
     const QDate last = EventDays::lastDay(event);
-    const QString days = last > first ? dayText(first) + u" – " + dayText(last) : dayText(first);
+    const QString days = last > first ? range(dayText(first), dayText(last)) : dayText(first);
     return Tr::tr("%1, all day").arg(days);
 }
 
 QStringList details(AppState *state, const Event &event)
 {
-    QStringList lines{EventText::title(event), EventText::when(state, event)};
+    QStringList lines{ EventText::title(event), EventText::when(state, event) };
     if (event.status == EventStatus::Cancelled)
         lines.append(Tr::tr("Cancelled"));
     if (const QString place = EventText::location(event); !place.isEmpty())
@@ -80,7 +85,7 @@ QString EventText::timeLine(AppState *state, const Event &event)
         const QString time = TimeFormat::formatTime(state, value);
         return spansDates ? QLocale().toString(value.date(), QStringLiteral("ddd ")) + time : time;
     };
-    return clock(start) + u" – " + clock(*end);
+    return range(clock(start), clock(*end));
 }
 
 QString EventText::when(AppState *state, const Event &event)
@@ -90,12 +95,12 @@ QString EventText::when(AppState *state, const Event &event)
     const QDateTime start = event.startTime.toLocalTime();
     const std::optional<QDateTime> end = shownEnd(event);
     const auto moment = [state](const QDateTime &value) {
-        return dayText(value.date()) + u", " + TimeFormat::formatTime(state, value);
+        return dayText(value.date()) + QStringLiteral(", ") + TimeFormat::formatTime(state, value);
     };
     if (!end)
         return moment(start);
     const QString until = end->date() == start.date() ? TimeFormat::formatTime(state, *end) : moment(*end);
-    return moment(start) + u" – " + until;
+    return range(moment(start), until);
 }
 
 QString EventText::toolTip(AppState *state, const Event &event)

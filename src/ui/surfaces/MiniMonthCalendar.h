@@ -3,6 +3,7 @@
 #include "ui/surfaces/MiniMonthGeometry.h"
 
 #include <QDate>
+#include <QElapsedTimer>
 #include <QSet>
 #include <QWidget>
 
@@ -29,10 +30,8 @@ public:
 public slots:
     void stepMonth(int months); ///< moves only what is on show
 
-signals:
-    void displayedMonthChanged(QDate month);
-
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -49,7 +48,11 @@ private:
     void reloadOrMarkStale();
     void reloadEvents();
     void updateLayout();
+    void updateIcons();
     [[nodiscard]] Qt::DayOfWeek firstDayOfWeek() const;
+    [[nodiscard]] QDate currentDate() const;
+    [[nodiscard]] QDate dateForKey(const QKeyEvent &event) const; ///< invalid for other keys
+    [[nodiscard]] QToolButton *makeStepButton(const QString &name, int months);
     void paintHeader(QPainter &painter) const;
     void paintWeekdays(QPainter &painter) const;
     void paintDay(QPainter &painter, QDate date, const QRect &cell) const;
@@ -58,8 +61,10 @@ private:
     QToolButton *m_previous;
     QToolButton *m_next;
     MiniMonthGeometry m_geometry;
+    int m_minimumWidthPx = 0;
     QDate m_month;
     QDate m_hovered;
     QSet<QDate> m_busyDays;
+    QElapsedTimer m_sinceWheelStep;
     bool m_isStale = true;
 };

@@ -3,7 +3,6 @@
 #include <QDate>
 #include <QPoint>
 #include <QRect>
-#include <QSize>
 
 /// Where the parts of a small month lie, in pixels of its widget. The constants fit a font of ordinary size;
 /// the three heights grow with what the font needs.
@@ -17,11 +16,11 @@ struct MiniMonthGeometry {
     int weekdayHeightPx = 22;
     int rowHeightPx = 34;
 
-    /// The days on show are those of \p month's six weeks, from the last \p firstDayOfWeek that is not after
-    /// the first of the month. Invalid for an invalid date.
+    /// The first of the 42 days on show: the last \p firstDayOfWeek that is not after the first of \p month.
+    /// Invalid for an invalid date.
     static QDate gridStart(QDate month, Qt::DayOfWeek firstDayOfWeek);
 
-    [[nodiscard]] QSize sizeHint() const;
+    [[nodiscard]] int heightPx() const;
     [[nodiscard]] QRect headerRect() const;
     [[nodiscard]] QRect weekdayRect(int column) const;
     /// Pixels that seven equal columns leave over go to the first ones, one each.
@@ -29,7 +28,7 @@ struct MiniMonthGeometry {
     /// The index of the cell at \p point, 0 to 41, or -1.
     [[nodiscard]] int cellAt(QPoint point) const;
 
-    /// The largest circle that leaves room around it, in pixels.
+    /// Radius in pixels of the circle behind a day's number.
     static qreal dayRadius(const QRect &cell);
 };
 

@@ -38,7 +38,7 @@ Slice sliceOf(int eventIndex, const QDateTime &start, const QDateTime &end, QDat
     else if (end.date() == day)
         endMin = std::max(startMin, minuteOf(end));
     startMin = std::min(startMin, TimelineMetrics::MinutesPerDay - minMinutes);
-    return {eventIndex, start, startMin, endMin, std::max(endMin, startMin + minMinutes)};
+    return { eventIndex, start, startMin, endMin, std::max(endMin, startMin + minMinutes) };
 }
 
 /// The slices of each column.
@@ -78,15 +78,14 @@ Event standIn(const Slice &slice, qsizetype index)
 QRect rectOf(const Slice &slice, const EventLayout::Placement &placement, int column, const TimelineMetrics &metrics)
 {
     const int left = metrics.columns.left(column) + metrics.blockLeftPx;
-    const int available
-        = std::max(1, metrics.columns.columnWidthPx() - metrics.blockLeftPx - metrics.blockRightPx);
+    const int available = std::max(1, metrics.columns.columnWidthPx() - metrics.blockLeftPx - metrics.blockRightPx);
     const int count = std::max(1, placement.columnCount);
     const int width = std::max(1, (available - (count - 1) * TimelineMetrics::BlockGapPx) / count);
     // Where more events overlap than there are pixels, the last ones share the right edge.
     const int x = std::min(left + placement.column * (width + TimelineMetrics::BlockGapPx), left + available - width);
     const int top = metrics.yForMinute(slice.startMin);
     const int bottom = std::max(metrics.yForMinute(slice.endMin), top + metrics.minBlockHeightPx);
-    return {x, top, width, bottom - top};
+    return { x, top, width, bottom - top };
 }
 
 }
@@ -138,7 +137,7 @@ QList<EventBlock> layOutBlocks(const QList<Event> &events, QDate firstDay, const
         for (const EventLayout::Placement &placement : placements) {
             const Slice &slice = slices.at(placement.event.id.toInt());
             const Event &event = events.at(slice.eventIndex);
-            blocks.append({event.id, rectOf(slice, placement, column, metrics), event.startTime, slice.eventIndex});
+            blocks.append({ event.id, rectOf(slice, placement, column, metrics), event.startTime, slice.eventIndex });
         }
     }
     return blocks;

@@ -69,6 +69,7 @@ private:
     void onEventSelected(const QString &id, const QDateTime &occurrenceStart, const QRect &globalRect);
     void onContextRequested(const EventCanvas *canvas, const QString &id, const QPoint &globalPos);
     void zoomAt(int steps, int viewportY);
+    void reveal(const QRect &rect);
     void updateNow();
     void updateColumns();
     void fitTimeline();
@@ -80,8 +81,7 @@ private:
     QScrollArea *m_scroll;
     QVBoxLayout *m_layout;
     QTimer m_nowTimer;
-    int m_workdayStart = 8; // hours
-    int m_workdayEnd = 18;
+    int m_workdayStart; // hours
     bool m_isStale = true;
     bool m_landPending = true;
     std::optional<int> m_zoomAnchorPx; // in the viewport, during a zoom of our own

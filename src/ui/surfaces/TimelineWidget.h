@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/surfaces/EventCanvas.h"
+#include "ui/surfaces/EventColors.h"
 #include "ui/surfaces/TimelineGeometry.h"
 
 #include <QDate>
@@ -73,7 +74,7 @@ protected:
 private:
     /// A block's colours and measured texts, made when it is first painted.
     struct Content {
-        QColor body, stripe, text;
+        BlockColors colors;
         QStaticText title, time, location; // empty where there is no room
         QString icons; // glyphs, from the right
         QPoint textPos;

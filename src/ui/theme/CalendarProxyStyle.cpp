@@ -87,6 +87,16 @@ void drawRadioButton(QPainter *painter, const QStyleOption *option)
     painter->drawEllipse(square.center(), radius, radius);
 }
 
+void drawMenuHighlight(QPainter *painter, const QStyleOption *option)
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(option->palette.highlight());
+    painter->drawRoundedRect(option->rect.adjusted(2, 1, -2, -1), 4, 4);
+    painter->restore();
+}
+
 }
 
 CalendarProxyStyle::CalendarProxyStyle()
@@ -122,4 +132,27 @@ void CalendarProxyStyle::drawPrimitive(PrimitiveElement element, const QStyleOpt
     else
         drawRadioButton(painter, option);
     painter->restore();
+}
+
+// Fusion would frame the highlighted entry with a hard line.
+void CalendarProxyStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                                     const QWidget *widget) const
+{
+    const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
+    const bool isHighlighted = item && item->state.testFlag(State_Selected) && item->state.testFlag(State_Enabled);
+    if (isHighlighted && element == CE_MenuItem) {
+        drawMenuHighlight(painter, item);
+        QStyleOptionMenuItem plain(*item);
+        plain.state.setFlag(State_Selected, false);
+        QProxyStyle::drawControl(element, &plain, painter, widget);
+    } else if (isHighlighted && element == CE_MenuBarItem) {
+        painter->fillRect(item->rect, item->palette.window());
+        drawMenuHighlight(painter, item);
+        int flags = Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip | Qt::TextSingleLine;
+        if (!proxy()->styleHint(SH_UnderlineShortcut, item, widget))
+            flags |= Qt::TextHideMnemonic;
+        proxy()->drawItemText(painter, item->rect, flags, item->palette, true, item->text, QPalette::WindowText);
+    } else {
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
 }

@@ -2,7 +2,7 @@
 
 #include <QProxyStyle>
 
-/// The style Fusion with check boxes and radio buttons of our own, in lists too.
+/// The style Fusion with check boxes and radio buttons of our own, in lists too, and a soft highlight in menus.
 class CalendarProxyStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -13,4 +13,6 @@ public:
                     const QWidget *widget = nullptr) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget = nullptr) const override;
 };

@@ -12,6 +12,7 @@
 #include <QPalette>
 #include <QPixmap>
 #include <QRegularExpression>
+#include <QTextCharFormat>
 
 #include <algorithm>
 #include <cmath>
@@ -156,6 +157,14 @@ QString withoutMenuRules(QString sheet)
 qreal devicePixelRatio()
 {
     return qApp ? qApp->devicePixelRatio() : 1.0;
+}
+
+// Styles tint the icon of a selected row, but a calendar's colour has to stay what it is.
+QIcon iconOf(const QPixmap &pixmap)
+{
+    QIcon icon(pixmap);
+    icon.addPixmap(pixmap, QIcon::Selected);
+    return icon;
 }
 
 QPixmap transparentPixmap(int size)
@@ -373,7 +382,7 @@ QIcon iconFromGlyph(char16_t glyph, int size, const QColor &color)
     painter.setPen(color);
     painter.drawText(QRect(0, 0, size, size), Qt::AlignCenter, QString(QChar(glyph)));
     painter.end();
-    return pixmap;
+    return iconOf(pixmap);
 }
 
 QIcon calendarDotIcon(const QString &color)
@@ -386,7 +395,7 @@ QIcon calendarDotIcon(const QString &color)
     painter.setBrush(named.isValid() ? named : QColor(0x9a, 0xa0, 0xa6));
     painter.drawEllipse(1, 1, 12, 12);
     painter.end();
-    return pixmap;
+    return iconOf(pixmap);
 }
 
 QString checkableListStylesheet()
@@ -399,8 +408,13 @@ QString checkableListStylesheet()
 
 void applyCalendarLocale(QDateTimeEdit *edit, Qt::DayOfWeek firstDay)
 {
-    if (edit && edit->calendarWidget())
-        edit->calendarWidget()->setFirstDayOfWeek(firstDay);
+    QCalendarWidget *calendar = edit ? edit->calendarWidget() : nullptr;
+    if (!calendar)
+        return;
+    calendar->setFirstDayOfWeek(firstDay);
+    // The red of Qt's weekends cannot be read in dark mode.
+    for (const Qt::DayOfWeek day : { Qt::Saturday, Qt::Sunday })
+        calendar->setWeekdayTextFormat(day, {});
 }
 
 QString plainLabel(const QString &text)

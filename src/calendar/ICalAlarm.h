@@ -1,0 +1,32 @@
+#pragma once
+
+#include "calendar/ICalLine.h"
+#include "models/Reminder.h"
+
+#include <QByteArray>
+
+#include <optional>
+
+namespace ICal {
+
+/// The lines of one VALARM that tell when it goes off. RFC 5545 §3.6.6.
+class Alarm {
+public:
+    void readLine(const ContentLine &line);
+
+    /// What a task keeps of it: minutes before the anchor, whatever sign and anchor the trigger has.
+    /// Nothing for an absolute trigger.
+    [[nodiscard]] std::optional<Reminder> taskReminder() const;
+    /// What an event keeps of it: a note on the screen, with or without sound, at the start or before.
+    [[nodiscard]] std::optional<Reminder> eventReminder() const;
+
+private:
+    QByteArray m_action; // lower case
+    QByteArray m_trigger;
+    bool m_isRelatedToEnd = false;
+};
+
+/// As ICalParser::parseTriggerMinutes.
+int triggerMinutes(QByteArrayView value);
+
+} // namespace ICal

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "calendar/ICalParser.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QHash>
+#include <QString>
+#include <QTimeZone>
+
+#include <limits>
+
+namespace ICal {
+
+/// Reads DATE and DATE-TIME values (RFC 5545 §3.3.4, §3.3.5), and remembers the zones it met.
+class DateTimeReader {
+public:
+    /// As ICalParser::parseDateTimeValue. A time that a clock change leaves out counts with the offset
+    /// before the change, and of a time that occurs twice the first is meant.
+    ICalParser::DateTimeValue read(QByteArrayView value, QByteArrayView tzid);
+
+    /// The IANA name of the zone that \p tzid means, or \p tzid itself if no zone is found.
+    const QString &zoneName(QByteArrayView tzid);
+
+private:
+    struct Zone {
+        QTimeZone zone; // invalid: the machine's own
+        QString name;
+        // The offset that holds on a day and on both its neighbours.
+        qint64 steadyDay = std::numeric_limits<qint64>::min();
+        qint64 steadyOffsetMs = 0;
+    };
+
+    Zone &zoneOf(QByteArrayView tzid);
+    static QDateTime inZone(Zone &zone, qint64 day, int msOfDay);
+
+    QHash<QByteArray, Zone> m_zones;
+    QByteArray m_lastTzid;
+    Zone *m_lastZone = nullptr; // of m_lastTzid; in m_zones
+};
+
+/// As ICalParser::parseDurationSeconds.
+qint64 durationSeconds(QByteArrayView value);
+
+} // namespace ICal

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+
+#include <string>
+
+/// The content lines of iCalendar text, as bytes: nothing is decoded before it is known to be kept.
+namespace ICal {
+
+/// Walks UTF-8 text line by line and joins folded lines (RFC 5545 §3.1). Lines end in LF or CRLF; a byte
+/// order mark at the start is left out. \p text must outlive the reader.
+class LineReader {
+public:
+    explicit LineReader(QByteArrayView text);
+
+    /// Goes to the next line. False at the end of the text, or when \p stopAt was passed within a line:
+    /// the next call then goes on with that line.
+    bool next(qsizetype stopAt);
+    /// Without its folds and its line break; valid until the next call of next().
+    [[nodiscard]] QByteArrayView line() const
+    {
+        return m_isCopied ? QByteArrayView(m_joined.data(), qsizetype(m_joined.size())) : m_line;
+    }
+
+    [[nodiscard]] bool atEnd() const { return m_pos >= m_text.size() && !m_isUnfinished; }
+    [[nodiscard]] qsizetype position() const { return m_pos; }
+
+private:
+    QByteArrayView takePhysicalLine();
+    [[nodiscard]] bool isAtContinuation() const;
+
+    QByteArrayView m_text;
+    qsizetype m_pos = 0;
+    QByteArrayView m_line; // within m_text
+    std::string m_joined; // a line that had folds; kept for its capacity
+    bool m_isCopied = false; // the line is in m_joined
+    bool m_isUnfinished = false;
+};
+
+/// Equal but for the case of ASCII letters.
+inline bool isWord(QByteArrayView text, QByteArrayView word)
+{
+    return text.size() == word.size() && text.compare(word, Qt::CaseInsensitive) == 0;
+}
+
+/// One unfolded line: name *(";" parameter) ":" value. A line without a colon is all name.
+class ContentLine {
+public:
+    explicit ContentLine(QByteArrayView line);
+
+    [[nodiscard]] QByteArrayView name() const { return m_name; }
+    [[nodiscard]] bool is(QByteArrayView name) const { return isWord(m_name, name); }
+    [[nodiscard]] QByteArrayView value() const { return m_value; } ///< not unescaped
+    /// Without quotes around it; null if there is none. Of several with one name the last counts.
+    [[nodiscard]] QByteArrayView parameter(QByteArrayView name) const;
+
+private:
+    QByteArrayView m_name;
+    QByteArrayView m_parameters;
+    QByteArrayView m_value;
+};
+
+/// True for a RELATED-TO that names the parent: RELTYPE is PARENT or absent. RFC 5545 §3.2.15.
+bool isParentRelation(const ContentLine &line);
+
+/// RFC 5545 §3.3.11.
+QString unescapedText(QByteArrayView value);
+
+} // namespace ICal

@@ -1,0 +1,206 @@
+#include "storage/EventRepository.h"
+
+#include "storage/ChangeNotifier.h"
+#include "storage/Database.h"
+#include "storage/EventRanges.h"
+#include "storage/EventRows.h"
+#include "storage/Savepoint.h"
+#include "storage/Statement.h"
+#include "storage/StoredAs.h"
+#include "storage/Tables.h"
+
+#include <QDebug>
+
+namespace {
+
+QString calendarOf(Database *database, const QString &eventId)
+{
+    Statement row(database, QStringLiteral("SELECT calendar_id FROM events WHERE id = ?"));
+    return row.bind(eventId).run("Reading failed:") && row.next() ? row.value(0).toString() : QString();
+}
+
+}
+
+EventRepository::EventRepository(Database *database, QObject *parent)
+    : QObject(parent)
+    , m_database(database)
+    , m_notifier(new ChangeNotifier(this))
+    , m_ranges(std::make_unique<EventRanges>(database))
+{
+    connect(m_notifier, &ChangeNotifier::changed, this, &EventRepository::eventsChanged);
+}
+
+EventRepository::~EventRepository() = default;
+
+QList<Event> EventRepository::getByCalendar(const QString &calendarId)
+{
+    return EventRows::list(m_database,
+                           QStringLiteral(" WHERE calendar_id = ? AND deleted_at IS NULL ORDER BY start_time"),
+                           { calendarId });
+}
+
+QList<Event> EventRepository::getByCalendarIncludingDeleted(const QString &calendarId)
+{
+    return EventRows::list(m_database, QStringLiteral(" WHERE calendar_id = ? ORDER BY start_time"), { calendarId });
+}
+
+QList<Event> EventRepository::getInRange(const QDateTime &start, const QDateTime &end, const QStringList &calendarIds)
+{
+    return m_ranges->inRange(start, end, calendarIds);
+}
+
+QList<Event> EventRepository::getOverrides(const QStringList &masterUids, const QStringList &calendarIds)
+{
+    return m_ranges->overridesOf(masterUids, calendarIds);
+}
+
+std::optional<Event> EventRepository::getById(const QString &id)
+{
+    return EventRows::first(m_database, QStringLiteral(" WHERE id = ?"), { id });
+}
+
+QList<Event> EventRepository::search(const QString &text, int limit)
+{
+    const QString pattern = u'%' + text + u'%';
+    return EventRows::list(
+        m_database,
+        QStringLiteral(" WHERE deleted_at IS NULL AND (title LIKE ? OR location LIKE ? OR description"
+                       " LIKE ?) ORDER BY start_time ASC LIMIT ?"),
+        { pattern, pattern, pattern, limit });
+}
+
+QList<Event> EventRepository::findByRelatedToUid(const QString &uid)
+{
+    return EventRows::list(m_database,
+                           QStringLiteral(" WHERE related_to_uid = ? AND deleted_at IS NULL ORDER BY start_time ASC"),
+                           { uid });
+}
+
+std::optional<Event> EventRepository::getByUid(const QString &uid, const QString &calendarId)
+{
+    // The master before its overrides.
+    return EventRows::first(m_database,
+                            QStringLiteral(" WHERE uid = ? AND calendar_id = ? ORDER BY COALESCE(recurrence_id, '')"),
+                            { uid, calendarId });
+}
+
+std::optional<Event> EventRepository::getByUidAndRecurrenceId(const QString &uid, const QString &calendarId,
+                                                              const QString &recurrenceId)
+{
+    return EventRows::first(
+        m_database,
+        QStringLiteral(" WHERE uid = ? AND calendar_id = ? AND COALESCE(recurrence_id, '') = COALESCE(?, '')"),
+        { uid, calendarId, StoredAs::NullableText::store(recurrenceId) });
+}
+
+QList<Event> EventRepository::getPending(const QString &calendarId)
+{
+    return EventRows::list(m_database,
+                           QStringLiteral(" WHERE calendar_id = ? AND sync_status = 'pending' ORDER BY start_time"),
+                           { calendarId });
+}
+
+bool EventRepository::hasPending()
+{
+    Statement row(m_database, QStringLiteral("SELECT 1 FROM events WHERE sync_status = 'pending' LIMIT 1"));
+    return row.run("Reading failed:") && row.next();
+}
+
+bool EventRepository::insert(const Event &event)
+{
+    Event row = event;
+    if (row.syncStatus.isEmpty())
+        row.syncStatus = SyncStatus::Synced;
+
+    Savepoint savepoint(m_database);
+    if (!Tables::events().insert(m_database, row, "EventRepository::insert failed:")
+        || !EventRows::replaceChildren(m_database, row) || !savepoint.commit())
+        return false;
+    m_ranges->onWritten(row);
+    notifyChanged(row.calendarId);
+    return true;
+}
+
+bool EventRepository::update(const Event &event)
+{
+    Event row = event;
+    row.lastModified = QDateTime::currentDateTimeUtc();
+    if (row.syncStatus.isEmpty())
+        row.syncStatus = SyncStatus::Pending;
+
+    Savepoint savepoint(m_database);
+    EventRows::carryReminders(m_database, row);
+    if (!Tables::events().update(m_database, row, "EventRepository::update failed:")
+        || !EventRows::replaceChildren(m_database, row) || !savepoint.commit())
+        return false;
+    m_ranges->onWritten(row);
+    notifyChanged(row.calendarId);
+    return true;
+}
+
+bool EventRepository::remove(const QString &id)
+{
+    const QString calendarId = calendarOf(m_database, id);
+    const QVariant now = StoredTime::now();
+    const QString sql =
+        QStringLiteral("UPDATE events SET deleted_at = ?, sync_status = 'pending', last_modified = ? WHERE id = ?");
+    if (!runStatement(m_database, "EventRepository::remove failed:", sql, { now, now, id }))
+        return false;
+    m_ranges->onTouched(id);
+    notifyChanged(calendarId);
+    return true;
+}
+
+bool EventRepository::hardDelete(const QString &id)
+{
+    const QString calendarId = calendarOf(m_database, id);
+    Savepoint savepoint(m_database);
+    for (const auto *table : { "attendees", "attachments", "reminders" }) {
+        const QByteArray message = QByteArray("EventRepository::hardDelete child cleanup failed: ") + table + " :";
+        runStatement(m_database, message.constData(),
+                     QStringLiteral("DELETE FROM %1 WHERE event_id = ?").arg(QLatin1StringView(table)), { id });
+    }
+    if (!runStatement(m_database,
+                      "EventRepository::hardDelete failed:", QStringLiteral("DELETE FROM events WHERE id = ?"), { id })
+        || !savepoint.commit())
+        return false;
+    m_ranges->onTouched(id);
+    notifyChanged(calendarId);
+    return true;
+}
+
+bool EventRepository::markSynced(const QString &id, const QString &href, const QString &etag)
+{
+    if (!runStatement(m_database, "EventRepository::markSynced failed:",
+                      QStringLiteral("UPDATE events SET href = ?, etag = ?, sync_status = 'synced' WHERE id = ?"),
+                      { StoredAs::NullableText::store(href), StoredAs::NullableText::store(etag), id }))
+        return false;
+    m_ranges->onTouched(id);
+    m_database->dataWritten();
+    return true;
+}
+
+bool EventRepository::restoreDeleted(const Event &event)
+{
+    Event row = event;
+    row.deletedAt.reset();
+    row.syncStatus = SyncStatus::Pending;
+    if (getById(row.id)) {
+        const bool ok = update(row);
+        qDebug().noquote() << "[Undo] cleared tombstone on existing row" << row.id << "ok=" << ok;
+        return ok;
+    }
+    // A sync has purged the row: to the server it is a new resource.
+    row.href.clear();
+    row.etag.clear();
+    row.providerEventId.clear();
+    const bool ok = insert(row);
+    qDebug().noquote() << "[Undo] re-inserted row" << row.id << "title=" << row.title << "ok=" << ok;
+    return ok;
+}
+
+void EventRepository::notifyChanged(const QString &calendarId)
+{
+    m_database->dataWritten();
+    m_notifier->notify(calendarId);
+}

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QStringList>
+
+#include <memory>
+
+class ActionTable;
+class AppState;
+class FiltersPill;
+class IcsImportFlow;
+class MainMenus;
+class PlainKeyGuard;
+class QSplitter;
+class QStackedWidget;
+class Sidebar;
+class ViewArea;
+class WindowLayout;
+struct Event;
+struct FilterRule;
+
+/// The window: menus, panes and status bar. Opens the dialogs, takes dropped files, and is where the
+/// commands of a second launch arrive.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit MainWindow(AppState *state, QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    [[nodiscard]] bool isQuitting() const { return m_quitting; }
+    [[nodiscard]] bool isSidebarWanted() const; ///< the stored choice, also while the window is hidden
+    [[nodiscard]] ActionTable *actionTable() const;
+    [[nodiscard]] ViewArea *viewArea() const { return m_viewArea; }
+    [[nodiscard]] Sidebar *sidebar() const { return m_sidebar; }
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+public slots:
+    void focusWindow(); ///< shows, raises and activates it
+    void showToday();
+    void importIcsFromCommand(const QString &path); ///< absolute
+    void importIcsFiles(const QStringList &paths); ///< one dialog for all of them
+    void chooseIcsFiles();
+    void openNewCalendarDialog();
+    void openPreferencesDialog();
+    void openAddFilterDialog();
+    void openManageFiltersDialog();
+    void openAddViewDialog();
+    void openManageViewsDialog();
+    void openKeyboardHelp();
+    void openAboutBox();
+    void setSidebarVisible(bool visible);
+    void quitApplication();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    void buildCentralPanes();
+    void buildStatusBar();
+    void refreshCenterPane();
+    void onFilterFromEvent(const Event &event);
+
+    AppState *m_state;
+    QSplitter *m_panes = nullptr;
+    Sidebar *m_sidebar = nullptr;
+    QStackedWidget *m_center = nullptr; // the page without calendars, and the view area
+    ViewArea *m_viewArea = nullptr;
+    MainMenus *m_menus = nullptr;
+    IcsImportFlow *m_import = nullptr;
+    std::unique_ptr<WindowLayout> m_layout;
+    bool m_quitting = false;
+};

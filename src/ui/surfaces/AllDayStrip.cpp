@@ -1,0 +1,306 @@
+#include "ui/surfaces/AllDayStrip.h"
+
+#include "ui/surfaces/EventColors.h"
+#include "ui/surfaces/EventText.h"
+#include "ui/theme/Theme.h"
+
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int GutterMarginPx = 8;
+constexpr int TextInsetPx = 6;
+constexpr int ChipRadiusPx = 4;
+constexpr int StripeWidthPx = 3;
+constexpr int StripeDarkness = 180; // per cent
+constexpr int BodyAlpha = 90;
+constexpr int FaintBodyAlpha = 30;
+constexpr QChar BeyondLeft(u'‹');
+constexpr QChar BeyondRight(u'›');
+
+}
+
+AllDayStrip::AllDayStrip(AppState *state, QWidget *parent)
+    : EventCanvas(state, parent)
+    , m_scrollBar(new QScrollBar(Qt::Vertical, this))
+{
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setAccessibleName(tr("All-day events"));
+    m_scrollBar->hide();
+    m_scrollBar->setFocusPolicy(Qt::NoFocus);
+    connect(m_scrollBar, &QScrollBar::valueChanged, this, &AllDayStrip::relayout);
+}
+
+void AllDayStrip::setData(int gutterPx, QDate first, int days, const QList<Event> &events,
+                          const QHash<QString, QString> &calendarColors, const QSet<QString> &dimmedIds)
+{
+    QList<Event> allDay;
+    std::copy_if(events.begin(), events.end(), std::back_inserter(allDay),
+                 [](const Event &event) { return event.isAllDay; });
+    setEvents(allDay, calendarColors, dimmedIds);
+    m_columns.gutterPx = gutterPx;
+    m_columns.count = std::max(1, days);
+    m_first = first;
+    m_bars = layOutBars(allDay, first, m_columns.count);
+    setFocusPolicy(m_bars.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
+    relayout();
+    updateGeometry();
+}
+
+void AllDayStrip::setGutterPx(int pixels)
+{
+    m_columns.gutterPx = pixels;
+    relayout();
+}
+
+void AllDayStrip::setContentWidth(int pixels)
+{
+    m_columns.widthPx = pixels;
+    relayout();
+}
+
+void AllDayStrip::setHeightLimit(int pixels)
+{
+    m_heightLimit = pixels;
+    relayout();
+    updateGeometry();
+}
+
+void AllDayStrip::setExpanded(bool expanded)
+{
+    m_isExpanded = expanded;
+    relayout();
+    updateGeometry();
+}
+
+AllDayMetrics AllDayStrip::metrics() const
+{
+    AllDayMetrics result;
+    result.columns = m_columns;
+    result.laneHeightPx = std::max(20, QFontMetrics(barFont()).height() + 4);
+    result.laneCount = laneCount();
+    result.isExpanded = m_isExpanded;
+    if (m_isExpanded) {
+        result.laneLimit = result.lanesFitting(m_heightLimit);
+        result.topLane = std::clamp(m_scrollBar->value(), 0, std::max(0, result.laneCount - result.shownLanes()));
+    }
+    return result;
+}
+
+QFont AllDayStrip::barFont() const
+{
+    QFont result = resized(font(), -1, 8);
+    result.setBold(true);
+    return result;
+}
+
+QFont AllDayStrip::smallFont() const
+{
+    return resized(font(), -2, 7);
+}
+
+int AllDayStrip::neededGutterPx() const
+{
+    return std::max<int>(DayColumns::StandardGutterPx,
+                         QFontMetrics(smallFont()).horizontalAdvance(tr("all-day")) + GutterMarginPx + 4);
+}
+
+QSize AllDayStrip::sizeHint() const
+{
+    return { m_columns.gutterPx, metrics().totalHeightPx() };
+}
+
+QSize AllDayStrip::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+void AllDayStrip::relayout()
+{
+    updateScrollBar();
+    const AllDayMetrics where = metrics();
+    m_hiddenPerColumn = hiddenPerColumn(m_bars, where);
+    m_shownBars.clear();
+    QList<EventBlock> shown;
+    for (const AllDayBar &bar : std::as_const(m_bars)) {
+        if (!where.isShown(bar, m_bars))
+            continue;
+        const Event &event = events().at(bar.eventIndex);
+        m_shownBars.append(bar);
+        shown.append({ event.id, where.barRect(bar), event.startTime, bar.eventIndex });
+    }
+    setBlocks(shown);
+}
+
+void AllDayStrip::updateScrollBar()
+{
+    const AllDayMetrics where = metrics();
+    const int beyond = m_isExpanded ? where.laneCount - where.shownLanes() : 0;
+    const int width = m_scrollBar->sizeHint().width();
+    m_scrollBar->setGeometry(this->width() - width, 0, width, where.lanesHeightPx());
+    const QSignalBlocker quiet(m_scrollBar); // relayout() is at work already
+    m_scrollBar->setRange(0, std::max(0, beyond));
+    m_scrollBar->setPageStep(where.shownLanes());
+    m_scrollBar->setVisible(beyond > 0);
+}
+
+QList<EventKey> AllDayStrip::walkOrder() const
+{
+    QList<EventKey> order;
+    for (const AllDayBar &bar : m_bars)
+        order.append({ events().at(bar.eventIndex).id, events().at(bar.eventIndex).startTime });
+    return order;
+}
+
+void AllDayStrip::reveal(const EventKey &key)
+{
+    const auto bar = std::find_if(m_bars.begin(), m_bars.end(), [this, &key](const AllDayBar &candidate) {
+        const Event &event = events().at(candidate.eventIndex);
+        return key.matches({ event.id, event.startTime });
+    });
+    if (bar == m_bars.end() || metrics().isShown(*bar, m_bars))
+        return;
+    if (!m_isExpanded)
+        setExpanded(true);
+    const AllDayMetrics where = metrics();
+    if (bar->lane < where.topLane)
+        m_scrollBar->setValue(bar->lane);
+    else if (bar->lane >= where.topLane + where.shownLanes())
+        m_scrollBar->setValue(bar->lane - where.shownLanes() + 1);
+}
+
+QRect AllDayStrip::overflowChipRect(int column) const
+{
+    if (m_hiddenPerColumn.value(column, 0) == 0)
+        return {};
+    return metrics().cellRect(column, column, AllDayMetrics::CollapsedLanes - 1);
+}
+
+int AllDayStrip::overflowChipAt(QPoint point) const
+{
+    const int column = m_columns.columnAt(point.x());
+    return column >= 0 && overflowChipRect(column).contains(point) ? column : -1;
+}
+
+QRect AllDayStrip::chevronRect() const
+{
+    const AllDayMetrics where = metrics();
+    if (!m_isExpanded || !where.overflows())
+        return {};
+    return { m_columns.gutterPx, where.lanesHeightPx(), m_columns.right() - m_columns.gutterPx,
+             AllDayMetrics::ChevronRowPx };
+}
+
+void AllDayStrip::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(rect(), palette().color(QPalette::Base));
+    painter.fillRect(QRect(0, height() - 1, width(), 1), Theme::border());
+    painter.setFont(smallFont());
+    painter.setPen(Theme::textMuted());
+    const QRect gutter(0, 0, m_columns.gutterPx - GutterMarginPx, height());
+    painter.drawText(gutter, Qt::AlignRight | Qt::AlignVCenter, tr("all-day"));
+    for (int i = 0; i < blocks().size(); ++i)
+        paintBar(painter, blocks().at(i), m_shownBars.at(i));
+    paintChips(painter);
+    paintChevron(painter);
+    paintFocusMark(painter, m_columns.gutterPx);
+}
+
+void AllDayStrip::paintBar(QPainter &painter, const EventBlock &block, const AllDayBar &bar) const
+{
+    const Event &event = eventOf(block);
+    BlockColors colors = colorsOf(event, BodyAlpha, FaintBodyAlpha, palette().color(QPalette::Base));
+    if (Theme::activeMode() == Theme::Mode::Light)
+        colors.stripe = colors.stripe.darker(StripeDarkness);
+    paintShape(painter, block, colors, StripeWidthPx);
+    QFont textFont = barFont();
+    textFont.setStrikeOut(event.status == EventStatus::Cancelled);
+    painter.setFont(textFont);
+    painter.setPen(colors.text);
+    const QFontMetrics fontMetrics(textFont);
+    QRect text = block.rect.adjusted(TextInsetPx, 0, -TextInsetPx, 0);
+    // Arrows at the ends of what goes on beyond the days on show.
+    const int arrowWidth = fontMetrics.horizontalAdvance(BeyondRight) + 2;
+    if (bar.endsLater) {
+        painter.drawText(text, Qt::AlignRight | Qt::AlignVCenter, BeyondRight);
+        text.setRight(text.right() - arrowWidth);
+    }
+    if (bar.beginsEarlier) {
+        painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter, BeyondLeft);
+        text.setLeft(text.left() + arrowWidth);
+    }
+    painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter,
+                     fontMetrics.elidedText(EventText::title(event), Qt::ElideRight, text.width()));
+}
+
+void AllDayStrip::paintChips(QPainter &painter) const
+{
+    const QFontMetrics fontMetrics(smallFont());
+    painter.setFont(smallFont());
+    for (int column = 0; column < m_columns.count; ++column) {
+        const QRect chip = overflowChipRect(column);
+        if (chip.isEmpty())
+            continue;
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(EventColors::withAlpha(palette().color(QPalette::Mid), 80));
+        painter.drawRoundedRect(chip, ChipRadiusPx, ChipRadiusPx);
+        painter.setPen(palette().color(QPalette::WindowText));
+        const QRect text = chip.adjusted(TextInsetPx, 0, -TextInsetPx, 0);
+        const QString label = tr("+%1 more").arg(m_hiddenPerColumn.at(column));
+        painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter,
+                         fontMetrics.elidedText(label, Qt::ElideRight, text.width()));
+    }
+}
+
+void AllDayStrip::paintChevron(QPainter &painter) const
+{
+    const QRect row = chevronRect();
+    if (row.isEmpty())
+        return;
+    painter.fillRect(row, EventColors::withAlpha(palette().color(QPalette::Mid), 50));
+    painter.setPen(QPen(palette().color(QPalette::WindowText), 1.6));
+    const QPoint top = row.center() - QPoint(0, 2);
+    painter.drawLine(top, top + QPoint(-5, 5));
+    painter.drawLine(top, top + QPoint(5, 5));
+}
+
+void AllDayStrip::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && selection().isEmpty() && metrics().overflows() && m_isExpanded)
+        return setExpanded(false);
+    EventCanvas::keyPressEvent(event);
+}
+
+void AllDayStrip::mouseReleaseEvent(QMouseEvent *event)
+{
+    const QPoint point = event->position().toPoint();
+    const bool isOnControl = chevronRect().contains(point) || overflowChipAt(point) >= 0;
+    if (event->button() == Qt::LeftButton && isOnControl)
+        return setExpanded(!m_isExpanded);
+    EventCanvas::mouseReleaseEvent(event);
+}
+
+void AllDayStrip::mouseMoveEvent(QMouseEvent *event)
+{
+    EventCanvas::mouseMoveEvent(event);
+    const QPoint point = event->position().toPoint();
+    if (chevronRect().contains(point) || overflowChipAt(point) >= 0)
+        setCursor(Qt::PointingHandCursor);
+}
+
+void AllDayStrip::wheelEvent(QWheelEvent *event)
+{
+    if (!m_scrollBar->isVisible() || event->modifiers().testFlag(Qt::ControlModifier))
+        return event->ignore();
+    m_scrollBar->setValue(m_scrollBar->value() - m_wheelNotches.add(event->angleDelta().y()));
+    event->accept();
+}

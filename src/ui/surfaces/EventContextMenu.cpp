@@ -1,0 +1,17 @@
+#include "ui/surfaces/EventContextMenu.h"
+
+#include "app/state/AppState.h"
+#include "calendar/FilterEngine.h"
+#include "storage/FilterRuleRepository.h"
+#include "ui/theme/Theme.h"
+
+EventContextMenu::EventContextMenu(AppState *state, const Event &event, QWidget *parent)
+    : QMenu(parent)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    if (const auto rule = FilterEngine::firstMatchingRule(event, state->filterRules()->getAll())) {
+        addAction(tr("Edit filter \"%1\"…").arg(Theme::plainLabel(rule->name)), this,
+                  [this, rule = *rule] { emit filterEditRequested(rule); });
+    }
+    addAction(tr("Create Filter from Event…"), this, [this, event] { emit filterFromEventRequested(event); });
+}

@@ -1,0 +1,412 @@
+#include "ui/surfaces/MiniMonthCalendar.h"
+
+#include "app/state/AppState.h"
+#include "calendar/EventDays.h"
+#include "calendar/services/VisibleEvents.h"
+#include "storage/CalendarRepository.h"
+#include "storage/EventRepository.h"
+#include "storage/FilterRuleRepository.h"
+#include "ui/theme/Theme.h"
+#include "ui/theme/ThemeManager.h"
+
+#include <QEvent>
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QLocale>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolButton>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int GridDays = MiniMonthGeometry::Rows * MiniMonthGeometry::Columns;
+constexpr int PreferredWidthPx = 240;
+constexpr int WheelPauseMs = 150; // a flick of a touchpad sends dozens of steps
+constexpr qreal DotRadius = 2.0;
+constexpr qreal OutlineWidth = 1.4;
+
+QFont sizedFont(const QFont &base, int offsetPt, int leastPt, bool isBold)
+{
+    QFont font = base;
+    font.setPointSize(std::max(leastPt, QFontInfo(base).pointSize() + offsetPt));
+    font.setBold(isBold);
+    return font;
+}
+
+QFont titleFont(const QFont &base)
+{
+    return sizedFont(base, 1, 11, true);
+}
+
+QFont weekdayFont(const QFont &base)
+{
+    return sizedFont(base, -2, 8, true);
+}
+
+QFont dayFont(const QFont &base)
+{
+    return sizedFont(base, 0, 9, false);
+}
+
+void drawDot(QPainter &painter, QPointF center, const QColor &color)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawEllipse(center, DotRadius, DotRadius);
+}
+
+}
+
+MiniMonthCalendar::MiniMonthCalendar(AppState *state, QWidget *parent)
+    : QWidget(parent)
+    , m_state(state)
+    , m_previous(makeStepButton(tr("Previous month"), -1))
+    , m_next(makeStepButton(tr("Next month"), 1))
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setAccessibleName(tr("Month to pick a day from"));
+    updateLayout();
+    updateIcons();
+    onCurrentDateChanged(currentDate());
+    if (m_state)
+        connectSources();
+}
+
+void MiniMonthCalendar::connectSources()
+{
+    const auto reload = [this] { reloadOrMarkStale(); };
+    connect(m_state, &AppState::currentDateChanged, this, &MiniMonthCalendar::onCurrentDateChanged);
+    connect(m_state, &AppState::activeViewChanged, this, reload);
+    connect(m_state, &AppState::firstDayOfWeekChanged, this, reload);
+    connect(m_state, &AppState::todayChanged, this, [this] { update(); });
+    connect(m_state->events(), &EventRepository::eventsChanged, this, reload);
+    connect(m_state->calendars(), &CalendarRepository::calendarsChanged, this, reload);
+    connect(m_state->filterRules(), &FilterRuleRepository::filterRulesChanged, this, reload);
+    if (ThemeManager *theme = m_state->theme()) {
+        const auto recolor = [this] {
+            updateIcons();
+            update();
+        };
+        connect(theme, &ThemeManager::modeChanged, this, recolor);
+        connect(theme, &ThemeManager::accentChanged, this, recolor);
+    }
+}
+
+QToolButton *MiniMonthCalendar::makeStepButton(const QString &name, int months)
+{
+    auto *button = new QToolButton(this);
+    button->setProperty("iconOnly", true);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAutoRaise(true);
+    button->setToolTip(name);
+    button->setAccessibleName(name);
+    connect(button, &QToolButton::clicked, this, [this, months] { stepMonth(months); });
+    return button;
+}
+
+QSize MiniMonthCalendar::sizeHint() const
+{
+    return { std::max(PreferredWidthPx, m_minimumWidthPx), m_geometry.heightPx() };
+}
+
+QSize MiniMonthCalendar::minimumSizeHint() const
+{
+    return { m_minimumWidthPx, m_geometry.heightPx() };
+}
+
+QDate MiniMonthCalendar::gridStart() const
+{
+    return MiniMonthGeometry::gridStart(m_month, firstDayOfWeek());
+}
+
+QDate MiniMonthCalendar::dateAt(QPoint point) const
+{
+    const int cell = m_geometry.cellAt(point);
+    return cell < 0 ? QDate() : gridStart().addDays(cell);
+}
+
+QRect MiniMonthCalendar::dateRect(QDate date) const
+{
+    const qint64 day = date.isValid() ? gridStart().daysTo(date) : -1;
+    if (day < 0 || day >= GridDays)
+        return {};
+    const int cell = static_cast<int>(day);
+    return m_geometry.cellRect(cell % MiniMonthGeometry::Columns, cell / MiniMonthGeometry::Columns);
+}
+
+void MiniMonthCalendar::stepMonth(int months)
+{
+    const QDate target = m_month.addMonths(months);
+    if (!target.isValid())
+        return;
+    m_month = target;
+    reloadOrMarkStale();
+}
+
+void MiniMonthCalendar::onCurrentDateChanged(QDate date)
+{
+    setAccessibleDescription(QLocale().toString(date, QLocale::LongFormat));
+    const QDate month(date.year(), date.month(), 1);
+    if (month != m_month) {
+        m_month = month;
+        reloadOrMarkStale();
+    }
+    update();
+}
+
+Qt::DayOfWeek MiniMonthCalendar::firstDayOfWeek() const
+{
+    return m_state ? m_state->firstDayOfWeek() : QLocale().firstDayOfWeek();
+}
+
+QDate MiniMonthCalendar::currentDate() const
+{
+    const QDate date = m_state ? m_state->currentDate() : QDate();
+    return date.isValid() ? date : QDate::currentDate();
+}
+
+void MiniMonthCalendar::reloadOrMarkStale()
+{
+    m_isStale = true;
+    if (isVisible())
+        reloadEvents();
+}
+
+void MiniMonthCalendar::reloadEvents()
+{
+    m_isStale = false;
+    m_busyDays.clear();
+    const QDate first = gridStart();
+    if (m_state && m_state->visibleEvents() && first.isValid()) {
+        const QDate last = first.addDays(GridDays - 1);
+        const auto span = m_state->visibleEvents()->inRange(first, GridDays);
+        for (const Event &event : span->events) {
+            const QDate end = std::min(last, EventDays::lastDay(event));
+            for (QDate day = std::max(first, EventDays::firstDay(event)); day <= end; day = day.addDays(1))
+                m_busyDays.insert(day);
+        }
+    }
+    update();
+}
+
+void MiniMonthCalendar::updateLayout()
+{
+    const QFontMetrics title(titleFont(font()));
+    const QFontMetrics weekday(weekdayFont(font()));
+    const QFontMetrics day(dayFont(font()));
+    const MiniMonthGeometry least;
+    m_geometry.widthPx = width();
+    m_geometry.headerHeightPx = std::max(least.headerHeightPx, title.height() + 8);
+    m_geometry.weekdayHeightPx = std::max(least.weekdayHeightPx, weekday.height() + 4);
+    m_geometry.rowHeightPx = std::max(least.rowHeightPx, day.height() + 14);
+
+    const int cellWidth = day.horizontalAdvance(QLocale().toString(28)) + 12;
+    m_minimumWidthPx = MiniMonthGeometry::Columns * cellWidth + 2 * MiniMonthGeometry::MarginPx;
+
+    const QRect header = m_geometry.headerRect();
+    const int side = header.height() - 4;
+    m_next->setGeometry(header.right() + 1 - side, header.top() + 2, side, side);
+    m_previous->setGeometry(header.right() + 1 - 2 * side - 4, header.top() + 2, side, side);
+    const int icon = std::max(12, title.height() * 3 / 4);
+    for (QToolButton *button : { m_previous, m_next })
+        button->setIconSize({ icon, icon });
+}
+
+void MiniMonthCalendar::updateIcons()
+{
+    const QString path = Theme::activeMode() == Theme::Mode::Dark ? QStringLiteral(":/icons/arrow-%1-dark.svg")
+                                                                  : QStringLiteral(":/icons/arrow-%1-light.svg");
+    m_previous->setIcon(QIcon(path.arg(QLatin1StringView("left"))));
+    m_next->setIcon(QIcon(path.arg(QLatin1StringView("right"))));
+}
+
+bool MiniMonthCalendar::event(QEvent *event)
+{
+    // The keys of the focused month come before the window's shortcuts.
+    if (event->type() == QEvent::ShortcutOverride && dateForKey(*static_cast<QKeyEvent *>(event)).isValid()) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+QDate MiniMonthCalendar::dateForKey(const QKeyEvent &event) const
+{
+    if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
+        return {};
+    const QDate date = currentDate();
+    switch (event.key()) {
+    case Qt::Key_Left:
+        return date.addDays(-1);
+    case Qt::Key_Right:
+        return date.addDays(1);
+    case Qt::Key_Up:
+        return date.addDays(-7);
+    case Qt::Key_Down:
+        return date.addDays(7);
+    case Qt::Key_PageUp:
+        return date.addMonths(-1);
+    case Qt::Key_PageDown:
+        return date.addMonths(1);
+    case Qt::Key_Home:
+        return QDate::currentDate();
+    default:
+        return {};
+    }
+}
+
+void MiniMonthCalendar::keyPressEvent(QKeyEvent *event)
+{
+    const QDate date = dateForKey(*event);
+    if (!date.isValid() || !m_state) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    m_state->setCurrentDate(date);
+    onCurrentDateChanged(date); // shows its month, also if the date was current already
+}
+
+void MiniMonthCalendar::mousePressEvent(QMouseEvent *event)
+{
+    const QDate date = event->button() == Qt::LeftButton ? dateAt(event->position().toPoint()) : QDate();
+    if (!date.isValid() || !m_state) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    m_state->setCurrentDate(date);
+    onCurrentDateChanged(date);
+}
+
+void MiniMonthCalendar::mouseMoveEvent(QMouseEvent *event)
+{
+    const QDate date = dateAt(event->position().toPoint());
+    if (date == m_hovered)
+        return;
+    m_hovered = date;
+    update();
+}
+
+void MiniMonthCalendar::leaveEvent(QEvent *)
+{
+    m_hovered = {};
+    update();
+}
+
+void MiniMonthCalendar::wheelEvent(QWheelEvent *event)
+{
+    const int step = monthStepForWheel(event->angleDelta());
+    if (step == 0) {
+        QWidget::wheelEvent(event);
+        return;
+    }
+    event->accept();
+    if (m_sinceWheelStep.isValid() && m_sinceWheelStep.elapsed() < WheelPauseMs)
+        return;
+    m_sinceWheelStep.start();
+    stepMonth(step);
+}
+
+void MiniMonthCalendar::resizeEvent(QResizeEvent *)
+{
+    updateLayout();
+}
+
+void MiniMonthCalendar::showEvent(QShowEvent *)
+{
+    if (m_isStale)
+        reloadEvents();
+}
+
+void MiniMonthCalendar::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        updateLayout();
+        updateGeometry();
+    }
+    QWidget::changeEvent(event);
+}
+
+void MiniMonthCalendar::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintHeader(painter);
+    paintWeekdays(painter);
+    painter.setFont(dayFont(font()));
+    QDate date = gridStart();
+    for (int cell = 0; cell < GridDays; ++cell, date = date.addDays(1))
+        paintDay(painter, date, m_geometry.cellRect(cell % MiniMonthGeometry::Columns, cell / MiniMonthGeometry::Columns));
+}
+
+void MiniMonthCalendar::paintHeader(QPainter &painter) const
+{
+    QRect rect = m_geometry.headerRect();
+    rect.setRight(m_previous->x() - MiniMonthGeometry::MarginPx);
+    if (hasFocus() && dateRect(currentDate()).isEmpty()) {
+        painter.setPen(QPen(Theme::accent(), OutlineWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(rect, 4, 4);
+    }
+    rect.setLeft(rect.left() + MiniMonthGeometry::MarginPx);
+    painter.setFont(titleFont(font()));
+    painter.setPen(Theme::textPrimary());
+    //: Title of the small month in the sidebar: a date pattern, M is for month and y for year.
+    const QString title = QLocale().toString(m_month, tr("MMMM yyyy"));
+    painter.drawText(rect, Qt::AlignLeft | Qt::AlignVCenter,
+                     painter.fontMetrics().elidedText(title, Qt::ElideRight, rect.width()));
+}
+
+void MiniMonthCalendar::paintWeekdays(QPainter &painter) const
+{
+    painter.setFont(weekdayFont(font()));
+    painter.setPen(Theme::textMuted());
+    for (int column = 0; column < MiniMonthGeometry::Columns; ++column) {
+        const int day = (firstDayOfWeek() - 1 + column) % MiniMonthGeometry::Columns + 1;
+        painter.drawText(m_geometry.weekdayRect(column), Qt::AlignCenter,
+                         QLocale().standaloneDayName(day, QLocale::NarrowFormat));
+    }
+}
+
+void MiniMonthCalendar::paintDay(QPainter &painter, QDate date, const QRect &cell) const
+{
+    const bool isSelected = date == currentDate();
+    const bool isToday = date == QDate::currentDate();
+    const bool isOutside = date.month() != m_month.month();
+    const QPointF center = QRectF(cell).center();
+    const qreal radius = MiniMonthGeometry::dayRadius(cell);
+    QColor text = isOutside ? Theme::textDisabled() : Theme::textPrimary();
+    QColor dot = isOutside ? Theme::textDisabled() : Theme::accent();
+    QPointF dotCenter(center.x(), cell.bottom() - 4);
+
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::NoBrush);
+    if (isSelected) {
+        text = dot = Theme::textOn(Theme::accent());
+        dotCenter.setY(center.y() + radius - 2 * DotRadius); // inside the circle, where its colour shows
+        painter.setBrush(Theme::accent());
+    } else {
+        if (date == m_hovered)
+            painter.setBrush(Theme::accentMuted());
+        if (isToday) {
+            text = Theme::accentText();
+            painter.setPen(QPen(Theme::accent(), OutlineWidth));
+        }
+    }
+    painter.drawEllipse(center, radius, radius);
+    if (isSelected && hasFocus()) {
+        painter.setPen(QPen(Theme::textPrimary(), OutlineWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawEllipse(center, radius + 2, radius + 2);
+    }
+
+    painter.setPen(text);
+    painter.drawText(cell, Qt::AlignCenter, QLocale().toString(date.day()));
+    if (m_busyDays.contains(date))
+        drawDot(painter, dotCenter, dot);
+}

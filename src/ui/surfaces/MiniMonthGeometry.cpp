@@ -1,0 +1,75 @@
+#include "ui/surfaces/MiniMonthGeometry.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int WheelStep = 60; // half a notch of an ordinary wheel
+
+int gridTop(const MiniMonthGeometry &geometry)
+{
+    return geometry.weekdayRect(0).bottom() + 1 + MiniMonthGeometry::MarginPx;
+}
+
+}
+
+QDate MiniMonthGeometry::gridStart(QDate month, Qt::DayOfWeek firstDayOfWeek)
+{
+    if (!month.isValid())
+        return {};
+    const QDate first(month.year(), month.month(), 1);
+    return first.addDays(-((first.dayOfWeek() - firstDayOfWeek + Columns) % Columns));
+}
+
+int MiniMonthGeometry::heightPx() const
+{
+    return gridTop(*this) + Rows * rowHeightPx + MarginPx;
+}
+
+QRect MiniMonthGeometry::headerRect() const
+{
+    return { MarginPx, MarginPx, std::max(0, widthPx - 2 * MarginPx), headerHeightPx };
+}
+
+QRect MiniMonthGeometry::weekdayRect(int column) const
+{
+    const int usable = std::max(0, widthPx - 2 * MarginPx);
+    const int base = usable / Columns;
+    const int remainder = usable % Columns;
+    return { MarginPx + column * base + std::min(column, remainder), headerRect().bottom() + 1 + MarginPx,
+             base + (column < remainder ? 1 : 0), weekdayHeightPx };
+}
+
+QRect MiniMonthGeometry::cellRect(int column, int row) const
+{
+    QRect rect = weekdayRect(column);
+    rect.setRect(rect.x(), gridTop(*this) + row * rowHeightPx, rect.width(), rowHeightPx);
+    return rect;
+}
+
+int MiniMonthGeometry::cellAt(QPoint point) const
+{
+    const int y = point.y() - gridTop(*this);
+    if (y < 0 || y >= Rows * rowHeightPx)
+        return -1;
+    const int row = y / rowHeightPx;
+    for (int column = 0; column < Columns; ++column) {
+        if (cellRect(column, row).contains(point))
+            return row * Columns + column;
+    }
+    return -1;
+}
+
+qreal MiniMonthGeometry::dayRadius(const QRect &cell)
+{
+    return std::max(2.0, std::min(cell.width(), cell.height()) / 2.0 - 4.0);
+}
+
+int monthStepForWheel(QPoint angleDelta)
+{
+    if (angleDelta.y() >= WheelStep)
+        return -1;
+    if (angleDelta.y() <= -WheelStep || angleDelta.x() >= WheelStep)
+        return 1;
+    return angleDelta.x() <= -WheelStep ? -1 : 0;
+}

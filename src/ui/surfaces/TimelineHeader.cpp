@@ -1,0 +1,161 @@
+#include "ui/surfaces/TimelineHeader.h"
+
+#include "ui/theme/Theme.h"
+
+#include <QFontMetrics>
+#include <QHelpEvent>
+#include <QLocale>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int MarginPx = 4;
+constexpr int LineCount = 2;
+
+}
+
+TimelineHeader::TimelineHeader(QWidget *parent)
+    : QWidget(parent)
+{
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setMouseTracking(true);
+}
+
+void TimelineHeader::setDays(QDate first, int count)
+{
+    m_first = first;
+    m_columns.count = std::max(1, count);
+    update();
+}
+
+void TimelineHeader::setToday(QDate today)
+{
+    m_today = today;
+    update();
+}
+
+void TimelineHeader::setGutterPx(int pixels)
+{
+    m_columns.gutterPx = pixels;
+    update();
+}
+
+void TimelineHeader::setContentWidth(int pixels)
+{
+    m_columns.widthPx = pixels;
+    update();
+}
+
+QDate TimelineHeader::dateAt(QPoint point) const
+{
+    const int column = m_columns.columnAt(point.x());
+    return column < 0 || !rect().contains(point) ? QDate() : m_first.addDays(column);
+}
+
+QRect TimelineHeader::columnRect(int column) const
+{
+    return { m_columns.left(column), 0, m_columns.columnWidthPx(), height() };
+}
+
+QStringList TimelineHeader::lines(QDate date) const
+{
+    //: weekday and date above a column of the week, as a date pattern in two lines
+    return QLocale().toString(date, tr("ddd\nMMM d")).split(u'\n');
+}
+
+QFont TimelineHeader::dayFont(QDate date) const
+{
+    QFont result = font();
+    result.setBold(date == m_today);
+    return result;
+}
+
+QSize TimelineHeader::sizeHint() const
+{
+    QFont boldFont = font();
+    boldFont.setBold(true);
+    return { m_columns.gutterPx, LineCount * QFontMetrics(boldFont).height() + 2 * MarginPx };
+}
+
+QSize TimelineHeader::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+void TimelineHeader::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(rect(), palette().color(QPalette::Base));
+    for (int column = 0; m_first.isValid() && column < m_columns.count; ++column) {
+        const QDate date = m_first.addDays(column);
+        const QRect cell = columnRect(column).adjusted(2, 2, -2, -2);
+        const QFontMetrics fontMetrics(dayFont(date));
+        if (date == m_hovered) {
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(Theme::surfaceMuted());
+            painter.drawRoundedRect(cell, 4, 4);
+        }
+        if (date == m_today) // a mark that does not rest on colour alone: bold text over a bar
+            painter.fillRect(QRect(columnRect(column).left() + 1, height() - 3, cell.width() + 2, 3), Theme::accent());
+        painter.setFont(dayFont(date));
+        painter.setPen(date == m_today ? Theme::link() : Theme::textPrimary());
+        QRect line(cell.left(), MarginPx, cell.width(), fontMetrics.height());
+        for (const QString &text : lines(date)) {
+            painter.drawText(line, Qt::AlignCenter, fontMetrics.elidedText(text, Qt::ElideRight, line.width()));
+            line.translate(0, fontMetrics.height());
+        }
+    }
+}
+
+bool TimelineHeader::event(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange)
+        updateGeometry();
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const QDate date = dateAt(help->pos());
+    //: a whole date, as a date pattern
+    const QString text = date.isValid() ? QLocale().toString(date, tr("dddd, MMMM d, yyyy")) : QString();
+    QToolTip::showText(help->globalPos(), text, this);
+    return true;
+}
+
+void TimelineHeader::setHovered(QDate date)
+{
+    if (m_hovered == date)
+        return;
+    m_hovered = date;
+    setCursor(date.isValid() ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    update();
+}
+
+void TimelineHeader::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return QWidget::mousePressEvent(event);
+    m_pressed = dateAt(event->position().toPoint());
+}
+
+void TimelineHeader::mouseMoveEvent(QMouseEvent *event)
+{
+    setHovered(dateAt(event->position().toPoint()));
+}
+
+void TimelineHeader::mouseReleaseEvent(QMouseEvent *event)
+{
+    const QDate pressed = std::exchange(m_pressed, QDate());
+    if (event->button() == Qt::LeftButton && pressed.isValid() && dateAt(event->position().toPoint()) == pressed)
+        emit dayActivated(pressed);
+}
+
+void TimelineHeader::leaveEvent(QEvent *event)
+{
+    setHovered({});
+    QWidget::leaveEvent(event);
+}

@@ -1,0 +1,289 @@
+#include "ui/surfaces/TimelineView.h"
+
+#include "app/state/AppState.h"
+#include "calendar/services/VisibleEvents.h"
+#include "storage/CalendarRepository.h"
+#include "storage/EventRepository.h"
+#include "storage/FilterRuleRepository.h"
+#include "storage/PreferencesRepository.h"
+#include "ui/surfaces/AllDayStrip.h"
+#include "ui/surfaces/EventContextMenu.h"
+#include "ui/surfaces/TimelineWidget.h"
+#include "ui/theme/ThemeManager.h"
+
+#include <QKeyEvent>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int ZoomStepPx = 8;
+constexpr int RevealMarginPx = 8;
+constexpr int DefaultWorkdayStart = 8;
+constexpr int DefaultWorkdayEnd = 18;
+
+int workdayStart(AppState *state)
+{
+    return state->preferences()->getInt(QStringLiteral("ui/workdayStart"), DefaultWorkdayStart);
+}
+
+int workdayEnd(AppState *state)
+{
+    return state->preferences()->getInt(QStringLiteral("ui/workdayEnd"), DefaultWorkdayEnd);
+}
+
+}
+
+TimelineView::TimelineView(AppState *state, TimelineWidget *timeline, const QString &mode, int nowLineIntervalMs,
+                           QWidget *parent)
+    : QWidget(parent)
+    , m_state(state)
+    , m_mode(mode)
+    , m_timeline(timeline)
+    , m_strip(new AllDayStrip(state, this))
+    , m_scroll(new QScrollArea(this))
+    , m_layout(new QVBoxLayout(this))
+    , m_workdayStart(workdayStart(state))
+{
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(0);
+    m_layout->addWidget(m_strip);
+    m_layout->addWidget(m_scroll, 1);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setMinimumSize(0, 0);
+    m_scroll->setWidget(m_timeline);
+    m_scroll->viewport()->installEventFilter(this);
+
+    m_timeline->setBaseHourHeight(state->hourHeight());
+    m_timeline->setCompact(state->isCompact(mode));
+    m_timeline->setSelectedEventId(state->selectedEventId());
+    m_strip->setSelectedEventId(state->selectedEventId());
+    m_nowTimer.setInterval(nowLineIntervalMs);
+    connect(&m_nowTimer, &QTimer::timeout, this, &TimelineView::updateNow);
+    connectState();
+    connectCanvas(m_timeline);
+    connectCanvas(m_strip);
+}
+
+void TimelineView::connectState()
+{
+    const auto refresh = [this] { reloadOrMarkStale(); };
+    connect(m_state, &AppState::activeViewChanged, this, refresh);
+    connect(m_state->calendars(), &CalendarRepository::calendarsChanged, this, refresh);
+    connect(m_state->events(), &EventRepository::eventsChanged, this, refresh);
+    connect(m_state->filterRules(), &FilterRuleRepository::filterRulesChanged, this, refresh);
+    connect(m_state, &AppState::hourHeightChanged, this, &TimelineView::onHourHeightChanged);
+    connect(m_state, &AppState::workdayHoursChanged, this, &TimelineView::onWorkdayHoursChanged);
+    connect(m_state, &AppState::selectedEventChanged, m_timeline, &EventCanvas::setSelectedEventId);
+    connect(m_state, &AppState::selectedEventChanged, m_strip, &EventCanvas::setSelectedEventId);
+    connect(m_state, &AppState::todayChanged, this, &TimelineView::updateNow);
+    connect(m_state, &AppState::densityChanged, this, [this](const QString &mode, const QString &density) {
+        if (mode == m_mode)
+            m_timeline->setCompact(density == QLatin1StringView("compact"));
+    });
+    connect(m_state->preferences(), &PreferencesRepository::changed, this, [this](const QString &key) {
+        if (key != QLatin1StringView("ui/timeFormat"))
+            return;
+        updateColumns();
+        reloadOrMarkStale();
+    });
+    if (m_state->theme())
+        connect(m_state->theme(), &ThemeManager::accentChanged, this, [this] {
+            m_timeline->update();
+            m_strip->update();
+            update();
+        });
+}
+
+void TimelineView::connectCanvas(EventCanvas *canvas)
+{
+    connect(canvas, &EventCanvas::eventSelected, this, &TimelineView::onEventSelected);
+    connect(canvas, &EventCanvas::eventFocused, m_state, &AppState::setSelectedEventId);
+    connect(canvas, &EventCanvas::eventActivated, this, &TimelineView::eventActivated);
+    connect(canvas, &EventCanvas::fontMetricsChanged, this, &TimelineView::updateColumns);
+    connect(canvas, &EventCanvas::eventContextRequested, this,
+            [this, canvas](const QString &id, const QPoint &globalPos) { onContextRequested(canvas, id, globalPos); });
+    if (canvas != m_timeline)
+        return;
+    connect(m_timeline, &TimelineWidget::revealRequested, this, &TimelineView::reveal);
+    connect(m_timeline, &TimelineWidget::zoomRequested, this,
+            [this](int steps, int y) { zoomAt(steps, y - m_scroll->verticalScrollBar()->value()); });
+}
+
+void TimelineView::reloadOrMarkStale()
+{
+    m_isStale = true;
+    if (isVisible())
+        reload();
+}
+
+void TimelineView::reload()
+{
+    if (!m_state->visibleEvents() || !firstDay().isValid())
+        return;
+    m_isStale = false;
+    const auto span = m_state->visibleEvents()->inRange(firstDay(), columnCount());
+    showData(*span, m_state->syncableCalendarIds());
+    m_timeline->setWorkdayHours(workdayStart(m_state), workdayEnd(m_state));
+    m_strip->setData(m_timeline->metrics().columns.gutterPx, firstDay(), columnCount(), span->events,
+                     span->calendarColors, span->dimmedIds);
+}
+
+void TimelineView::relandOnStartHour()
+{
+    m_landPending = true;
+    if (isVisible())
+        applyInitialScroll();
+}
+
+void TimelineView::applyInitialScroll()
+{
+    const int viewportHeight = m_scroll->viewport()->height();
+    if (viewportHeight <= 0)
+        return;
+    m_landPending = false;
+    fitTimeline();
+    const QDateTime now = QDateTime::currentDateTime();
+    const bool showsToday = firstDay() <= now.date() && now.date() < firstDay().addDays(columnCount());
+    m_scroll->verticalScrollBar()->setValue(landingY(m_timeline->metrics(), workdayStart(m_state), workdayEnd(m_state),
+                                                     showsToday ? now.time() : QTime(), viewportHeight));
+}
+
+void TimelineView::zoomBy(int steps)
+{
+    zoomAt(steps, m_scroll->viewport()->height() / 2);
+}
+
+void TimelineView::zoomAt(int steps, int viewportY)
+{
+    m_zoomAnchorPx = viewportY;
+    m_state->setHourHeight(m_state->hourHeight() + steps * ZoomStepPx);
+    m_zoomAnchorPx.reset();
+}
+
+void TimelineView::onHourHeightChanged(int pixels)
+{
+    QScrollBar *bar = m_scroll->verticalScrollBar();
+    const int anchor = m_zoomAnchorPx.value_or(m_scroll->viewport()->height() / 2);
+    const int before = m_timeline->hourHeight();
+    const int scrolled = bar->value();
+    m_timeline->setBaseHourHeight(pixels);
+    fitTimeline();
+    bar->setValue(scrollAfterZoom(scrolled, anchor, before, m_timeline->hourHeight()));
+}
+
+void TimelineView::onWorkdayHoursChanged(int start, int end)
+{
+    m_timeline->setWorkdayHours(start, end);
+    if (std::exchange(m_workdayStart, start) != start)
+        relandOnStartHour();
+}
+
+void TimelineView::onEventSelected(const QString &id, const QDateTime &occurrenceStart, const QRect &globalRect)
+{
+    m_state->setSelectedEventId(id);
+    if (!id.isEmpty())
+        emit eventSelected(id, occurrenceStart, globalRect);
+}
+
+void TimelineView::onContextRequested(const EventCanvas *canvas, const QString &id, const QPoint &globalPos)
+{
+    const Event *shown = canvas->findEvent(canvas->selection());
+    if (!shown || !m_state->events()->getById(id))
+        return;
+    auto *menu = new EventContextMenu(m_state, *shown, this);
+    connect(menu, &EventContextMenu::filterEditRequested, this, &TimelineView::filterEditRequested);
+    connect(menu, &EventContextMenu::filterFromEventRequested, this, &TimelineView::filterFromEventRequested);
+    m_state->setSelectedEventId(id);
+    menu->popup(globalPos);
+}
+
+void TimelineView::reveal(const QRect &rect)
+{
+    QScrollBar *bar = m_scroll->verticalScrollBar();
+    const int top = rect.top() - RevealMarginPx;
+    const int scrolledDown = rect.bottom() + RevealMarginPx - m_scroll->viewport()->height();
+    if (top < bar->value())
+        bar->setValue(top);
+    else if (scrolledDown > bar->value())
+        bar->setValue(std::min(top, scrolledDown)); // of a tall block the beginning
+}
+
+void TimelineView::updateNow()
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    m_timeline->setNow(now);
+    onTodayChanged(now.date());
+}
+
+void TimelineView::onTodayChanged(QDate) { }
+
+void TimelineView::onColumnsChanged(int, int) { }
+
+void TimelineView::updateColumns()
+{
+    const int gutter = std::max(m_timeline->neededGutterPx(), m_strip->neededGutterPx());
+    const int width = m_scroll->viewport()->width();
+    m_timeline->setGutterPx(gutter);
+    m_strip->setGutterPx(gutter);
+    m_strip->setContentWidth(width);
+    onColumnsChanged(gutter, width);
+}
+
+void TimelineView::fitTimeline()
+{
+    const QSize viewport = m_scroll->viewport()->size();
+    const int height = std::max(viewport.height(), 24 * m_timeline->baseHourHeight());
+    m_timeline->resize(viewport.width(), height);
+    // The scroll area would do this later, and a position set before that would be cut to the old range.
+    m_scroll->verticalScrollBar()->setRange(0, height - viewport.height());
+    m_scroll->verticalScrollBar()->setPageStep(viewport.height());
+}
+
+bool TimelineView::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_scroll->viewport() && event->type() == QEvent::Resize) {
+        fitTimeline();
+        updateColumns();
+        if (m_landPending)
+            applyInitialScroll();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void TimelineView::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    updateNow();
+    m_nowTimer.start();
+    if (m_isStale)
+        reload();
+    if (m_landPending)
+        applyInitialScroll();
+}
+
+void TimelineView::hideEvent(QHideEvent *event)
+{
+    m_nowTimer.stop();
+    QWidget::hideEvent(event);
+}
+
+void TimelineView::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    m_strip->setHeightLimit(height() * 2 / 5);
+}
+
+void TimelineView::keyPressEvent(QKeyEvent *event)
+{
+    const bool isZoomIn = event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal;
+    const bool isZoomOut = event->key() == Qt::Key_Minus || event->key() == Qt::Key_Underscore;
+    if (!event->modifiers().testFlag(Qt::ControlModifier) || (!isZoomIn && !isZoomOut))
+        return QWidget::keyPressEvent(event);
+    zoomBy(isZoomIn ? 1 : -1);
+}

@@ -1,0 +1,243 @@
+#include "app/SingleInstance.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+/// The channel between a running instance and later launches.
+class tst_SingleInstance : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        qputenv("CALENDAR_INSTANCE", "test-" + QByteArray::number(QCoreApplication::applicationPid()));
+        QVERIFY(m_dir.isValid());
+        QVERIFY(QDir::setCurrent(m_dir.path()));
+        for (const char *name : { "life.ics", "LOUD.ICS" }) {
+            QFile file(QString::fromLatin1(name));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+    }
+
+    void init()
+    {
+        m_running = std::make_unique<SingleInstance>();
+        QVERIFY(!m_running->tryRouteToExisting({ program() }));
+        m_heard.clear();
+        connect(m_running.get(), &SingleInstance::focusRequested, this, [this] { hear("focus"); });
+        connect(m_running.get(), &SingleInstance::showTodayRequested, this, [this] { hear("show-today"); });
+        connect(m_running.get(), &SingleInstance::newEventRequested, this, [this] { hear("new-event"); });
+        connect(m_running.get(), &SingleInstance::quickAddRequested, this,
+                [this](const QString &text) { hear("quick-add", text); });
+        connect(m_running.get(), &SingleInstance::openIcsRequested, this,
+                [this](const QString &path) { hear("open-ics", path); });
+    }
+    void cleanup()
+    {
+        m_running.reset();
+        qunsetenv("XDG_ACTIVATION_TOKEN");
+    }
+
+    void parsesArguments_data()
+    {
+        QTest::addColumn<QStringList>("args");
+        QTest::addColumn<QByteArray>("command"); // with ' for " and DIR for the working directory
+
+        const auto row = [](const char *name, std::initializer_list<const char *> args, const char *command) {
+            QTest::newRow(name) << list(args) << QByteArray(command);
+        };
+        row("none", {}, "{'cmd':'focus'}");
+        row("background", { "--background" }, "{'cmd':'focus'}");
+        row("unknown", { "--frobnicate", "x" }, "{'cmd':'focus'}");
+        row("today", { "--show-today" }, "{'cmd':'show-today'}");
+        row("new event", { "--background", "--new-event" }, "{'cmd':'new-event'}");
+        row("quick add", { "--quick-add", "lunch Thursday 1pm" }, "{'cmd':'quick-add','text':'lunch Thursday 1pm'}");
+        row("quick add with =", { "--quick-add=lunch=fun" }, "{'cmd':'quick-add','text':'lunch=fun'}");
+        row("quick add with = and nothing", { "--quick-add=" }, "{'cmd':'quick-add','text':''}");
+        row("quick add at the end", { "--quick-add" }, "{'cmd':'focus'}");
+        row("quick add of a file name", { "--quick-add", "life.ics" }, "{'cmd':'quick-add','text':'life.ics'}");
+        row("quick add of a switch", { "--quick-add", "--new-event" }, "{'cmd':'quick-add','text':'--new-event'}");
+        row("file", { "--ics", "life.ics" }, "{'cmd':'open-ics','path':'DIR/life.ics'}");
+        row("file that is not there", { "--ics", "sub/../no.ics" }, "{'cmd':'open-ics','path':'DIR/no.ics'}");
+        row("absolute file", { "--ics", "/a/b.ics" }, "{'cmd':'open-ics','path':'/a/b.ics'}");
+        row("file switch at the end", { "--ics" }, "{'cmd':'focus'}");
+        row("bare file", { "life.ics" }, "{'cmd':'open-ics','path':'DIR/life.ics'}");
+        row("bare file in capitals", { "LOUD.ICS" }, "{'cmd':'open-ics','path':'DIR/LOUD.ICS'}");
+        row("bare file that is not there", { "gone.ics" }, "{'cmd':'focus'}");
+        row("last one wins", { "--new-event", "--show-today" }, "{'cmd':'show-today'}");
+        row("keys of an earlier one stay", { "--quick-add", "tea", "--show-today" },
+            "{'cmd':'show-today','text':'tea'}");
+        row("wrong case", { "--Show-Today" }, "{'cmd':'focus'}");
+        row("line feed in the text", { "--quick-add", "a\nb" }, "{'cmd':'quick-add','text':'a\\nb'}");
+    }
+    void parsesArguments()
+    {
+        QFETCH(QStringList, args);
+        QFETCH(QByteArray, command);
+        const QByteArray line = SingleInstance::parseArgsToCommand(QStringList(program()) + args);
+        QCOMPARE(line.count('\n'), 1);
+        QVERIFY(line.endsWith('\n'));
+        command.replace('\'', '"').replace("DIR", QDir::currentPath().toUtf8());
+        QCOMPARE(QJsonDocument::fromJson(line).object(), QJsonDocument::fromJson(command).object());
+    }
+
+    void laterLaunchIsRouted()
+    {
+        SingleInstance later;
+        QVERIFY(later.tryRouteToExisting({ program(), QStringLiteral("--quick-add"), QStringLiteral("Tee für 2 ☕") }));
+        QTRY_COMPARE(m_heard, QStringList(QStringLiteral("quick-add:Tee für 2 ☕")));
+        QVERIFY(later.tryRouteToExisting({ program(), QStringLiteral("--background") }));
+        QTRY_COMPARE(m_heard.size(), 2);
+        QCOMPARE(m_heard.constLast(), QStringLiteral("focus"));
+    }
+
+    void otherInstancesAreApart()
+    {
+        const QByteArray own = qgetenv("CALENDAR_INSTANCE");
+        qputenv("CALENDAR_INSTANCE", own + "-dev");
+        SingleInstance other;
+        const bool routed = other.tryRouteToExisting({ program() });
+        qputenv("CALENDAR_INSTANCE", own);
+        QVERIFY(!routed);
+    }
+
+    void socketOfACrashIsReplaced()
+    {
+        m_running.reset();
+        // A socket file that nobody listens to any more.
+        const QString path = QDir::tempPath() + QLatin1Char('/') + SingleInstance::socketName();
+        QFile stale(path);
+        QVERIFY(stale.open(QIODevice::WriteOnly));
+        stale.close();
+        SingleInstance next;
+        QVERIFY(!next.tryRouteToExisting({ program() }));
+        QVERIFY(SingleInstance().tryRouteToExisting({ program() }));
+    }
+
+    void socketAdmitsTheOwnerOnly()
+    {
+        const QFileInfo socket(QDir::tempPath() + QLatin1Char('/') + SingleInstance::socketName());
+        if (!socket.exists())
+            QSKIP("no socket in the file system here");
+        QVERIFY(!(socket.permissions() & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther)));
+    }
+
+    void readsLines_data()
+    {
+        QTest::addColumn<QList<QByteArray>>("writes");
+        QTest::addColumn<QStringList>("heard");
+        using Writes = QList<QByteArray>;
+        QTest::newRow("two in one write") << Writes { "{\"cmd\":\"show-today\"}\n{\"cmd\":\"new-event\"}\n" }
+                                          << list({ "show-today", "new-event" });
+        QTest::newRow("one in three writes") << Writes { "{\"cmd\":\"quick", "-add\",\"text\":\"x\"", "}\n" }
+                                             << list({ "quick-add:x" });
+        QTest::newRow("unknown command") << Writes { "{\"cmd\":\"dance\"}\n" } << list({ "focus" });
+        QTest::newRow("no command") << Writes { "{}\n" } << list({ "focus" });
+        QTest::newRow("command is no text") << Writes { "{\"cmd\":[1]}\n" } << list({ "focus" });
+        QTest::newRow("an array") << Writes { "[\"show-today\"]\n" } << list({ "focus" });
+        QTest::newRow("empty line") << Writes { "\n" } << list({ "focus" });
+        QTest::newRow("no JSON") << Writes { "GET / HTTP/1.1\r\n" } << list({ "focus" });
+        QTest::newRow("bytes that are not UTF-8") << Writes { "{\"cmd\":\"\xff\xfe\"}\n" } << list({ "focus" });
+        QTest::newRow("NUL bytes") << Writes { QByteArray(100, '\0') + '\n' } << list({ "focus" });
+        QTest::newRow("deep nesting") << Writes { QByteArray(100'000, '[') + '\n' } << list({ "focus" });
+        QTest::newRow("good after bad") << Writes { "?\n{\"cmd\":\"show-today\"}\n" }
+                                        << list({ "focus", "show-today" });
+    }
+    void readsLines()
+    {
+        QFETCH(QList<QByteArray>, writes);
+        QFETCH(QStringList, heard);
+        QLocalSocket socket;
+        socket.connectToServer(SingleInstance::socketName());
+        QVERIFY(socket.waitForConnected(2000));
+        for (const QByteArray &bytes : writes) {
+            socket.write(bytes);
+            QTRY_COMPARE(socket.bytesToWrite(), 0);
+            QCoreApplication::processEvents();
+        }
+        QTRY_COMPARE(m_heard.size(), heard.size());
+        QCOMPARE(m_heard, heard);
+    }
+
+    void endlessLineIsCutOff()
+    {
+        QLocalSocket socket;
+        QSignalSpy cut(&socket, &QLocalSocket::disconnected);
+        socket.connectToServer(SingleInstance::socketName());
+        QVERIFY(socket.waitForConnected(2000));
+        socket.write(QByteArray(3 * SingleInstance::MaxLineBytes, 'x'));
+        QTRY_COMPARE_WITH_TIMEOUT(cut.size(), 1, 10'000);
+        QTRY_COMPARE(m_heard, QStringList(QStringLiteral("focus")));
+        QVERIFY(SingleInstance().tryRouteToExisting({ program(), QStringLiteral("--show-today") }));
+        QTRY_COMPARE(m_heard.size(), 2);
+    }
+
+    void waitsForAModalDialog()
+    {
+        QDialog dialog;
+        dialog.setModal(true);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        SingleInstance later;
+        QVERIFY(later.tryRouteToExisting({ program(), QStringLiteral("--show-today") }));
+        QVERIFY(later.tryRouteToExisting({ program(), QStringLiteral("--new-event") }));
+
+        // When this later connection has been read and cut off, the lines of the earlier ones have arrived.
+        QLocalSocket socket;
+        QSignalSpy cut(&socket, &QLocalSocket::disconnected);
+        socket.connectToServer(SingleInstance::socketName());
+        socket.write(QByteArray(2 * SingleInstance::MaxLineBytes, 'x'));
+        QTRY_COMPARE_WITH_TIMEOUT(cut.size(), 1, 10'000);
+        QCOMPARE(m_heard, QStringList());
+        QDialog second;
+        second.setModal(true);
+        connect(m_running.get(), &SingleInstance::showTodayRequested, &second, &QDialog::show);
+        dialog.close();
+        QTRY_COMPARE(m_heard, QStringList(QStringLiteral("show-today"))); // which opened the next dialog
+        second.close();
+        QTRY_COMPARE(m_heard, list({ "show-today", "new-event", "focus" }));
+    }
+
+    void carriesTheActivationToken()
+    {
+        qputenv("XDG_ACTIVATION_TOKEN", "token-1");
+        SingleInstance later;
+        QVERIFY(later.tryRouteToExisting({ program() }));
+        qunsetenv("XDG_ACTIVATION_TOKEN");
+        QByteArray seen;
+        connect(m_running.get(), &SingleInstance::focusRequested, this, [&seen] { seen = qgetenv("XDG_ACTIVATION_TOKEN"); });
+        QTRY_COMPARE(seen, QByteArray("token-1"));
+    }
+
+private:
+    static QStringList list(std::initializer_list<const char *> words)
+    {
+        QStringList result;
+        for (const char *word : words)
+            result.append(QString::fromUtf8(word));
+        return result;
+    }
+    static QString program() { return QStringLiteral("/usr/bin/quillon-calendar.ics"); }
+    void hear(const char *what, const QString &detail = {})
+    {
+        m_heard.append(QLatin1StringView(what) + (detail.isNull() ? QString() : QLatin1Char(':') + detail));
+    }
+
+    QTemporaryDir m_dir;
+    std::unique_ptr<SingleInstance> m_running;
+    QStringList m_heard;
+};
+
+QTEST_MAIN(tst_SingleInstance)
+#include "tst_SingleInstance.moc"
