@@ -2,6 +2,7 @@
 
 #include "BuildSettings.h"
 #include "app/SingleInstance.h"
+#include "app/StartupTrace.h"
 #include "app/TerminationSignals.h"
 #include "app/state/AppState.h"
 #include "app/state/Platform.h"
@@ -63,7 +64,7 @@ Application::~Application()
 QStringList Application::supportedLanguages()
 {
     return { QStringLiteral("en"), QStringLiteral("es"), QStringLiteral("de"), QStringLiteral("fr"),
-        QStringLiteral("ja") };
+             QStringLiteral("ja") };
 }
 
 QString Application::currentLanguage(bool resolveSystem)
@@ -83,9 +84,9 @@ void Application::setPreferredLanguage(const QString &language)
 QuillonUpdate::Config Application::updateConfig()
 {
     return { .product = QStringLiteral("calendar"),
-        .channel = QStringLiteral("stable"),
-        .baseUrl = QString::fromLatin1(BuildSettings::DownloadUrl),
-        .version = QString::fromLatin1(BuildSettings::Version) };
+             .channel = QStringLiteral("stable"),
+             .baseUrl = QString::fromLatin1(BuildSettings::DownloadUrl),
+             .version = QString::fromLatin1(BuildSettings::Version) };
 }
 
 void Application::installTranslators()
@@ -98,8 +99,9 @@ void Application::installTranslators()
 
     if (language != QLatin1StringView("en")) {
         auto *translator = new QTranslator(this);
-        m_qtTranslator = installed(translator, translator->load(QLocale(language), QStringLiteral("qtbase"), QStringLiteral("_"),
-                                                                QLibraryInfo::path(QLibraryInfo::TranslationsPath)));
+        m_qtTranslator = installed(translator,
+                                   translator->load(QLocale(language), QStringLiteral("qtbase"), QStringLiteral("_"),
+                                                    QLibraryInfo::path(QLibraryInfo::TranslationsPath)));
     }
     auto *translator = new QTranslator(this);
     m_appTranslator = installed(translator, translator->load(QStringLiteral(":/i18n/calendar_%1.qm").arg(language)));
@@ -115,8 +117,9 @@ QTranslator *Application::installed(QTranslator *translator, bool loaded)
 
 void Application::loadFonts()
 {
-    for (const auto &file : { QStringLiteral(":/fonts/IBMPlexSans.ttf"), QStringLiteral(":/fonts/IBMPlexSans-Italic.ttf"),
-                              QStringLiteral(":/fonts/IBMPlexSans-Bold.ttf"), QStringLiteral(":/fonts/IBMPlexMono-Medium.ttf") }) {
+    for (const auto &file :
+         { QStringLiteral(":/fonts/IBMPlexSans.ttf"), QStringLiteral(":/fonts/IBMPlexSans-Italic.ttf"),
+           QStringLiteral(":/fonts/IBMPlexSans-Bold.ttf"), QStringLiteral(":/fonts/IBMPlexMono-Medium.ttf") }) {
         if (QFile::exists(file))
             QFontDatabase::addApplicationFont(file);
     }
@@ -135,6 +138,7 @@ int Application::run()
     if (!m_appState->initialize())
         return reportDatabaseFailure();
     m_mainWindow = new MainWindow(m_appState);
+    StartupTrace::watch(m_mainWindow);
     showFirstWindow();
     connectCommands();
     replayInitialCommand();
@@ -207,8 +211,8 @@ void Application::checkForUpdate()
 {
     auto *client = new QuillonUpdate::Client(updateConfig(), this);
     connect(client, &QuillonUpdate::Client::updateAvailable, this, [this](const QuillonUpdate::Artifact &artifact) {
-        auto *dialog = new QuillonUpdate::UpdateDialog(artifact, applicationVersion(), QStringLiteral("Quillon Calendar"),
-                                                       m_mainWindow);
+        auto *dialog = new QuillonUpdate::UpdateDialog(artifact, applicationVersion(),
+                                                       QStringLiteral("Quillon Calendar"), m_mainWindow);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
         dialog->show();
     });

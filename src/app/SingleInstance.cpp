@@ -65,7 +65,7 @@ QString SingleInstance::socketName()
 QByteArray SingleInstance::parseArgsToCommand(const QStringList &args)
 {
     const QString quickAddPrefix = QStringLiteral("--quick-add=");
-    QJsonObject command { { CmdKey, QStringLiteral("focus") } };
+    QJsonObject command{ { CmdKey, QStringLiteral("focus") } };
     for (qsizetype i = 1; i < args.size(); ++i) {
         const QString &arg = args[i];
         const bool hasNext = i + 1 < args.size();
@@ -162,7 +162,8 @@ void SingleInstance::dispatchCommand(const QByteArray &line)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(line, &error);
     if (!document.isObject()) {
-        qWarning() << "[SingleInstance] bad command:" << error.errorString() << line.first(qMin(line.size(), LoggedBytes));
+        qWarning() << "[SingleInstance] bad command:" << error.errorString()
+                   << line.first(qMin(line.size(), LoggedBytes));
         emit focusRequested();
         return;
     }

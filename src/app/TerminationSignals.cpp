@@ -40,7 +40,7 @@ TerminationSignals::TerminationSignals(QObject *parent)
         if (::read(pipeEnds[0], &byte, 1) == 1)
             emit received(byte);
     });
-    struct sigaction action {};
+    struct sigaction action { };
     action.sa_handler = onSignal;
     action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
     sigemptyset(&action.sa_mask);

@@ -6,8 +6,11 @@ namespace {
 /// The text of a list of content lines, unfolded.
 class Lines {
 public:
-    void add(const QString &property, const QString &value)
+    void add(const QString &property, QString value)
     {
+        // An id that holds a line break must not end the line.
+        static const QString escapedBreak = QStringLiteral("\\n");
+        value.replace(u'\n', escapedBreak).replace(u'\r', escapedBreak);
         m_text += property + u':' + value + QStringLiteral("\r\n");
     }
     void addIfSet(const QString &property, const QString &value)

@@ -33,7 +33,8 @@ void Client::checkForUpdate()
     if (!m_network)
         m_network = new QNetworkAccessManager(this);
     QNetworkRequest request(QUrl(m_config.baseUrl).resolved(QUrl(QStringLiteral("latest.json"))));
-    request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("QuillonCalendar/%1 (Qt)").arg(m_config.version));
+    request.setHeader(QNetworkRequest::UserAgentHeader,
+                      QStringLiteral("QuillonCalendar/%1 (Qt)").arg(m_config.version));
     m_reply = m_network->get(request);
     connect(m_reply, &QNetworkReply::finished, this, &Client::onFinished);
     connect(m_reply, &QNetworkReply::downloadProgress, this, [this](qint64 received) {

@@ -61,7 +61,8 @@ void SystemColorScheme::askPortal()
         return;
     bus.connect(PortalService, PortalPath, SettingsInterface, QStringLiteral("SettingChanged"), this,
                 SLOT(onPortalSettingChanged(QString, QString, QDBusVariant)));
-    QDBusMessage read = QDBusMessage::createMethodCall(PortalService, PortalPath, SettingsInterface, QStringLiteral("Read"));
+    QDBusMessage read =
+        QDBusMessage::createMethodCall(PortalService, PortalPath, SettingsInterface, QStringLiteral("Read"));
     read << AppearanceGroup << ColorSchemeKey;
     auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(read), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, &SystemColorScheme::onPortalAnswered);
@@ -84,7 +85,8 @@ void SystemColorScheme::onPortalSettingChanged(const QString &group, const QStri
 void SystemColorScheme::takePortalValue(const QVariant &value)
 {
     // Read wraps its answer in a second variant; the signal does not.
-    const QVariant plain = value.metaType() == QMetaType::fromType<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;
+    const QVariant plain =
+        value.metaType() == QMetaType::fromType<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;
     switch (plain.toUInt()) {
     case PreferDark:
         setDark(true);

@@ -23,7 +23,8 @@ std::unique_ptr<TokenStore> TokenStore::create(const QString &appId)
     static bool warned = false;
     if (!store && !std::exchange(warned, true)) {
         qWarning().noquote() << "[TokenStore] no secret store can be reached; passwords and sign-ins are not kept"
-                             << (choice.isEmpty() ? QString() : QStringLiteral("(CALENDAR_TOKEN_STORE=%1)").arg(choice));
+                             << (choice.isEmpty() ? QString()
+                                                  : QStringLiteral("(CALENDAR_TOKEN_STORE=%1)").arg(choice));
     }
     return store;
 }

@@ -16,7 +16,7 @@ constexpr guint CallTimeoutMs = 3000;
 const SecretSchema *schema()
 {
     static const SecretSchema value = [] {
-        SecretSchema made {};
+        SecretSchema made{};
         made.name = "com.quillon.calendar";
         made.flags = SECRET_SCHEMA_NONE;
         made.attributes[0] = { "application", SECRET_SCHEMA_ATTRIBUTE_STRING };
@@ -29,8 +29,7 @@ const SecretSchema *schema()
 struct Unref {
     void operator()(gpointer object) const { g_object_unref(object); }
 };
-template<typename T>
-using ObjectPtr = std::unique_ptr<T, Unref>;
+template <typename T> using ObjectPtr = std::unique_ptr<T, Unref>;
 
 struct ErrorHolder {
     GError *error = nullptr;
@@ -48,8 +47,7 @@ public:
     Q_DISABLE_COPY_MOVE(PrivateContext)
 
     /// Runs an asynchronous call to its end, or cancels it after CallTimeoutMs.
-    template<typename Start>
-    ObjectPtr<GAsyncResult> run(Start start)
+    template <typename Start> ObjectPtr<GAsyncResult> run(Start start)
     {
         const ObjectPtr<GCancellable> cancellable(g_cancellable_new());
         GSource *timeout = g_timeout_source_new(CallTimeoutMs);
@@ -100,8 +98,7 @@ private:
 
     [[nodiscard]] Attributes attributes(const QByteArray &key) const;
     /// Calls \p visit with each item of this key, until it returns false. False if the service failed.
-    template<typename Visit>
-    bool search(const QByteArray &key, int flags, Visit visit);
+    template <typename Visit> bool search(const QByteArray &key, int flags, Visit visit);
     bool isDefaultCollectionOpen();
 
     PrivateContext m_context;
@@ -126,11 +123,11 @@ bool SecretServiceStore::open()
 
 SecretServiceStore::Attributes SecretServiceStore::attributes(const QByteArray &key) const
 {
-    return Attributes(secret_attributes_build(schema(), "application", m_appId.constData(), "key", key.constData(), nullptr));
+    return Attributes(
+        secret_attributes_build(schema(), "application", m_appId.constData(), "key", key.constData(), nullptr));
 }
 
-template<typename Visit>
-bool SecretServiceStore::search(const QByteArray &key, int flags, Visit visit)
+template <typename Visit> bool SecretServiceStore::search(const QByteArray &key, int flags, Visit visit)
 {
     const Attributes wanted = attributes(key);
     const auto result = m_context.run([&](GCancellable *cancellable, GAsyncReadyCallback done, gpointer data) {

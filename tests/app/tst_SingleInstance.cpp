@@ -130,7 +130,8 @@ private slots:
         const QFileInfo socket(QDir::tempPath() + QLatin1Char('/') + SingleInstance::socketName());
         if (!socket.exists())
             QSKIP("no socket in the file system here");
-        QVERIFY(!(socket.permissions() & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther)));
+        QVERIFY(
+            !(socket.permissions() & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther)));
     }
 
     void readsLines_data()
@@ -138,21 +139,20 @@ private slots:
         QTest::addColumn<QList<QByteArray>>("writes");
         QTest::addColumn<QStringList>("heard");
         using Writes = QList<QByteArray>;
-        QTest::newRow("two in one write") << Writes { "{\"cmd\":\"show-today\"}\n{\"cmd\":\"new-event\"}\n" }
-                                          << list({ "show-today", "new-event" });
-        QTest::newRow("one in three writes") << Writes { "{\"cmd\":\"quick", "-add\",\"text\":\"x\"", "}\n" }
-                                             << list({ "quick-add:x" });
-        QTest::newRow("unknown command") << Writes { "{\"cmd\":\"dance\"}\n" } << list({ "focus" });
-        QTest::newRow("no command") << Writes { "{}\n" } << list({ "focus" });
-        QTest::newRow("command is no text") << Writes { "{\"cmd\":[1]}\n" } << list({ "focus" });
-        QTest::newRow("an array") << Writes { "[\"show-today\"]\n" } << list({ "focus" });
-        QTest::newRow("empty line") << Writes { "\n" } << list({ "focus" });
-        QTest::newRow("no JSON") << Writes { "GET / HTTP/1.1\r\n" } << list({ "focus" });
-        QTest::newRow("bytes that are not UTF-8") << Writes { "{\"cmd\":\"\xff\xfe\"}\n" } << list({ "focus" });
-        QTest::newRow("NUL bytes") << Writes { QByteArray(100, '\0') + '\n' } << list({ "focus" });
-        QTest::newRow("deep nesting") << Writes { QByteArray(100'000, '[') + '\n' } << list({ "focus" });
-        QTest::newRow("good after bad") << Writes { "?\n{\"cmd\":\"show-today\"}\n" }
-                                        << list({ "focus", "show-today" });
+        QTest::newRow("two in one write")
+            << Writes{ "{\"cmd\":\"show-today\"}\n{\"cmd\":\"new-event\"}\n" } << list({ "show-today", "new-event" });
+        QTest::newRow("one in three writes")
+            << Writes{ "{\"cmd\":\"quick", "-add\",\"text\":\"x\"", "}\n" } << list({ "quick-add:x" });
+        QTest::newRow("unknown command") << Writes{ "{\"cmd\":\"dance\"}\n" } << list({ "focus" });
+        QTest::newRow("no command") << Writes{ "{}\n" } << list({ "focus" });
+        QTest::newRow("command is no text") << Writes{ "{\"cmd\":[1]}\n" } << list({ "focus" });
+        QTest::newRow("an array") << Writes{ "[\"show-today\"]\n" } << list({ "focus" });
+        QTest::newRow("empty line") << Writes{ "\n" } << list({ "focus" });
+        QTest::newRow("no JSON") << Writes{ "GET / HTTP/1.1\r\n" } << list({ "focus" });
+        QTest::newRow("bytes that are not UTF-8") << Writes{ "{\"cmd\":\"\xff\xfe\"}\n" } << list({ "focus" });
+        QTest::newRow("NUL bytes") << Writes{ QByteArray(100, '\0') + '\n' } << list({ "focus" });
+        QTest::newRow("deep nesting") << Writes{ QByteArray(100'000, '[') + '\n' } << list({ "focus" });
+        QTest::newRow("good after bad") << Writes{ "?\n{\"cmd\":\"show-today\"}\n" } << list({ "focus", "show-today" });
     }
     void readsLines()
     {
@@ -216,7 +216,8 @@ private slots:
         QVERIFY(later.tryRouteToExisting({ program() }));
         qunsetenv("XDG_ACTIVATION_TOKEN");
         QByteArray seen;
-        connect(m_running.get(), &SingleInstance::focusRequested, this, [&seen] { seen = qgetenv("XDG_ACTIVATION_TOKEN"); });
+        connect(m_running.get(), &SingleInstance::focusRequested, this,
+                [&seen] { seen = qgetenv("XDG_ACTIVATION_TOKEN"); });
         QTRY_COMPARE(seen, QByteArray("token-1"));
     }
 

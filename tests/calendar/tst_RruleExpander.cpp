@@ -193,7 +193,7 @@ QDateTime randomStart(QRandomGenerator &random, QDate windowDay)
         date = QDate(date.year() / 4 * 4, 2, 29);
     // Where clocks change, quarter by quarter.
     const QTime time = QTime(0, 0).addSecs(random.bounded(2) == 0 ? random.bounded(14) * 900 : random.bounded(96) * 900);
-    const QByteArray zone = zones[random.bounded(zones.size())];
+    const QByteArray zone = zones[random.bounded(int(zones.size()))];
     if (zone == "UTC")
         return QDateTime(date, time, Qt::UTC);
     const QDateTime noon(date, QTime(12, 0), Qt::UTC);

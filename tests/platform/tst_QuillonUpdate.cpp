@@ -71,10 +71,10 @@ private slots:
     void wholeArtifactArrives()
     {
         HttpServer server;
-        const QJsonObject answer { { QStringLiteral("version"), QStringLiteral("1.4") },
-            { QStringLiteral("url"), QStringLiteral("q.deb") },
-            { QStringLiteral("notes"), QStringLiteral("<b>Faster</b>\nBetter") },
-            { QStringLiteral("sha256"), QStringLiteral("0f") } };
+        const QJsonObject answer{ { QStringLiteral("version"), QStringLiteral("1.4") },
+                                  { QStringLiteral("url"), QStringLiteral("q.deb") },
+                                  { QStringLiteral("notes"), QStringLiteral("<b>Faster</b>\nBetter") },
+                                  { QStringLiteral("sha256"), QStringLiteral("0f") } };
         server.enqueue({ .status = 200, .body = QJsonDocument(answer).toJson(), .headers = {} });
         Client client(config(server));
         QSignalSpy available(&client, &Client::updateAvailable);
@@ -100,7 +100,7 @@ private slots:
         QFETCH(qsizetype, bodySize);
         HttpServer server;
         server.setHandler([&](const HttpServer::Request &) {
-            return HttpServer::Reply { .status = 200, .body = QByteArray(bodySize, ' '), .headers = {}, .fault = fault };
+            return HttpServer::Reply{ .status = 200, .body = QByteArray(bodySize, ' '), .headers = {}, .fault = fault };
         });
         Client client(config(server));
         QSignalSpy failed(&client, &Client::checkFailed);
@@ -140,9 +140,9 @@ private:
     static Config config(const HttpServer &server)
     {
         return { .product = QStringLiteral("calendar"),
-            .channel = QStringLiteral("stable"),
-            .baseUrl = server.url(QStringLiteral("/calendar/stable/")).toString(),
-            .version = QStringLiteral("1.3.7") };
+                 .channel = QStringLiteral("stable"),
+                 .baseUrl = server.url(QStringLiteral("/calendar/stable/")).toString(),
+                 .version = QStringLiteral("1.3.7") };
     }
 
     // Silence is seen by asking once more: that question is only sent after the first has ended.

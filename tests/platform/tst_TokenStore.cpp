@@ -92,7 +92,8 @@ private slots:
         QFile reader(m_path);
         QVERIFY(reader.open(QIODevice::ReadOnly)); // whoever has it open keeps the old, whole text
         QVERIFY(store->set(key("a"), QStringLiteral("after")));
-        QCOMPARE(QJsonDocument::fromJson(reader.readAll()).object().value(key("a")).toString(), QStringLiteral("before"));
+        QCOMPARE(QJsonDocument::fromJson(reader.readAll()).object().value(key("a")).toString(),
+                 QStringLiteral("before"));
     }
 
     void foreignEntriesStay()
@@ -143,7 +144,8 @@ private slots:
     void withoutAnyStoreThereIsNone()
     {
         qputenv("CALENDAR_TOKEN_STORE", "");
-        qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + QFile::encodeName(m_dir->filePath(QStringLiteral("no-bus"))));
+        qputenv("DBUS_SESSION_BUS_ADDRESS",
+                "unix:path=" + QFile::encodeName(m_dir->filePath(QStringLiteral("no-bus"))));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("no secret store can be reached")));
         QVERIFY(!TokenStore::create(appId()));
         m_warnings = 0;
@@ -209,7 +211,8 @@ private:
         explicit Keyring(const QString &home)
             : m_environment(QProcessEnvironment::systemEnvironment())
         {
-            for (const char *name : { "HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_CACHE_HOME" }) {
+            for (const char *name :
+                 { "HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_CACHE_HOME" }) {
                 const QString path = home + QLatin1Char('/') + QLatin1StringView(name);
                 QDir().mkpath(path);
                 QFile::setPermissions(path, OwnerOnly | QFile::ExeOwner | QFile::ExeUser);
@@ -237,15 +240,16 @@ private:
         bool start(const QByteArray &password)
         {
             m_bus.setProcessEnvironment(m_environment);
-            m_bus.start(QStringLiteral("dbus-daemon"),
-                        { QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address=1") });
+            m_bus.start(
+                QStringLiteral("dbus-daemon"),
+                { QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address=1") });
             if (!m_bus.waitForReadyRead(10'000))
                 return false;
             const QByteArray address = m_bus.readLine().trimmed();
             qputenv("DBUS_SESSION_BUS_ADDRESS", address);
             m_environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QString::fromLatin1(address));
 
-            QStringList args { QStringLiteral("--foreground"), QStringLiteral("--components=secrets") };
+            QStringList args{ QStringLiteral("--foreground"), QStringLiteral("--components=secrets") };
             if (!password.isEmpty())
                 args.append(QStringLiteral("--unlock"));
             m_daemon.setProcessEnvironment(m_environment);
@@ -254,7 +258,8 @@ private:
             m_daemon.closeWriteChannel();
             const auto connection = QDBusConnection::connectToBus(QString::fromLatin1(address), busName());
             return QTest::qWaitFor(
-                [&] { return connection.interface()->isServiceRegistered(QStringLiteral("org.freedesktop.secrets")); }, 10'000);
+                [&] { return connection.interface()->isServiceRegistered(QStringLiteral("org.freedesktop.secrets")); },
+                10'000);
         }
 
         QByteArray log() { return m_bus.readAllStandardError() + m_daemon.readAllStandardError(); }
@@ -267,7 +272,10 @@ private:
         QProcess m_daemon;
     };
 
-    static QString key(const char *account) { return QStringLiteral("caldav-password-") + QLatin1StringView(account); }
+    static QString key(const char *account)
+    {
+        return QStringLiteral("caldav-password-") + QLatin1StringView(account);
+    }
 
     void write(const QByteArray &text)
     {

@@ -78,7 +78,8 @@ QDBusVariant FakePortal::Read(const QString &group, const QString &key)
 {
     ++m_readCount;
     if (group != Appearance || key != ColorScheme || !m_colorScheme.isValid()) {
-        sendErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotFound"), QStringLiteral("Requested setting not found"));
+        sendErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotFound"),
+                       QStringLiteral("Requested setting not found"));
         return {};
     }
     return QDBusVariant(QVariant::fromValue(QDBusVariant(m_colorScheme)));

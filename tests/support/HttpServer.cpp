@@ -68,7 +68,7 @@ HttpServer::Reply HttpServer::replyTo(const Request &request)
 {
     if (!m_script.isEmpty())
         return m_script.dequeue();
-    return m_handler ? m_handler(request) : Reply { .status = 404, .body = {}, .headers = {} };
+    return m_handler ? m_handler(request) : Reply{ .status = 404, .body = {}, .headers = {} };
 }
 
 void HttpServer::send(QTcpSocket *socket, const Reply &reply)

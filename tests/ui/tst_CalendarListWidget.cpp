@@ -37,7 +37,7 @@ private:
 QAction *tst_CalendarListWidget::menuAction(CalendarListWidget &list, const QString &calendarId, const QString &text)
 {
     list.setCurrentItem(list.itemFor(calendarId));
-    QContextMenuEvent event(QContextMenuEvent::Keyboard, {});
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
     QCoreApplication::sendEvent(list.viewport(), &event);
     const QList<CalendarMenu *> menus = list.findChildren<CalendarMenu *>();
     if (menus.isEmpty())

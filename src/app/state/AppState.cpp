@@ -122,8 +122,8 @@ QString AppState::densityFor(const QString &view) const
 
 void AppState::setDensityFor(const QString &view, const QString &density)
 {
-    const QString wanted
-        = density == QLatin1StringView("compact") ? QStringLiteral("compact") : QStringLiteral("comfortable");
+    const QString wanted =
+        density == QLatin1StringView("compact") ? QStringLiteral("compact") : QStringLiteral("comfortable");
     if (!m_preferences || wanted == densityFor(view))
         return;
     m_preferences->set(densityKey(view), wanted);

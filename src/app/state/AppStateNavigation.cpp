@@ -26,8 +26,8 @@ QString normalizedMode(const QString &mode)
 
 bool isKnownMode(const QString &mode)
 {
-    static const QStringList known { QStringLiteral("day"), QStringLiteral("week"), QStringLiteral("days"),
-        QStringLiteral("grid"), QStringLiteral("month"), QStringLiteral("year") };
+    static const QStringList known{ QStringLiteral("day"),  QStringLiteral("week"),  QStringLiteral("days"),
+                                    QStringLiteral("grid"), QStringLiteral("month"), QStringLiteral("year") };
     return known.contains(mode);
 }
 
@@ -47,8 +47,8 @@ void AppState::restoreViewState()
     if (!isKnownMode(m_viewMode)) // of a newer version, say
         m_viewMode = QStringLiteral("week");
     m_hourHeight = std::clamp(m_preferences->getInt(HourHeightKey, MinHourHeight), MinHourHeight, MaxHourHeight);
-    m_weekHorizon
-        = std::clamp(m_preferences->getInt(WeekHorizonKey, DefaultWeekHorizon), MinWeekHorizon, MaxWeekHorizon);
+    m_weekHorizon =
+        std::clamp(m_preferences->getInt(WeekHorizonKey, DefaultWeekHorizon), MinWeekHorizon, MaxWeekHorizon);
 }
 
 void AppState::setActiveViewId(const QString &id)

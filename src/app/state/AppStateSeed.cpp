@@ -124,8 +124,8 @@ void AppState::renameQuillonAccount()
     std::optional<Account> account = m_accounts->getById(LocalDefaults::LocalAccountId);
     if (!account)
         return; // no flag: a later start may have the account
-    static const QStringList oldNames { QStringLiteral("On This Device"), QStringLiteral("On this device"),
-        QStringLiteral("Personal") };
+    static const QStringList oldNames{ QStringLiteral("On This Device"), QStringLiteral("On this device"),
+                                       QStringLiteral("Personal") };
     if (account->type == AccountType::Quillon && oldNames.contains(account->name)) {
         const QString oldName = std::exchange(account->name, LocalAccountName);
         if (m_accounts->update(*account))

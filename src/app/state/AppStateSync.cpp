@@ -10,8 +10,8 @@
 
 QSet<QString> AppState::syncableCalendarIds() const
 {
-    static constexpr std::array types { AccountType::CalDAV, AccountType::ICloud, AccountType::Zoho, AccountType::Google,
-        AccountType::Microsoft };
+    static constexpr std::array types{ AccountType::CalDAV, AccountType::ICloud, AccountType::Zoho, AccountType::Google,
+                                       AccountType::Microsoft };
     if (!m_accounts || !m_calendars)
         return {};
     QSet<QString> accountIds;

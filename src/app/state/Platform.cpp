@@ -10,8 +10,8 @@ QString Platform::dataDir()
         QDir(chosen).mkpath(QStringLiteral("."));
         return chosen;
     }
-    const QString standard
-        = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/quillon/calendar");
+    const QString standard =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/quillon/calendar");
     const QDir dir(standard);
     if (!dir.exists())
         dir.mkpath(QStringLiteral("."));

@@ -53,9 +53,14 @@ private:
     class Reading;
     class Storing;
 
+    void runReadingSlice();
+    void runStoringSlice();
+    void report(int percent);
+
     AppState *m_state;
     QTimer *m_timer;
     QList<File> m_files;
     std::unique_ptr<Reading> m_reading;
     std::unique_ptr<Storing> m_storing;
+    int m_percent = -1; // as last reported
 };

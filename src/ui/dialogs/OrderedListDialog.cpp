@@ -164,7 +164,9 @@ void OrderedListDialog::fillList(const QList<Row> &all, const QString &selectedI
         if (row.id == selectedId)
             selectedRow = m_list->count() - 1;
     }
-    m_list->setCurrentRow(selectedRow >= 0 ? selectedRow : qBound(0, oldRow, m_list->count() - 1));
+    if (selectedRow < 0) // the selected one went: the next one, or the last
+        selectedRow = qMin(qMax(0, oldRow), m_list->count() - 1);
+    m_list->setCurrentRow(selectedRow);
 }
 
 void OrderedListDialog::moveRow(int delta)

@@ -341,7 +341,8 @@ void MiniMonthCalendar::paintEvent(QPaintEvent *)
     painter.setFont(dayFont(font()));
     QDate date = gridStart();
     for (int cell = 0; cell < GridDays; ++cell, date = date.addDays(1))
-        paintDay(painter, date, m_geometry.cellRect(cell % MiniMonthGeometry::Columns, cell / MiniMonthGeometry::Columns));
+        paintDay(painter, date,
+                 m_geometry.cellRect(cell % MiniMonthGeometry::Columns, cell / MiniMonthGeometry::Columns));
 }
 
 void MiniMonthCalendar::paintHeader(QPainter &painter) const

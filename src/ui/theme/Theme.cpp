@@ -148,9 +148,9 @@ Tokens sizeTokens()
 // On macOS the sheet must not reach menus, which stay native; elsewhere the palette colours them.
 QString withoutMenuRules(QString sheet)
 {
-    static const QRegularExpression menuRule(
-        QStringLiteral("(?ms)^QMenu(Bar)?(::[a-zA-Z\\-]+(:[a-z\\-]+)?(\\s*,\\s*QMenu(Bar)?::[a-zA-Z\\-]+(:[a-z\\-]+)?)*)?"
-                       "\\s*\\{[^}]*\\}\\s*"));
+    static const QRegularExpression menuRule(QStringLiteral(
+        "(?ms)^QMenu(Bar)?(::[a-zA-Z\\-]+(:[a-z\\-]+)?(\\s*,\\s*QMenu(Bar)?::[a-zA-Z\\-]+(:[a-z\\-]+)?)*)?"
+        "\\s*\\{[^}]*\\}\\s*"));
     return sheet.remove(menuRule);
 }
 
@@ -400,9 +400,10 @@ QIcon calendarDotIcon(const QString &color)
 
 QString checkableListStylesheet()
 {
-    return QStringLiteral("QListView::indicator {  width: 14px;  height: 14px;  border: 1px solid %1;  border-radius: 3px;"
-                          "  background: %2;}QListView::indicator:checked {  background: %3;  border-color: %3;}"
-                          "QListView::indicator:hover {  border-color: %3;}")
+    return QStringLiteral(
+               "QListView::indicator {  width: 14px;  height: 14px;  border: 1px solid %1;  border-radius: 3px;"
+               "  background: %2;}QListView::indicator:checked {  background: %3;  border-color: %3;}"
+               "QListView::indicator:hover {  border-color: %3;}")
         .arg(cssColor(borderStrong()), cssColor(surface()), cssColor(accent()));
 }
 
@@ -426,7 +427,8 @@ QString plainToolTip(const QString &text)
 {
     if (text.isEmpty())
         return {};
-    return QStringLiteral("<qt>") + text.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")) + QStringLiteral("</qt>");
+    return QStringLiteral("<qt>") + text.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>"))
+        + QStringLiteral("</qt>");
 }
 
 } // namespace Theme

@@ -16,9 +16,18 @@
 
 namespace {
 
-QString week() { return QStringLiteral("week"); }
-QString day() { return QStringLiteral("day"); }
-QString month() { return QStringLiteral("month"); }
+QString week()
+{
+    return QStringLiteral("week");
+}
+QString day()
+{
+    return QStringLiteral("day");
+}
+QString month()
+{
+    return QStringLiteral("month");
+}
 
 }
 
@@ -46,17 +55,39 @@ private slots:
         QTest::addColumn<int>("hourHeight");
         QTest::addColumn<int>("horizon");
 
-        QTest::newRow("mode kept") << "ui/viewMode" << "month" << "month" << 56 << 7;
-        QTest::newRow("list is gone") << "ui/viewMode" << "list" << "week" << 56 << 7;
-        QTest::newRow("agenda is gone") << "ui/viewMode" << "agenda" << "week" << 56 << 7;
-        QTest::newRow("mode of the future") << "ui/viewMode" << "spiral" << "week" << 56 << 7;
-        QTest::newRow("height kept") << "ui/timelineHourHeight" << "80" << "week" << 80 << 7;
-        QTest::newRow("height too big") << "ui/timelineHourHeight" << "9000" << "week" << 200 << 7;
-        QTest::newRow("height negative") << "ui/timelineHourHeight" << "-3" << "week" << 56 << 7;
-        QTest::newRow("height no number") << "ui/timelineHourHeight" << "tall" << "week" << 56 << 7;
-        QTest::newRow("horizon too big") << "ui/weekHorizon" << "22" << "week" << 56 << 21;
-        QTest::newRow("horizon too small") << "ui/weekHorizon" << "1" << "week" << 56 << 2;
-        QTest::newRow("old date is not reopened") << "ui/viewDate" << "1999-12-31" << "week" << 56 << 7;
+        QTest::newRow("mode kept") << "ui/viewMode"
+                                   << "month"
+                                   << "month" << 56 << 7;
+        QTest::newRow("list is gone") << "ui/viewMode"
+                                      << "list"
+                                      << "week" << 56 << 7;
+        QTest::newRow("agenda is gone") << "ui/viewMode"
+                                        << "agenda"
+                                        << "week" << 56 << 7;
+        QTest::newRow("mode of the future") << "ui/viewMode"
+                                            << "spiral"
+                                            << "week" << 56 << 7;
+        QTest::newRow("height kept") << "ui/timelineHourHeight"
+                                     << "80"
+                                     << "week" << 80 << 7;
+        QTest::newRow("height too big") << "ui/timelineHourHeight"
+                                        << "9000"
+                                        << "week" << 200 << 7;
+        QTest::newRow("height negative") << "ui/timelineHourHeight"
+                                         << "-3"
+                                         << "week" << 56 << 7;
+        QTest::newRow("height no number") << "ui/timelineHourHeight"
+                                          << "tall"
+                                          << "week" << 56 << 7;
+        QTest::newRow("horizon too big") << "ui/weekHorizon"
+                                         << "22"
+                                         << "week" << 56 << 21;
+        QTest::newRow("horizon too small") << "ui/weekHorizon"
+                                           << "1"
+                                           << "week" << 56 << 2;
+        QTest::newRow("old date is not reopened") << "ui/viewDate"
+                                                  << "1999-12-31"
+                                                  << "week" << 56 << 7;
     }
     void restoresStoredState()
     {
@@ -273,7 +304,7 @@ private slots:
         ScratchState state;
         QSignalSpy spy(state.state(), &AppState::workdayHoursChanged);
         QVERIFY(state->preferences()->setInt(QStringLiteral("ui/workdayStart"), 6));
-        QCOMPARE(spy.takeFirst(), (QVariantList { 6, 18 }));
+        QCOMPARE(spy.takeFirst(), (QVariantList{ 6, 18 }));
     }
 
     void asksForSyncOnlyWhenSomethingIsPending()

@@ -76,11 +76,21 @@ private slots:
         QTest::addColumn<QString>("type");
         QTest::addColumn<QString>("before");
         QTest::addColumn<QString>("after");
-        QTest::newRow("first name") << "quillon" << "On This Device" << "Quillon";
-        QTest::newRow("lower case") << "quillon" << "On this device" << "Quillon";
-        QTest::newRow("Personal") << "quillon" << "Personal" << "Quillon";
-        QTest::newRow("the user's own name") << "quillon" << "personal" << "personal";
-        QTest::newRow("another type") << "caldav" << "Personal" << "Personal";
+        QTest::newRow("first name") << "quillon"
+                                    << "On This Device"
+                                    << "Quillon";
+        QTest::newRow("lower case") << "quillon"
+                                    << "On this device"
+                                    << "Quillon";
+        QTest::newRow("Personal") << "quillon"
+                                  << "Personal"
+                                  << "Quillon";
+        QTest::newRow("the user's own name") << "quillon"
+                                             << "personal"
+                                             << "personal";
+        QTest::newRow("another type") << "caldav"
+                                      << "Personal"
+                                      << "Personal";
     }
     void renamesTheLocalAccountOnce()
     {

@@ -28,7 +28,7 @@ private slots:
         UpdateDialog dialog(artifact(), QStringLiteral("1.3.7"), QStringLiteral("Quillon Calendar"));
         dialog.show();
         QTest::mouseClick(button(dialog, QDialogButtonBox::AcceptRole), Qt::LeftButton);
-        QCOMPARE(m_opened, QList<QUrl> { artifact().url });
+        QCOMPARE(m_opened, QList<QUrl>{ artifact().url });
         QVERIFY(!dialog.isVisible());
     }
 
@@ -62,9 +62,9 @@ private:
     static QuillonUpdate::Artifact artifact()
     {
         return { .version = QStringLiteral("<i>2</i>"),
-            .url = QUrl(QStringLiteral("https://example.org/q.deb")),
-            .notes = QStringLiteral("<b>Faster</b>\n& better"),
-            .sha256 = {} };
+                 .url = QUrl(QStringLiteral("https://example.org/q.deb")),
+                 .notes = QStringLiteral("<b>Faster</b>\n& better"),
+                 .sha256 = {} };
     }
     static QAbstractButton *button(const QDialog &dialog, QDialogButtonBox::ButtonRole role)
     {

@@ -161,9 +161,10 @@ void TestTimelineWidget::doubleClickActivatesOnce()
     QSignalSpy activated(m_week, &EventCanvas::eventActivated);
     QTest::mouseClick(m_week, Qt::LeftButton, {}, middleOf(0));
     QTest::mouseDClick(m_week, Qt::LeftButton, {}, middleOf(0));
+    QTest::mouseRelease(m_week, Qt::LeftButton, {}, middleOf(0));
     QCOMPARE(activated.size(), 1);
     QCOMPARE(activated.at(0).at(0).toString(), m_week->blocks().at(0).eventId);
-    QCOMPARE(selected.size(), 2); // the click, and the first click of the double click
+    QCOMPARE(selected.size(), 1); // by the first click alone
 }
 
 void TestTimelineWidget::contextMenuComesFromMouseAndKeyboard()

@@ -76,11 +76,11 @@ private slots:
     {
         QTest::addColumn<Theme::Mode>("mode");
         QTest::addColumn<QString>("accent");
-        for (const QString &accent : { u""_qs, u"#ffeb3b"_qs, u"#ffffff"_qs, u"#000000"_qs, u"#ff0000"_qs, u"#1a237e"_qs,
-                                       u"#808080"_qs, u"#00c853"_qs }) {
-            const QByteArray name = accent.isEmpty() ? QByteArrayLiteral("standard accent") : accent.toUtf8();
-            QTest::newRow("light, " + name) << Theme::Mode::Light << accent;
-            QTest::newRow("dark, " + name) << Theme::Mode::Dark << accent;
+        for (const QString &accent : { u""_qs, u"#ffeb3b"_qs, u"#ffffff"_qs, u"#000000"_qs, u"#ff0000"_qs,
+                                       u"#1a237e"_qs, u"#808080"_qs, u"#00c853"_qs }) {
+            const QString name = accent.isEmpty() ? u"standard accent"_qs : accent;
+            QTest::addRow("light, %s", qPrintable(name)) << Theme::Mode::Light << accent;
+            QTest::addRow("dark, %s", qPrintable(name)) << Theme::Mode::Dark << accent;
         }
     }
 
@@ -130,8 +130,10 @@ private slots:
         QTest::addColumn<QColor>("muted");
         QTest::newRow("light") << Theme::Mode::Light << u""_qs << QColor(66, 133, 244) << QColor(66, 133, 244, 38);
         QTest::newRow("dark") << Theme::Mode::Dark << u""_qs << QColor(107, 161, 247) << QColor(107, 161, 247, 50);
-        QTest::newRow("red in light") << Theme::Mode::Light << u"#ff0000"_qs << QColor(255, 0, 0) << QColor(255, 0, 0, 38);
-        QTest::newRow("red in dark") << Theme::Mode::Dark << u"#ff0000"_qs << QColor(255, 0, 0) << QColor(255, 0, 0, 50);
+        QTest::newRow("red in light") << Theme::Mode::Light << u"#ff0000"_qs << QColor(255, 0, 0)
+                                      << QColor(255, 0, 0, 38);
+        QTest::newRow("red in dark") << Theme::Mode::Dark << u"#ff0000"_qs << QColor(255, 0, 0)
+                                     << QColor(255, 0, 0, 50);
         QTest::newRow("nonsense") << Theme::Mode::Dark << u"no colour"_qs << QColor(107, 161, 247)
                                   << QColor(107, 161, 247, 50);
     }
@@ -175,15 +177,21 @@ private slots:
         QTest::addColumn<Theme::Mode>("mode");
         QTest::addColumn<QStringList>("expected");
         QTest::newRow("light") << Theme::Mode::Light
-                               << QStringList{ u"background: #f6f7f9;"_qs, u"background: #f0f1f4;"_qs,
-                                               u"border: 1px solid #e3e5ea;"_qs, u"background: #c9cdd4;"_qs,
-                                               u"color: #181b22;"_qs, u"color: #6b707a;"_qs,
+                               << QStringList{ u"background: #f6f7f9;"_qs,
+                                               u"background: #f0f1f4;"_qs,
+                                               u"border: 1px solid #e3e5ea;"_qs,
+                                               u"background: #c9cdd4;"_qs,
+                                               u"color: #181b22;"_qs,
+                                               u"color: #6b707a;"_qs,
                                                u"selection-background-color: rgba(66, 133, 244, 0.149);"_qs,
                                                u"arrow-down-light.svg"_qs };
         QTest::newRow("dark") << Theme::Mode::Dark
-                              << QStringList{ u"background: #14161b;"_qs, u"background: #23272f;"_qs,
-                                              u"border: 1px solid #2c313a;"_qs, u"background: #3a404b;"_qs,
-                                              u"color: #e7e9ee;"_qs, u"color: #9aa0ab;"_qs,
+                              << QStringList{ u"background: #14161b;"_qs,
+                                              u"background: #23272f;"_qs,
+                                              u"border: 1px solid #2c313a;"_qs,
+                                              u"background: #3a404b;"_qs,
+                                              u"color: #e7e9ee;"_qs,
+                                              u"color: #9aa0ab;"_qs,
                                               u"selection-background-color: rgba(107, 161, 247, 0.196);"_qs,
                                               u"arrow-down-dark.svg"_qs };
     }

@@ -1,0 +1,69 @@
+#include "support/ScratchDatabase.h"
+
+#include "storage/AccountRepository.h"
+#include "storage/CalendarRepository.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+
+ScratchDatabase::ScratchDatabase()
+{
+    if (!m_dir.isValid() || !m_database.open(path()) || !m_database.runMigrations())
+        qFatal("cannot open a scratch database");
+}
+
+QString ScratchDatabase::addAccount(const QString &id)
+{
+    Account account;
+    account.id = id;
+    account.name = id;
+    account.type = AccountType::CalDAV;
+    account.username = QStringLiteral("ada");
+    if (!AccountRepository(&m_database).insert(account))
+        qFatal("cannot store a scratch account");
+    return id;
+}
+
+QString ScratchDatabase::addCalendar(const QString &id, const QString &accountId)
+{
+    Calendar calendar;
+    calendar.id = id;
+    calendar.accountId = accountId;
+    calendar.name = id;
+    calendar.url = QStringLiteral("https://dav.example.org/") + id;
+    if (!CalendarRepository(&m_database).insert(calendar))
+        qFatal("cannot store a scratch calendar");
+    return id;
+}
+
+void ScratchDatabase::execute(const QString &sql)
+{
+    QSqlQuery query(m_database.db());
+    if (!query.exec(sql))
+        qFatal("%s: %s", qPrintable(sql), qPrintable(query.lastError().text()));
+}
+
+QStringList ScratchDatabase::column(const QString &sql)
+{
+    QSqlQuery query(m_database.db());
+    if (!query.exec(sql))
+        qFatal("%s: %s", qPrintable(sql), qPrintable(query.lastError().text()));
+    QStringList values;
+    while (query.next())
+        values.append(query.value(0).isNull() ? QStringLiteral("NULL") : query.value(0).toString());
+    return values;
+}
+
+int ScratchDatabase::count(const QString &table, const QString &condition)
+{
+    return column(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(table, condition)).value(0).toInt();
+}
+
+QString ScratchDatabase::problems()
+{
+    QStringList found = column(QStringLiteral("PRAGMA integrity_check"));
+    found.removeAll(QStringLiteral("ok"));
+    for (const QString &table : column(QStringLiteral("PRAGMA foreign_key_check")))
+        found.append(QStringLiteral("dangling reference in ") + table);
+    return found.join(u'\n');
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "storage/Database.h"
+
+#include <QTemporaryDir>
+
+/// A migrated database in a folder of its own.
+class ScratchDatabase {
+public:
+    ScratchDatabase();
+
+    Database *operator->() { return &m_database; }
+    Database *get() { return &m_database; }
+    [[nodiscard]] QString path() const { return m_dir.filePath(QStringLiteral("calendar.db")); }
+
+    /// A live CalDAV account, and a calendar in it. Both ids come back as given.
+    QString addAccount(const QString &id);
+    QString addCalendar(const QString &id, const QString &accountId);
+
+    /// Runs one statement as another program would; fails hard if SQLite refuses.
+    void execute(const QString &sql);
+    /// The first column of every row; NULL as the text "NULL".
+    QStringList column(const QString &sql);
+    int count(const QString &table, const QString &condition = QStringLiteral("1"));
+
+    /// What SQLite finds wrong with the file or its references; empty if all is well.
+    QString problems();
+
+private:
+    QTemporaryDir m_dir;
+    Database m_database;
+};
