@@ -116,18 +116,23 @@ void SingleInstance::onNewConnection()
 {
     while (QLocalSocket *socket = m_server->nextPendingConnection()) {
         socket->setReadBufferSize(MaxLineBytes);
-        connect(socket, &QLocalSocket::readyRead, this, [this, socket] { readLines(socket); });
+        connect(socket, &QLocalSocket::readyRead, this,
+                [this, socket, linesLeft = MaxLinesPerConnection]() mutable { readLines(socket, linesLeft); });
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
         if (socket->bytesAvailable() > 0)
-            readLines(socket);
+            emit socket->readyRead();
     }
 }
 
-void SingleInstance::readLines(QLocalSocket *socket)
+void SingleInstance::readLines(QLocalSocket *socket, int &linesLeft)
 {
-    while (socket->canReadLine())
+    while (linesLeft > 0 && socket->canReadLine()) {
+        --linesLeft;
         enqueue(socket->readLine());
-    if (socket->bytesAvailable() >= MaxLineBytes) {
+    }
+    if (linesLeft == 0) {
+        socket->abort();
+    } else if (socket->bytesAvailable() >= MaxLineBytes) {
         qWarning() << "[SingleInstance] bad command: too long";
         socket->abort();
         enqueue("{}"); // asks for the window, as all that cannot be read

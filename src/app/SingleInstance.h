@@ -18,6 +18,8 @@ class SingleInstance : public QObject {
 public:
     /// Longest command; a peer that sends more without a line feed is cut off.
     static constexpr qint64 MaxLineBytes = 1024 * 1024;
+    /// A launch sends one line; who sends more than these is cut off.
+    static constexpr int MaxLinesPerConnection = 64;
 
     explicit SingleInstance(QObject *parent = nullptr);
 
@@ -42,7 +44,7 @@ signals:
 
 private:
     void onNewConnection();
-    void readLines(QLocalSocket *socket);
+    void readLines(QLocalSocket *socket, int &linesLeft);
     void enqueue(const QByteArray &line);
     void dispatchWaiting();
 

@@ -59,8 +59,7 @@ public:
     [[nodiscard]] int count() const { return m_count; }
 
 private:
-    template<typename T>
-    using LowestFirst = std::priority_queue<T, std::vector<T>, std::greater<T>>;
+    template <typename T> using LowestFirst = std::priority_queue<T, std::vector<T>, std::greater<T>>;
 
     LowestFirst<std::pair<qint64, int>> m_taken; // by end
     LowestFirst<int> m_free;

@@ -17,22 +17,22 @@ using FilterEngine::TimeConditions;
 
 namespace {
 
-constexpr QLatin1StringView RuntimeType { "runtimeType" };
-constexpr QLatin1StringView Pattern { "pattern" };
-constexpr QLatin1StringView Time { "time" };
-constexpr QLatin1StringView Specific { "specific" };
-constexpr QLatin1StringView AllDay { "allDay" };
-constexpr QLatin1StringView TitleContains { "titleContains" };
-constexpr QLatin1StringView TitleExact { "titleExact" };
-constexpr QLatin1StringView DescriptionContains { "descriptionContains" };
-constexpr QLatin1StringView LocationContains { "locationContains" };
-constexpr QLatin1StringView CaseSensitive { "caseSensitive" };
-constexpr QLatin1StringView TimeExact { "timeExact" };
-constexpr QLatin1StringView TimeRange { "timeRange" };
-constexpr QLatin1StringView Start { "start" };
-constexpr QLatin1StringView End { "end" };
-constexpr QLatin1StringView DaysOfWeek { "daysOfWeek" };
-constexpr QLatin1StringView RecurringOnly { "recurringOnly" };
+constexpr QLatin1StringView RuntimeType{ "runtimeType" };
+constexpr QLatin1StringView Pattern{ "pattern" };
+constexpr QLatin1StringView Time{ "time" };
+constexpr QLatin1StringView Specific{ "specific" };
+constexpr QLatin1StringView AllDay{ "allDay" };
+constexpr QLatin1StringView TitleContains{ "titleContains" };
+constexpr QLatin1StringView TitleExact{ "titleExact" };
+constexpr QLatin1StringView DescriptionContains{ "descriptionContains" };
+constexpr QLatin1StringView LocationContains{ "locationContains" };
+constexpr QLatin1StringView CaseSensitive{ "caseSensitive" };
+constexpr QLatin1StringView TimeExact{ "timeExact" };
+constexpr QLatin1StringView TimeRange{ "timeRange" };
+constexpr QLatin1StringView Start{ "start" };
+constexpr QLatin1StringView End{ "end" };
+constexpr QLatin1StringView DaysOfWeek{ "daysOfWeek" };
+constexpr QLatin1StringView RecurringOnly{ "recurringOnly" };
 
 QStringList readList(const QJsonValue &value)
 {
@@ -66,7 +66,7 @@ TimeConditions readTime(const QJsonObject &object)
 QString jsonText(const QJsonValue &value)
 {
     // A one-element array is the way to write a plain value.
-    const QByteArray array = QJsonDocument(QJsonArray { value }).toJson(QJsonDocument::Compact);
+    const QByteArray array = QJsonDocument(QJsonArray{ value }).toJson(QJsonDocument::Compact);
     return QString::fromUtf8(array.sliced(1, array.size() - 2));
 }
 
@@ -101,8 +101,8 @@ QString toText(const PatternConditions &conditions)
 
 QString toText(const TimeConditions &conditions)
 {
-    const QString range
-        = objectText({ { Start, jsonText(conditions.rangeStart) }, { End, jsonText(conditions.rangeEnd) } });
+    const QString range =
+        objectText({ { Start, jsonText(conditions.rangeStart) }, { End, jsonText(conditions.rangeEnd) } });
     return objectText({ { RuntimeType, jsonText(QString(Time)) },
                         { TimeExact, jsonText(conditions.timeExact) },
                         { TimeRange, range },
@@ -117,8 +117,8 @@ QString toText(const SpecificConditions &)
 
 QString toText(const AllDayConditions &conditions)
 {
-    return objectText({ { RuntimeType, jsonText(QString(AllDay)) },
-                        { RecurringOnly, jsonText(conditions.recurringOnly) } });
+    return objectText(
+        { { RuntimeType, jsonText(QString(AllDay)) }, { RecurringOnly, jsonText(conditions.recurringOnly) } });
 }
 
 }
@@ -135,9 +135,9 @@ std::optional<FilterConditions> FilterEngine::parseConditions(const QString &jso
     if (type == Time)
         return readTime(object);
     if (type == Specific)
-        return SpecificConditions {};
+        return SpecificConditions{};
     if (type == AllDay)
-        return AllDayConditions { .recurringOnly = object[RecurringOnly].toBool() };
+        return AllDayConditions{ .recurringOnly = object[RecurringOnly].toBool() };
     return std::nullopt;
 }
 

@@ -82,7 +82,7 @@ private:
     std::array<QString, FieldCount> m_folded;
     bool m_hasStart = false;
     int m_weekday = 0;
-    std::array<char16_t, 5> m_time {};
+    std::array<char16_t, 5> m_time{};
 };
 
 class PatternMatcher {
@@ -138,16 +138,16 @@ public:
     explicit TimeMatcher(TimeConditions conditions)
         : m_conditions(std::move(conditions))
     {
-        static const QStringList tokens { QStringLiteral("mon"), QStringLiteral("tue"), QStringLiteral("wed"),
-                                          QStringLiteral("thu"), QStringLiteral("fri"), QStringLiteral("sat"),
-                                          QStringLiteral("sun") };
+        static const QStringList tokens{ QStringLiteral("mon"), QStringLiteral("tue"), QStringLiteral("wed"),
+                                         QStringLiteral("thu"), QStringLiteral("fri"), QStringLiteral("sat"),
+                                         QStringLiteral("sun") };
         for (const QString &day : std::as_const(m_conditions.daysOfWeek)) {
             const qsizetype index = tokens.indexOf(day.toLower());
             if (index >= 0)
                 m_days |= 1U << index;
         }
-        m_hasTime = !m_conditions.timeExact.isEmpty() || !m_conditions.rangeStart.isEmpty()
-            || !m_conditions.rangeEnd.isEmpty();
+        m_hasTime =
+            !m_conditions.timeExact.isEmpty() || !m_conditions.rangeStart.isEmpty() || !m_conditions.rangeEnd.isEmpty();
     }
 
     bool matches(Subject &subject) const
@@ -219,7 +219,7 @@ Matcher makeMatcher(const FilterRule &rule, const FilterEngine::FilterConditions
         Matcher operator()(const SpecificConditions &) const { return SpecificMatcher(rule); }
         Matcher operator()(const AllDayConditions &allDay) const { return AllDayMatcher(allDay); }
     };
-    return std::visit(Maker { rule }, conditions);
+    return std::visit(Maker{ rule }, conditions);
 }
 
 struct CompiledRule {
@@ -242,20 +242,20 @@ std::vector<CompiledRule> compile(const QList<FilterRule> &rules)
         if (!rule.enabled || rule.deletedAt)
             continue;
         if (const auto conditions = FilterEngine::parseConditions(rule.conditions)) {
-            compiled.push_back({ rule, makeMatcher(rule, *conditions), FilterEngine::parseCalendarIds(rule.calendarIds) });
+            compiled.push_back(
+                { rule, makeMatcher(rule, *conditions), FilterEngine::parseCalendarIds(rule.calendarIds) });
         }
     }
-    std::stable_sort(compiled.begin(), compiled.end(), [](const CompiledRule &a, const CompiledRule &b) {
-        return a.rule.priority < b.rule.priority;
-    });
+    std::stable_sort(compiled.begin(), compiled.end(),
+                     [](const CompiledRule &a, const CompiledRule &b) { return a.rule.priority < b.rule.priority; });
     return compiled;
 }
 
 const FilterRule *firstMatch(const std::vector<CompiledRule> &rules, const Event &event)
 {
     Subject subject(event);
-    const auto found
-        = std::find_if(rules.begin(), rules.end(), [&](const CompiledRule &rule) { return rule.matches(subject); });
+    const auto found =
+        std::find_if(rules.begin(), rules.end(), [&](const CompiledRule &rule) { return rule.matches(subject); });
     return found == rules.end() ? nullptr : &found->rule;
 }
 

@@ -16,10 +16,10 @@ namespace FilterEngine {
 
 /// The four lists are alternatives: one hit is enough.
 struct PatternConditions {
-    QStringList titleContains;
-    QStringList titleExact;
-    QStringList descriptionContains;
-    QStringList locationContains;
+    QStringList titleContains{};
+    QStringList titleExact{};
+    QStringList descriptionContains{};
+    QStringList locationContains{};
     bool caseSensitive = false;
 
     bool operator==(const PatternConditions &) const = default;
@@ -27,10 +27,10 @@ struct PatternConditions {
 
 /// All given parts must hold, on the occurrence's local start. Texts are "HH:mm" or empty.
 struct TimeConditions {
-    QString timeExact;
-    QString rangeStart; ///< inclusive
-    QString rangeEnd; ///< inclusive
-    QStringList daysOfWeek; ///< "mon" to "sun"
+    QString timeExact{};
+    QString rangeStart{}; ///< inclusive
+    QString rangeEnd{}; ///< inclusive
+    QStringList daysOfWeek{}; ///< "mon" to "sun"
     bool recurringOnly = false;
 
     bool operator==(const TimeConditions &) const = default;

@@ -47,10 +47,10 @@ Frequency frequencyFrom(QStringView text)
 
 quint8 weekdaysFrom(QStringView text)
 {
-    static constexpr std::array<QLatin1StringView, 7> tokens {
-        QLatin1StringView("MO"), QLatin1StringView("TU"), QLatin1StringView("WE"), QLatin1StringView("TH"),
-        QLatin1StringView("FR"), QLatin1StringView("SA"), QLatin1StringView("SU")
-    };
+    static constexpr std::array<QLatin1StringView, 7> tokens{ QLatin1StringView("MO"), QLatin1StringView("TU"),
+                                                              QLatin1StringView("WE"), QLatin1StringView("TH"),
+                                                              QLatin1StringView("FR"), QLatin1StringView("SA"),
+                                                              QLatin1StringView("SU") };
     unsigned days = 0;
     while (!text.isEmpty()) {
         const QStringView token = takePart(text, u',');
@@ -115,14 +115,14 @@ std::optional<CompactTime> CompactTime::parse(QStringView text)
     const bool isDate = text.size() == 8;
     if (!isDate && (text.size() != 15 || text.at(8) != u'T'))
         return std::nullopt;
-    const Civil::Date date { .year = digits(text.first(4)),
-                             .month = digits(text.sliced(4, 2)),
-                             .day = digits(text.sliced(6, 2)) };
+    const Civil::Date date{ .year = digits(text.first(4)),
+                            .month = digits(text.sliced(4, 2)),
+                            .day = digits(text.sliced(6, 2)) };
     if (date.year < 1 || date.month < 1 || date.month > 12 || date.day < 1
         || date.day > Civil::daysInMonth(date.year, date.month)) {
         return std::nullopt;
     }
-    CompactTime time { .day = Civil::toDays(date), .msOfDay = 0 };
+    CompactTime time{ .day = Civil::toDays(date), .msOfDay = 0 };
     if (isDate)
         return time;
     const int hour = digits(text.sliced(9, 2));

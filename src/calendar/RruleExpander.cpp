@@ -39,8 +39,7 @@ public:
     {
     }
 
-    template<typename Use>
-    void forEach(Use use) const
+    template <typename Use> void forEach(Use use) const
     {
         switch (m_rule.frequency) {
         case Frequency::Once:
@@ -64,8 +63,7 @@ public:
 private:
     [[nodiscard]] bool hasDay(qint64 day) const { return (m_rule.weekdays >> (Civil::weekday(day) - 1) & 1) != 0; }
 
-    template<typename Use>
-    void daily(Use use) const
+    template <typename Use> void daily(Use use) const
     {
         const qint64 interval = m_rule.interval;
         if (m_rule.weekdays == 0 || (interval % 7 == 0 && hasDay(m_startDay)))
@@ -84,8 +82,7 @@ private:
         }
     }
 
-    template<typename Use>
-    void everyDays(qint64 interval, Use use) const
+    template <typename Use> void everyDays(qint64 interval, Use use) const
     {
         qint64 index = jumps(m_startDay, interval);
         for (qint64 day = m_startDay + index * interval; index < m_limit && day <= m_lastWanted; day += interval) {
@@ -95,8 +92,7 @@ private:
         }
     }
 
-    template<typename Use>
-    void weekly(Use use) const
+    template <typename Use> void weekly(Use use) const
     {
         const int startWeekday = Civil::weekday(m_startDay);
         const unsigned days = m_rule.weekdays != 0 ? m_rule.weekdays : 1U << (startWeekday - 1);
@@ -105,7 +101,8 @@ private:
         qint64 index = 0;
         if (weeks > 0) // the first week lacks the days before the start
             index = std::popcount(days >> (startWeekday - 1)) + (weeks - 1) * std::popcount(days);
-        for (qint64 monday = m_startDay - (startWeekday - 1) + weeks * stride; monday <= m_lastWanted; monday += stride) {
+        for (qint64 monday = m_startDay - (startWeekday - 1) + weeks * stride; monday <= m_lastWanted;
+             monday += stride) {
             for (int weekday = 0; weekday < 7; ++weekday) {
                 const qint64 day = monday + weekday;
                 if ((days >> weekday & 1) == 0 || day < m_startDay)
@@ -119,8 +116,7 @@ private:
         }
     }
 
-    template<typename Use>
-    void monthly(qint64 interval, Use use) const
+    template <typename Use> void monthly(qint64 interval, Use use) const
     {
         const Civil::Date start = Civil::fromDays(m_startDay);
         qint64 month = start.year * 12 + start.month - 1;
@@ -261,7 +257,8 @@ QList<RruleExpander::Occurrence> RruleExpander::occurrences(const Event &master,
     result.reserve(starts.size());
     for (const qint64 startMs : starts) {
         if (!std::binary_search(exceptions.begin(), exceptions.end(), startMs))
-            result.emplaceBack(Occurrence { clock.at(startMs), clock.at(startMs + durationMs), recurrenceIdAt(startMs) });
+            result.emplaceBack(
+                Occurrence{ clock.at(startMs), clock.at(startMs + durationMs), recurrenceIdAt(startMs) });
     }
     return result;
 }

@@ -59,6 +59,8 @@ void SystemColorScheme::askPortal()
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
+    // The slot's signature names the type, and nothing has made it known yet: the connection would be refused.
+    qRegisterMetaType<QDBusVariant>();
     bus.connect(PortalService, PortalPath, SettingsInterface, QStringLiteral("SettingChanged"), this,
                 SLOT(onPortalSettingChanged(QString, QString, QDBusVariant)));
     QDBusMessage read =

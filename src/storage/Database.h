@@ -26,7 +26,8 @@ public:
     void close();
 
     /// Applies every migration above the file's version, each in a transaction of its own.
-    /// False at the first failure: that migration is rolled back, earlier ones stay.
+    /// False at the first failure: that migration is rolled back, earlier ones stay. False also for a
+    /// file that may not be written.
     bool runMigrations();
 
     /// The statements of a migration file, without whole-line comments and final semicolons.
@@ -62,6 +63,7 @@ private:
         size_t operator()(const QString &text) const noexcept { return qHash(text); }
     };
 
+    bool isReadOnly();
     bool ensureSchemaVersionTable();
     int currentVersion();
     bool applyMigration(int version, const QString &name, const QString &sql);

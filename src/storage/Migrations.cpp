@@ -36,7 +36,7 @@ constexpr Migration migrations[] = {
 
 bool Database::runMigrations()
 {
-    if (!ensureSchemaVersionTable())
+    if (isReadOnly() || !ensureSchemaVersionTable())
         return false;
     const int fileVersion = currentVersion();
     for (const Migration &migration : migrations) {
@@ -86,6 +86,22 @@ QStringList Database::splitStatements(const QString &sql)
     }
     finishStatement();
     return statements;
+}
+
+bool Database::isReadOnly()
+{
+    // SQLite opens a file without write permission all the same, and then each edit would be lost.
+    constexpr int readOnlyCode = 8;
+    constexpr int primaryCodeMask = 0xff;
+    QSqlQuery query(m_db);
+    if (query.exec(QStringLiteral("BEGIN IMMEDIATE"))) {
+        query.exec(QStringLiteral("ROLLBACK"));
+        return false;
+    }
+    if ((query.lastError().nativeErrorCode().toInt() & primaryCodeMask) != readOnlyCode)
+        return false;
+    qCritical().noquote() << "Database cannot be written:" << query.lastError().text();
+    return true;
 }
 
 bool Database::ensureSchemaVersionTable()

@@ -44,9 +44,10 @@ std::optional<QDateTime> parseUsualForm(QStringView text)
     if ((text.size() != localLength && text.size() != utcLength && text.size() != offsetLength)
         || !hasUsualPunctuation(text))
         return std::nullopt;
-    const QDate date(number(text, 0, 4), number(text, 5, 2), number(text, 8, 2));
+    const int year = number(text, 0, 4);
+    const QDate date(year, number(text, 5, 2), number(text, 8, 2));
     const QTime time(number(text, 11, 2), number(text, 14, 2), number(text, 17, 2));
-    if (!date.isValid() || !time.isValid())
+    if (year < 0 || !date.isValid() || !time.isValid())
         return std::nullopt;
     if (text.size() == localLength)
         return QDateTime(date, time);

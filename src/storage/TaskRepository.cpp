@@ -108,8 +108,12 @@ QDateTime nextOccurrence(const Task &task)
     series.startTime = base;
     series.timezone = zoneOf(base);
     series.recurrenceRule = task.recurrenceRule;
-    const QList<Event> occurrences = RruleExpander::expand(series, base.addSecs(1), base.addYears(horizonYears));
-    return occurrences.isEmpty() ? QDateTime() : occurrences.first().startTime;
+    // The instance at the base itself may reach into the window: an event without an end has a length too.
+    for (const Event &occurrence : RruleExpander::expand(series, base.addSecs(1), base.addYears(horizonYears))) {
+        if (occurrence.startTime > base)
+            return occurrence.startTime;
+    }
+    return {};
 }
 
 // Moves a repeating task on to its next date. False, and unchanged, if there is none.

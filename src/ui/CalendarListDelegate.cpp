@@ -35,6 +35,15 @@ void CalendarListDelegate::initStyleOption(QStyleOptionViewItem *option, const Q
     option->palette.setColor(QPalette::Text, Theme::textMuted());
 }
 
+QWidget *CalendarListDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                            const QModelIndex &index) const
+{
+    QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
+    // The padding of an ordinary field leaves no room for the text in a row.
+    editor->setStyleSheet(QStringLiteral("padding: 0px 2px;"));
+    return editor;
+}
+
 QSize CalendarListDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     const QSize hint = QStyledItemDelegate::sizeHint(option, index);

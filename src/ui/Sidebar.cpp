@@ -41,8 +41,10 @@ Sidebar::Sidebar(AppState *state, QWidget *parent)
     connect(state, &AppState::activeViewChanged, this, &Sidebar::updateGroupHint);
     connect(state->views(), &ViewRepository::viewsChanged, this, &Sidebar::updateGroupHint);
     connect(state->calendars(), &CalendarRepository::calendarsChanged, this, &Sidebar::updateGroupHint);
-    if (ThemeManager *theme = state->theme())
+    if (ThemeManager *theme = state->theme()) {
         connect(theme, &ThemeManager::modeChanged, this, &Sidebar::applyTheme);
+        connect(theme, &ThemeManager::accentChanged, this, &Sidebar::applyTheme);
+    }
     applyTheme();
     updateGroupHint();
 }
@@ -104,4 +106,8 @@ void Sidebar::updateGroupHint()
 void Sidebar::applyTheme()
 {
     m_add->setIcon(Theme::iconFromGlyph(AddGlyph, GlyphSizePx, Theme::textPrimary()));
+    // The list is part of the pane, not a box in it.
+    m_calendars->setStyleSheet(QStringLiteral("#calendarList { background: %1; border-color: transparent; }"
+                                              "#calendarList:focus { border-color: %2; }")
+                                   .arg(Theme::canvas().name(), Theme::accent().name()));
 }

@@ -183,6 +183,17 @@ private slots:
         QTRY_COMPARE(m_heard.size(), 2);
     }
 
+    void floodIsCutOff()
+    {
+        QLocalSocket socket;
+        QSignalSpy cut(&socket, &QLocalSocket::disconnected);
+        socket.connectToServer(SingleInstance::socketName());
+        QVERIFY(socket.waitForConnected(2000));
+        socket.write(QByteArray("{\"cmd\":\"new-event\"}\n").repeated(1000));
+        QTRY_COMPARE(cut.size(), 1);
+        QCOMPARE(m_heard.size(), 64);
+    }
+
     void waitsForAModalDialog()
     {
         QDialog dialog;

@@ -65,7 +65,8 @@ void tst_EventDays::days_data()
     QTest::newRow("no end, late") << timed(local(day, 23, 59)) << day << day;
     QTest::newRow("no length at midnight") << timed(local(day, 0), local(day, 0)) << day << day;
     QTest::newRow("ends before it begins") << timed(local(day, 9), local(day.addDays(-2), 9)) << day << day;
-    QTest::newRow("written in another zone") << timed(elsewhere(local(day, 22)), elsewhere(local(next, 3))) << day << next;
+    QTest::newRow("written in another zone")
+        << timed(elsewhere(local(day, 22)), elsewhere(local(next, 3))) << day << next;
     QTest::newRow("written in UTC") << timed(local(day, 0, 30).toUTC(), local(day, 1).toUTC()) << day << day;
 }
 

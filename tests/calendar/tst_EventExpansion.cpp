@@ -6,7 +6,7 @@ namespace {
 
 QDateTime march(int day, int hour = 9)
 {
-    return QDateTime(QDate(2026, 3, day), QTime(hour, 0), Qt::UTC);
+    return QDateTime(QDate(2026, 3, 1).addDays(day - 1), QTime(hour, 0), Qt::UTC);
 }
 
 Event row(const QString &uid, const QDateTime &start, const QString &rule = {})
@@ -57,8 +57,8 @@ private slots:
 
 void tst_EventExpansion::putsSinglesFirst()
 {
-    const QList<Event> events { row(QStringLiteral("b"), march(3), Daily), row(QStringLiteral("x"), march(20)),
-                                row(QStringLiteral("a"), march(2), Daily), row(QStringLiteral("y"), march(1)) };
+    const QList<Event> events{ row(QStringLiteral("b"), march(3), Daily), row(QStringLiteral("x"), march(20)),
+                               row(QStringLiteral("a"), march(2), Daily), row(QStringLiteral("y"), march(1)) };
     // Singles are taken as they are: the caller's query was the test.
     QCOMPARE(summary(EventExpansion::expand(events, march(3, 0), march(5, 0))),
              QStringList({ QStringLiteral("x@20"), QStringLiteral("y@1"), QStringLiteral("b@3"), QStringLiteral("b@4"),
@@ -70,8 +70,10 @@ void tst_EventExpansion::overrides_data()
     QTest::addColumn<Event>("override");
     QTest::addColumn<QString>("expected"); // the window is 2 to 4 March
     const QString uid = QStringLiteral("a");
-    QTest::newRow("takes its occurrence's place") << overrideRow(uid, 3, march(3, 15)) << QStringLiteral("a@2 a-3@3 a@4");
-    QTest::newRow("moved out of the window, still given") << overrideRow(uid, 3, march(27)) << QStringLiteral("a@2 a-3@27 a@4");
+    QTest::newRow("takes its occurrence's place")
+        << overrideRow(uid, 3, march(3, 15)) << QStringLiteral("a@2 a-3@3 a@4");
+    QTest::newRow("moved out of the window, still given")
+        << overrideRow(uid, 3, march(27)) << QStringLiteral("a@2 a-3@27 a@4");
     QTest::newRow("moved in from outside") << overrideRow(uid, 9, march(4, 20)) << QStringLiteral("a@2 a@3 a@4 a-9@4");
     Event cancelled = overrideRow(uid, 3, march(3));
     cancelled.status = EventStatus::Cancelled;
@@ -82,14 +84,15 @@ void tst_EventExpansion::overrides_data()
     Event elsewhere = overrideRow(uid, 3, march(3, 15));
     elsewhere.calendarId = QStringLiteral("work");
     QTest::newRow("of another calendar: replaces nothing") << elsewhere << QStringLiteral("a@2 a@3 a@4 a-3@3");
-    QTest::newRow("of an unknown series") << overrideRow(QStringLiteral("z"), 3, march(3)) << QStringLiteral("a@2 a@3 a@4 z-3@3");
+    QTest::newRow("of an unknown series")
+        << overrideRow(QStringLiteral("z"), 3, march(3)) << QStringLiteral("a@2 a@3 a@4 z-3@3");
 }
 
 void tst_EventExpansion::overrides()
 {
     QFETCH(Event, override);
     const Event master = row(QStringLiteral("a"), march(2), Daily);
-    for (const QList<Event> &events : { QList<Event> { master, override }, QList<Event> { override, master } })
+    for (const QList<Event> &events : { QList<Event>{ master, override }, QList<Event>{ override, master } })
         QTEST(summary(EventExpansion::expand(events, march(2, 0), march(5, 0))).join(u' '), "expected");
 }
 
@@ -107,15 +110,14 @@ void tst_EventExpansion::laterDuplicateWins()
 
 void tst_EventExpansion::manyOverrides()
 {
-    QList<Event> events { row(QStringLiteral("a"), march(1), QStringLiteral("FREQ=DAILY")) };
+    QList<Event> events{ row(QStringLiteral("a"), march(1), QStringLiteral("FREQ=DAILY")) };
     for (int day = 0; day < 20'000; ++day)
-        events.append(overrideRow(QStringLiteral("a"), 1 + day, march(1).addDays(day)));
-    // Every second one belongs to no occurrence, as its hour is another.
+        events.append(overrideRow(QStringLiteral("a"), 1 + day, march(1 + day)));
+    // Every second one belongs to no occurrence, as its minute is another.
     for (qsizetype i = 1; i < events.size(); i += 2)
         events[i].recurrenceId = events.at(i).startTime.addSecs(60).toString(u"yyyyMMdd'T'HHmmss'Z'");
-    QBENCHMARK_ONCE {
-        QCOMPARE(EventExpansion::expand(events, march(1), march(1).addDays(9'000)).size(), 9'000 + 20'000 - 4'500);
-    }
+    const QList<Event> found = EventExpansion::expand(events, march(1), march(1).addDays(9'000));
+    QCOMPARE(found.size(), 9'000 + 20'000 - 4'500);
 }
 
 QTEST_GUILESS_MAIN(tst_EventExpansion)

@@ -7,7 +7,7 @@
 namespace {
 
 /// Minutes of one day; the title says them.
-Event event(int startMin, int endMin)
+Event makeEvent(int startMin, int endMin)
 {
     Event event;
     event.title = QStringLiteral("%1-%2").arg(startMin).arg(endMin);
@@ -23,8 +23,9 @@ QList<Event> eventsFrom(const QString &text)
     static const QRegularExpression form(QStringLiteral(R"((\d+)(?::(\d+))?-(?:(\d+)(?::(\d+))?)?)"));
     QList<Event> events;
     for (const QRegularExpressionMatch &match : form.globalMatch(text)) {
-        const int endMin = match.captured(3).isEmpty() ? -1 : match.captured(3).toInt() * 60 + match.captured(4).toInt();
-        events.append(event(match.captured(1).toInt() * 60 + match.captured(2).toInt(), endMin));
+        const int endMin =
+            match.captured(3).isEmpty() ? -1 : match.captured(3).toInt() * 60 + match.captured(4).toInt();
+        events.append(makeEvent(match.captured(1).toInt() * 60 + match.captured(2).toInt(), endMin));
         events.last().title = match.captured();
     }
     return events;
@@ -67,7 +68,8 @@ void tst_EventLayout::places()
     QFETCH(QString, events);
     QStringList found;
     for (const EventLayout::Placement &placement : EventLayout::compute(eventsFrom(events)))
-        found.append(QStringLiteral("%1:%2/%3").arg(placement.event.title).arg(placement.column).arg(placement.columnCount));
+        found.append(
+            QStringLiteral("%1:%2/%3").arg(placement.event.title).arg(placement.column).arg(placement.columnCount));
     QTEST(found.join(u' '), "expected");
 }
 
@@ -78,7 +80,7 @@ void tst_EventLayout::holdsForRandomDays()
         QList<Event> events;
         for (int i = random.bounded(40); i > 0; --i) {
             const int startMin = random.bounded(96) * 15;
-            events.append(event(startMin, startMin + random.bounded(1, 12) * 15));
+            events.append(makeEvent(startMin, startMin + random.bounded(1, 12) * 15));
         }
         const QList<EventLayout::Placement> placements = EventLayout::compute(events);
         QCOMPARE(placements.size(), events.size());
@@ -104,7 +106,7 @@ void tst_EventLayout::holdsForRandomDays()
 void tst_EventLayout::manyAtOnce()
 {
     // A file with one event thousands of times must not stop the program.
-    const QList<EventLayout::Placement> placements = EventLayout::compute(QList<Event>(20'000, event(540, 600)));
+    const QList<EventLayout::Placement> placements = EventLayout::compute(QList<Event>(20'000, makeEvent(540, 600)));
     QCOMPARE(placements.last().column, 19'999);
     QCOMPARE(placements.first().columnCount, 20'000);
 }

@@ -58,7 +58,8 @@ void tst_RecurrenceRule::readsUntil_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QDateTime>("expected"); // invalid: no end
     const auto row = [](const char *text, const char *expected) {
-        QTest::newRow(text) << QString::fromLatin1(text) << QDateTime::fromString(QString::fromLatin1(expected), Qt::ISODate);
+        QTest::newRow(text) << QString::fromLatin1(text)
+                            << QDateTime::fromString(QString::fromLatin1(expected), Qt::ISODate);
     };
     row("20260315T235959Z", "2026-03-15T23:59:59Z");
     row("20260315T235959", "2026-03-15T23:59:59Z");

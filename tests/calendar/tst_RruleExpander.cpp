@@ -115,7 +115,7 @@ private:
 
 namespace {
 
-constexpr std::array WeekdayTokens { "MO", "TU", "WE", "TH", "FR", "SA", "SU" };
+constexpr std::array WeekdayTokens{ "MO", "TU", "WE", "TH", "FR", "SA", "SU" };
 
 Event series(const QDateTime &start, const QString &rule, int minutes = 60)
 {
@@ -150,7 +150,7 @@ QDateTime inZone(const char *zone, QDate date, QTime time)
 /// A rule as text and as what the plain generator takes.
 std::pair<QString, Stepwise::Rule> randomRule(QRandomGenerator &random, const QDateTime &start)
 {
-    static constexpr std::array frequencies { "DAILY", "WEEKLY", "MONTHLY", "YEARLY" };
+    static constexpr std::array frequencies{ "DAILY", "WEEKLY", "MONTHLY", "YEARLY" };
     Stepwise::Rule rule;
     rule.frequency = QString::fromLatin1(frequencies[random.bounded(4)]);
     QString text = QStringLiteral("FREQ=") + rule.frequency;
@@ -183,16 +183,26 @@ std::pair<QString, Stepwise::Rule> randomRule(QRandomGenerator &random, const QD
 
 QDateTime randomStart(QRandomGenerator &random, QDate windowDay)
 {
-    static constexpr std::array zones { "UTC",           "Europe/Berlin",     "America/New_York",    "Australia/Lord_Howe",
-                                        "Asia/Kolkata",  "America/Sao_Paulo", "Pacific/Apia",        "Africa/Casablanca",
-                                        "America/Havana", "Asia/Beirut",      "Pacific/Kiritimati", "local" };
+    static constexpr std::array zones{ "UTC",
+                                       "Europe/Berlin",
+                                       "America/New_York",
+                                       "Australia/Lord_Howe",
+                                       "Asia/Kolkata",
+                                       "America/Sao_Paulo",
+                                       "Pacific/Apia",
+                                       "Africa/Casablanca",
+                                       "America/Havana",
+                                       "Asia/Beirut",
+                                       "Pacific/Kiritimati",
+                                       "local" };
     QDate date = windowDay.addDays(-random.bounded(random.bounded(4) == 0 ? 11'000 : 1'500));
     if (random.bounded(3) == 0) // the days that not every month has
         date = QDate(date.year(), date.month(), date.daysInMonth());
     if (random.bounded(12) == 0)
         date = QDate(date.year() / 4 * 4, 2, 29);
     // Where clocks change, quarter by quarter.
-    const QTime time = QTime(0, 0).addSecs(random.bounded(2) == 0 ? random.bounded(14) * 900 : random.bounded(96) * 900);
+    const QTime time =
+        QTime(0, 0).addSecs(random.bounded(2) == 0 ? random.bounded(14) * 900 : random.bounded(96) * 900);
     const QByteArray zone = zones[random.bounded(int(zones.size()))];
     if (zone == "UTC")
         return QDateTime(date, time, Qt::UTC);
@@ -239,9 +249,10 @@ void tst_RruleExpander::rules_data()
     };
     // 2 March 2026 is a Monday.
     row("count", "FREQ=DAILY;COUNT=3", "2026-03-02T09:00:00Z", "2026-04-01", "03-02 03-03 03-04");
-    row("weekly from mid-week", "FREQ=WEEKLY;BYDAY=MO,WE,FR", "2026-03-04T09:00:00Z", "2026-03-10", "03-04 03-06 03-09");
-    row("weeks count from the start's own", "FREQ=WEEKLY;INTERVAL=2;BYDAY=MO,WE,FR", "2026-03-08T09:00:00Z", "2026-04-01",
-        "03-16 03-18 03-20 03-30");
+    row("weekly from mid-week", "FREQ=WEEKLY;BYDAY=MO,WE,FR", "2026-03-04T09:00:00Z", "2026-03-10",
+        "03-04 03-06 03-09");
+    row("weeks count from the start's own", "FREQ=WEEKLY;INTERVAL=2;BYDAY=MO,WE,FR", "2026-03-08T09:00:00Z",
+        "2026-04-01", "03-16 03-18 03-20 03-30");
     row("ordinals fall away", "FREQ=WEEKLY;BYDAY=2MO", "2026-03-05T09:00:00Z", "2026-03-20", "03-05 03-12 03-19");
     row("weekdays cost no count", "FREQ=DAILY;COUNT=6;BYDAY=MO,TU,WE,TH,FR", "2026-03-05T09:00:00Z", "2026-04-01",
         "03-05 03-06 03-09 03-10 03-11 03-12");
@@ -251,10 +262,14 @@ void tst_RruleExpander::rules_data()
     row("leap month ends", "FREQ=MONTHLY", "2028-01-31T09:00:00Z", "2028-05-01", "01-31 02-29 03-29 04-29");
     row("month of the year ignored", "FREQ=YEARLY;BYMONTH=3", "2026-06-10T09:00:00Z", "2028-01-01", "06-10 06-10");
     row("leap day", "FREQ=YEARLY", "2024-02-29T09:00:00Z", "2029-01-01", "02-29 02-28 02-28 02-28 02-28");
-    row("leap day every fourth year", "FREQ=YEARLY;INTERVAL=4", "2024-02-29T09:00:00Z", "2033-01-01", "02-29 02-29 02-29");
-    row("every seventh day never on another", "FREQ=DAILY;INTERVAL=7;BYDAY=TU", "2026-03-02T09:00:00Z", "2027-01-01", "");
-    row("until that instant", "FREQ=DAILY;UNTIL=20260304T090000Z", "2026-03-02T09:00:00Z", "2026-04-01", "03-02 03-03 03-04");
-    row("until the second before", "FREQ=DAILY;UNTIL=20260304T085959Z", "2026-03-02T09:00:00Z", "2026-04-01", "03-02 03-03");
+    row("leap day every fourth year", "FREQ=YEARLY;INTERVAL=4", "2024-02-29T09:00:00Z", "2033-01-01",
+        "02-29 02-29 02-29");
+    row("every seventh day never on another", "FREQ=DAILY;INTERVAL=7;BYDAY=TU", "2026-03-02T09:00:00Z", "2027-01-01",
+        "");
+    row("until that instant", "FREQ=DAILY;UNTIL=20260304T090000Z", "2026-03-02T09:00:00Z", "2026-04-01",
+        "03-02 03-03 03-04");
+    row("until the second before", "FREQ=DAILY;UNTIL=20260304T085959Z", "2026-03-02T09:00:00Z", "2026-04-01",
+        "03-02 03-03");
     row("until the start of a date", "FREQ=DAILY;UNTIL=20260304", "2026-03-02T09:00:00Z", "2026-04-01", "03-02 03-03");
     row("until before the start", "FREQ=DAILY;UNTIL=20250101", "2026-03-02T09:00:00Z", "2026-04-01", "");
     row("seconds", "FREQ=SECONDLY", "2026-03-02T09:00:00Z", "2026-04-01", "03-02");
@@ -266,8 +281,8 @@ void tst_RruleExpander::rules()
     QFETCH(QString, rule);
     QFETCH(QString, start);
     QFETCH(QString, to);
-    const QList<Event> found = RruleExpander::expand(series(utc(start), rule), utc(QStringLiteral("1970-01-01T00:00:00Z")),
-                                                     utc(to + QStringLiteral("T00:00:00Z")));
+    const QList<Event> found = RruleExpander::expand(
+        series(utc(start), rule), utc(QStringLiteral("1970-01-01T00:00:00Z")), utc(to + QStringLiteral("T00:00:00Z")));
     QStringList dates;
     for (const Event &event : found) {
         dates.append(event.startTime.toString(u"MM-dd"));
@@ -287,7 +302,8 @@ void tst_RruleExpander::agreesWithPlainSteps()
         Event event = series(start, text, random.bounded(4) == 0 ? random.bounded(20'000) : random.bounded(180));
         const qint64 durationMs = start.msecsTo(*event.endTime);
         const QDateTime from(windowDay, QTime(0, 0).addSecs(random.bounded(86'400)), Qt::UTC);
-        const QDateTime to = from.addSecs(random.bounded(6) == 0 ? random.bounded(400) * 86'400LL : random.bounded(8 * 86'400));
+        const QDateTime to =
+            from.addSecs(random.bounded(3) == 0 ? random.bounded(400) * 86'400LL : random.bounded(8 * 86'400));
 
         QStringList expected;
         for (const qint64 ms : Stepwise::Generator(rule, start, to.toMSecsSinceEpoch()).starts()) {
@@ -302,10 +318,11 @@ void tst_RruleExpander::agreesWithPlainSteps()
             QCOMPARE(occurrence.startTime.timeSpec(), start.timeSpec());
             QCOMPARE(occurrence.startTime.msecsTo(*occurrence.endTime), durationMs);
         }
-        QVERIFY2(found == expected, qPrintable(QStringLiteral("%1 from %2 (%3), window %4 to %5:\n%6\ninstead of\n%7")
-                                                   .arg(text, start.toString(Qt::ISODate), start.timeZoneAbbreviation(),
-                                                        from.toString(Qt::ISODate), to.toString(Qt::ISODate),
-                                                        found.join(u' '), expected.join(u' '))));
+        QVERIFY2(found == expected,
+                 qPrintable(QStringLiteral("%1 from %2 (%3), window %4 to %5:\n%6\ninstead of\n%7")
+                                .arg(text, start.toString(Qt::ISODate), start.timeZoneAbbreviation(),
+                                     from.toString(Qt::ISODate), to.toString(Qt::ISODate), found.join(u' '),
+                                     expected.join(u' '))));
         instances += int(expected.size());
     }
     QVERIFY(instances > 10'000); // the windows do hold something
@@ -318,26 +335,26 @@ void tst_RruleExpander::keepsWallClock_data()
     QTest::addColumn<QStringList>("expected");
     QTest::newRow("nine o'clock over the spring change")
         << inZone("Europe/Berlin", QDate(2026, 3, 28), QTime(9, 0)) << QStringLiteral("FREQ=DAILY;COUNT=3")
-        << QStringList { QStringLiteral("2026-03-28T08:00:00Z"), QStringLiteral("2026-03-29T07:00:00Z"),
-                         QStringLiteral("2026-03-30T07:00:00Z") };
+        << QStringList{ QStringLiteral("2026-03-28T08:00:00Z"), QStringLiteral("2026-03-29T07:00:00Z"),
+                        QStringLiteral("2026-03-30T07:00:00Z") };
     QTest::newRow("a step into the gap does not stick")
         << inZone("Europe/Berlin", QDate(2026, 3, 28), QTime(2, 30)) << QStringLiteral("FREQ=DAILY;COUNT=3")
-        << QStringList { QStringLiteral("2026-03-28T01:30:00Z"), QStringLiteral("2026-03-29T01:30:00Z"),
-                         QStringLiteral("2026-03-30T00:30:00Z") };
+        << QStringList{ QStringLiteral("2026-03-28T01:30:00Z"), QStringLiteral("2026-03-29T01:30:00Z"),
+                        QStringLiteral("2026-03-30T00:30:00Z") };
     QTest::newRow("an hour that comes twice")
         << inZone("Europe/Berlin", QDate(2026, 10, 24), QTime(2, 30)) << QStringLiteral("FREQ=DAILY;COUNT=3")
-        << QStringList { QStringLiteral("2026-10-24T00:30:00Z"), QStringLiteral("2026-10-25T00:30:00Z"),
-                         QStringLiteral("2026-10-26T01:30:00Z") };
+        << QStringList{ QStringLiteral("2026-10-24T00:30:00Z"), QStringLiteral("2026-10-25T00:30:00Z"),
+                        QStringLiteral("2026-10-26T01:30:00Z") };
     QTest::newRow("begun in the second of two hours")
         << utc(QStringLiteral("2026-10-25T01:30:00Z")).toTimeZone(QTimeZone("Europe/Berlin"))
         << QStringLiteral("FREQ=WEEKLY;COUNT=2")
-        << QStringList { QStringLiteral("2026-10-25T01:30:00Z"), QStringLiteral("2026-11-01T01:30:00Z") };
+        << QStringList{ QStringLiteral("2026-10-25T01:30:00Z"), QStringLiteral("2026-11-01T01:30:00Z") };
     QTest::newRow("weekdays are those of the zone, not of UTC")
         << inZone("Asia/Tokyo", QDate(2026, 3, 2), QTime(7, 0)) << QStringLiteral("FREQ=DAILY;COUNT=2;BYDAY=MO")
-        << QStringList { QStringLiteral("2026-03-01T22:00:00Z"), QStringLiteral("2026-03-08T22:00:00Z") };
+        << QStringList{ QStringLiteral("2026-03-01T22:00:00Z"), QStringLiteral("2026-03-08T22:00:00Z") };
     QTest::newRow("until counts instants")
         << inZone("Asia/Tokyo", QDate(2026, 3, 14), QTime(7, 0)) << QStringLiteral("FREQ=DAILY;UNTIL=20260315")
-        << QStringList { QStringLiteral("2026-03-13T22:00:00Z"), QStringLiteral("2026-03-14T22:00:00Z") };
+        << QStringList{ QStringLiteral("2026-03-13T22:00:00Z"), QStringLiteral("2026-03-14T22:00:00Z") };
 }
 
 void tst_RruleExpander::keepsWallClock()
@@ -356,7 +373,8 @@ void tst_RruleExpander::leavesOutExceptions_data()
     QTest::newRow("another instant") << QStringLiteral(R"(["20260303T090000Z"])") << 3;
     QTest::newRow("two of them, unsorted") << QStringLiteral(R"(["20260304T080000Z","20260302T080000Z"])") << 1;
     QTest::newRow("a date is midnight in UTC") << QStringLiteral(R"(["20260303"])") << 3;
-    QTest::newRow("other elements are passed over") << QStringLiteral(R"([20260303,null,"","x","20260303T080000Z"])") << 2;
+    QTest::newRow("other elements are passed over")
+        << QStringLiteral(R"([20260303,null,"","x","20260303T080000Z"])") << 2;
     QTest::newRow("no array") << QStringLiteral(R"({"a":"20260303T080000Z"})") << 3;
     QTest::newRow("no JSON") << QStringLiteral("20260303T080000Z") << 3;
     const QDateTime local = utc(QStringLiteral("2026-03-03T08:00:00Z")).toLocalTime();
@@ -379,7 +397,8 @@ void tst_RruleExpander::window_data()
     QTest::addColumn<QString>("to");
     QTest::addColumn<QString>("expected"); // days of March
     const auto row = [](const char *name, int minutes, const char *from, const char *to, const char *expected) {
-        QTest::newRow(name) << minutes << QString::fromLatin1(from) << QString::fromLatin1(to) << QString::fromLatin1(expected);
+        QTest::newRow(name) << minutes << QString::fromLatin1(from) << QString::fromLatin1(to)
+                            << QString::fromLatin1(expected);
     };
     row("ends as the window begins", 60, "2026-03-05T10:00:00Z", "2026-03-06T00:00:00Z", "");
     row("ends within", 61, "2026-03-05T10:00:00Z", "2026-03-06T00:00:00Z", "5");
@@ -427,12 +446,13 @@ void tst_RruleExpander::singleEvents()
     Event event = series(start, QString());
     event.endTime = end.isValid() ? std::optional(end) : std::nullopt;
     const QDateTime from = utc(QStringLiteral("2026-03-02T00:00:00Z"));
-    QCOMPARE(RruleExpander::expand(event, from, from.addDays(1)), found ? QList<Event> { event } : QList<Event>());
+    QCOMPARE(RruleExpander::expand(event, from, from.addDays(1)), found ? QList<Event>{ event } : QList<Event>());
 }
 
 void tst_RruleExpander::occurrenceIsCopyOfMaster()
 {
-    Event master = series(inZone("America/New_York", QDate(2026, 3, 2), QTime(20, 0)), QStringLiteral("FREQ=DAILY;COUNT=2"));
+    Event master =
+        series(inZone("America/New_York", QDate(2026, 3, 2), QTime(20, 0)), QStringLiteral("FREQ=DAILY;COUNT=2"));
     master.endTime.reset();
     master.isAllDay = true;
     master.color = QStringLiteral("#112233");
@@ -452,7 +472,8 @@ void tst_RruleExpander::stopsAtTenThousand()
     const QDateTime start(QDate(1990, 1, 1), QTime(9, 0), Qt::UTC);
     const QDate last = QDate(1990, 1, 1).addDays(9'999);
     const Event event = series(start, QStringLiteral("FREQ=DAILY"));
-    const QList<Event> found = RruleExpander::expand(event, last.addDays(-1).startOfDay(Qt::UTC), last.addYears(30).startOfDay(Qt::UTC));
+    const QList<Event> found =
+        RruleExpander::expand(event, last.addDays(-1).startOfDay(Qt::UTC), last.addYears(30).startOfDay(Qt::UTC));
     QCOMPARE(found.size(), 2);
     QCOMPARE(found.last().startTime.date(), last);
     QCOMPARE(RruleExpander::expand(event, start, start.addYears(100)).size(), 10'000);
@@ -476,27 +497,34 @@ void tst_RruleExpander::absurdRules()
 {
     QFETCH(QString, rule);
     const QTimeZone zone("America/New_York");
-    const qint64 end = std::numeric_limits<qint64>::max();
-    const QList<QDateTime> moments { QDateTime::fromMSecsSinceEpoch(-end, Qt::UTC),
-                                     QDateTime(QDate(-4000, 2, 28), QTime(9, 0), zone),
-                                     QDateTime(QDate(2024, 1, 31), QTime(9, 0), zone),
-                                     QDateTime(QDate(2024, 2, 29), QTime(9, 0)),
-                                     QDateTime(QDate(99'999, 12, 31), QTime(9, 0), zone),
-                                     QDateTime(QDate(2'000'000, 1, 1), QTime(9, 0), zone),
-                                     QDateTime::fromMSecsSinceEpoch(end, Qt::UTC), QDateTime() };
+    constexpr qint64 farthest = std::numeric_limits<qint64>::max();
+    const QDateTime dawn = QDateTime::fromMSecsSinceEpoch(-farthest, Qt::UTC);
+    const QDateTime dusk = QDateTime::fromMSecsSinceEpoch(farthest, Qt::UTC);
     QElapsedTimer timer;
     timer.start();
-    for (const QDateTime &start : moments) {
-        for (const QDateTime &windowEnd : moments) {
-            Event event = series(start, rule);
-            event.endTime = windowEnd;
-            const qsizetype found = RruleExpander::expand(event, moments.first(), windowEnd).size();
-            QVERIFY(found <= RruleExpander::MaxInstances);
-            if (!start.isValid())
-                QCOMPARE(found, 0);
-            QVERIFY(RruleExpander::expand(event, windowEnd, start).size() <= RruleExpander::MaxInstances);
+    const auto check = [&](const QDateTime &start, const std::optional<QDateTime> &end, const QDateTime &from,
+                           const QDateTime &to) {
+        Event event = series(start, rule);
+        event.endTime = end;
+        const qsizetype found = RruleExpander::expand(event, from, to).size();
+        QVERIFY(found <= RruleExpander::MaxInstances);
+        if (!start.isValid())
+            QCOMPARE(found, 0);
+    };
+    for (const QDateTime &start :
+         { dawn, QDateTime(QDate(-4000, 2, 28), QTime(9, 0), zone), QDateTime(QDate(2024, 1, 31), QTime(9, 0), zone),
+           QDateTime(QDate(2024, 2, 29), QTime(9, 0)), QDateTime(QDate(99'999, 12, 31), QTime(9, 0), zone),
+           QDateTime(QDate(2'000'000, 1, 1), QTime(9, 0), zone), dusk, QDateTime() }) {
+        for (const std::optional<QDateTime> &end :
+             { std::optional<QDateTime>(), std::optional(dawn), std::optional(QDateTime()), std::optional(start) }) {
+            check(start, end, dawn, start.addDays(40));
+            check(start, end, start.addDays(9'000), start.addDays(9'040));
+            check(start, end, dusk, dawn);
         }
+        check(start, dusk, start.addDays(90), start.addDays(91));
     }
+    check(QDateTime(QDate(-4000, 2, 28), QTime(9, 0), Qt::UTC), std::nullopt, dawn, dusk);
+    check(QDateTime(QDate(2024, 2, 29), QTime(9, 0), QTimeZone("Asia/Kolkata")), std::nullopt, dawn, dusk);
     QVERIFY2(timer.elapsed() < 20'000, "takes too long"); // far above what it takes under sanitizers
 }
 
@@ -515,7 +543,8 @@ void tst_RruleExpander::recurrenceId()
 {
     QCOMPARE(RruleExpander::formatRecurrenceId(inZone("America/New_York", QDate(2026, 7, 4), QTime(21, 5, 9))),
              QStringLiteral("20260705T010509Z"));
-    QCOMPARE(RruleExpander::formatRecurrenceId(QDateTime(QDate(1, 1, 1), QTime(0, 0), Qt::UTC)), QStringLiteral("00010101T000000Z"));
+    QCOMPARE(RruleExpander::formatRecurrenceId(QDateTime(QDate(1, 1, 1), QTime(0, 0), Qt::UTC)),
+             QStringLiteral("00010101T000000Z"));
     QCOMPARE(RruleExpander::formatRecurrenceId(QDateTime(QDate(1969, 12, 31), QTime(23, 59, 59, 999), Qt::UTC)),
              QStringLiteral("19691231T235959Z"));
     QCOMPARE(RruleExpander::formatRecurrenceId(QDateTime()), QString());

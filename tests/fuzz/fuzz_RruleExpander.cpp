@@ -10,8 +10,8 @@
 // The input is two instants and a zone for the start and the window, and then the text of the rule.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const std::array zones { QTimeZone("Europe/Berlin"), QTimeZone("America/New_York"), QTimeZone("Pacific/Apia"),
-                                    QTimeZone("Australia/Lord_Howe") };
+    static const std::array zones{ QTimeZone("Europe/Berlin"), QTimeZone("America/New_York"), QTimeZone("Pacific/Apia"),
+                                   QTimeZone("Australia/Lord_Howe") };
     qint64 startMs = 0;
     qint64 fromMs = 0;
     constexpr size_t headSize = sizeof(startMs) + sizeof(fromMs) + 2;
@@ -20,12 +20,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     std::memcpy(&startMs, data, sizeof(startMs));
     std::memcpy(&fromMs, data + sizeof(startMs), sizeof(fromMs));
     const uint8_t kind = data[headSize - 2];
-    const int windowDays = data[headSize - 1] * (kind & 128 ? 1'000 : 1);
+    const int windowDays = data[headSize - 1] * (kind & 128 ? 4 : 1);
     if (kind & 64) { // else the instants are mostly millions of years away
         startMs %= 4'000'000'000'000;
         fromMs %= 4'000'000'000'000;
     }
-    const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data + headSize), static_cast<qsizetype>(size - headSize));
+    const QString text =
+        QString::fromUtf8(reinterpret_cast<const char *>(data + headSize), static_cast<qsizetype>(size - headSize));
 
     Event master;
     master.uid = QStringLiteral("uid");

@@ -82,7 +82,8 @@ private slots:
     void opensANewerDatabaseAsItStands();
     void refusesAFileThatIsNoDatabase();
     void refusesAPathThatCannotBeOpened();
-    void refusesAReadOnlyFolder();
+    void refusesWhatItCannotWrite_data();
+    void refusesWhatItCannotWrite();
     void closesWithStatementsPrepared();
 
 private:
@@ -350,32 +351,41 @@ void tst_Database::refusesAPathThatCannotBeOpened()
     QVERIFY(!database.isOpen());
 }
 
-void tst_Database::refusesAReadOnlyFolder()
+void tst_Database::refusesWhatItCannotWrite_data()
 {
+    QTest::addColumn<bool>("isFolderWritable");
+    QTest::newRow("read-only folder") << false;
+    QTest::newRow("read-only file") << true;
+}
+
+void tst_Database::refusesWhatItCannotWrite()
+{
+    QFETCH(bool, isFolderWritable);
     {
         Database database;
         QVERIFY(database.open(m_path));
         QVERIFY(database.runMigrations());
     }
+    const auto readable = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+    const auto writable = QFile::WriteOwner | QFile::WriteOther;
     QVERIFY(QFile::setPermissions(m_path, QFile::ReadOwner | QFile::ReadOther));
-    QVERIFY(
-        QFile::setPermissions(m_dir->path(), QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther));
+    QVERIFY(QFile::setPermissions(m_dir->path(), isFolderWritable ? readable | writable : readable));
     // The superuser may write anywhere, so the test steps down.
     constexpr uid_t nobody = 65534;
     const bool isRoot = geteuid() == 0;
     if (isRoot)
         QCOMPARE(seteuid(nobody), 0);
 
-    bool usable = false;
+    bool isUsable = false;
     {
         Database database;
-        QTest::ignoreMessage(QtCriticalMsg, QRegularExpression(lit("^Failed to .+")));
-        usable = database.open(m_path) && database.runMigrations();
+        QTest::ignoreMessage(QtCriticalMsg, QRegularExpression(lit("^(Failed to|Database cannot be written:) .+")));
+        isUsable = database.open(m_path) && database.runMigrations();
     }
     if (isRoot)
         QCOMPARE(seteuid(0), 0);
-    QFile::setPermissions(m_dir->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    QVERIFY(!usable);
+    QFile::setPermissions(m_dir->path(), readable | writable);
+    QVERIFY(!isUsable);
 }
 
 void tst_Database::closesWithStatementsPrepared()

@@ -1,5 +1,6 @@
 #include "support/FakePortal.h"
 
+#include <QDBusMessage>
 #include <QFile>
 #include <QUuid>
 
@@ -7,6 +8,7 @@ namespace {
 
 const QString Service = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString Path = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString Interface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString Appearance = QStringLiteral("org.freedesktop.appearance");
 const QString ColorScheme = QStringLiteral("color-scheme");
 
@@ -52,7 +54,7 @@ FakePortal::FakePortal(const PrivateBus &bus, QObject *parent)
     , m_connection(QDBusConnection::connectToBus(bus.address(), QUuid::createUuid().toString()))
 {
     const bool isServing = m_connection.registerService(Service)
-        && m_connection.registerObject(Path, this, QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
+        && m_connection.registerObject(Path, this, QDBusConnection::ExportAllSlots);
     if (!isServing)
         qFatal("cannot serve the portal's settings");
 }
@@ -66,7 +68,9 @@ FakePortal::~FakePortal()
 
 void FakePortal::announce(const QString &group, const QString &key, const QVariant &value)
 {
-    emit SettingChanged(group, key, QDBusVariant(value));
+    QDBusMessage changed = QDBusMessage::createSignal(Path, Interface, QStringLiteral("SettingChanged"));
+    changed << group << key << QVariant::fromValue(QDBusVariant(value));
+    m_connection.send(changed);
 }
 
 void FakePortal::announceColorScheme(uint scheme)

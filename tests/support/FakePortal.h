@@ -39,9 +39,6 @@ public:
 public slots:
     QDBusVariant Read(const QString &group, const QString &key); // NOLINT: the interface's own name
 
-signals:
-    void SettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
-
 private:
     QDBusConnection m_connection;
     QVariant m_colorScheme = 0U;

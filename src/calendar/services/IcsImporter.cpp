@@ -43,7 +43,7 @@ public:
 
     [[nodiscard]] bool atEnd() const { return !m_file && !m_reader && m_paths.isEmpty(); }
     // Each byte is read and then parsed.
-    [[nodiscard]] int percent() const { return percentOf(m_doneBytes, 2 * m_totalBytes); }
+    [[nodiscard]] int percent() const { return atEnd() ? 100 : percentOf(m_doneBytes, 2 * m_totalBytes); }
 
     void step(QList<File> &files)
     {

@@ -8,9 +8,9 @@
 
 namespace {
 
-constexpr QLatin1StringView SettingKey { "ui/timeFormat" };
-constexpr QLatin1StringView Hours12 { "12" };
-constexpr QLatin1StringView Hours24 { "24" };
+constexpr QLatin1StringView SettingKey{ "ui/timeFormat" };
+constexpr QLatin1StringView Hours12{ "12" };
+constexpr QLatin1StringView Hours24{ "24" };
 
 PreferencesRepository *preferencesOf(AppState *state)
 {

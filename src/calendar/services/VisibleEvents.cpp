@@ -115,8 +115,8 @@ QSharedPointer<const VisibleSpan> VisibleEvents::inRange(QDate first, int days)
     const QString key = spanKey(first, days);
     if (const QSharedPointer<const VisibleSpan> *kept = m_spans.object(key))
         return *kept;
-    FilterEngine::FilterResult filtered
-        = FilterEngine::apply(unfilteredInRange(first, days), m_state->filterRules()->getEnabled());
+    FilterEngine::FilterResult filtered =
+        FilterEngine::apply(unfilteredInRange(first, days), m_state->filterRules()->getEnabled());
     auto span = QSharedPointer<VisibleSpan>::create();
     span->events = std::move(filtered.events);
     span->dimmedIds = std::move(filtered.dimmedIds);

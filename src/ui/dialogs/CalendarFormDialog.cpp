@@ -25,6 +25,7 @@ CalendarFormDialog::CalendarFormDialog(AppState *state, QWidget *parent)
     for (const Calendar &calendar : calendars)
         used.append(calendar.color);
     m_color->setColor(ColorButton::unusedColor(used));
+    body()->addStretch();
     addSaveButtons(tr("Create"));
 }
 
@@ -43,6 +44,7 @@ CalendarFormDialog::CalendarFormDialog(AppState *state, const Calendar &calendar
         m_description->setReadOnly(true);
         body()->addWidget(makeHint(tr("This calendar is read-only. Its name and color change on this device only.")));
     }
+    body()->addStretch();
     addSaveButtons(tr("Save"));
 }
 

@@ -17,10 +17,12 @@
 namespace {
 
 constexpr int Columns = 6;
+constexpr int TextGap = 4;
 
-QIcon swatchIcon(const QString &color, int size, qreal ratio)
+/// A disc, with \p gap transparent pixels to its right.
+QIcon swatchIcon(const QString &color, int size, qreal ratio, int gap = 0)
 {
-    QPixmap pixmap(QSize(size, size) * ratio);
+    QPixmap pixmap(QSize(size + gap, size) * ratio);
     pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
@@ -118,7 +120,7 @@ ColorButton::ColorButton(QWidget *parent)
     , m_color(DefaultColor)
 {
     setAutoDefault(false);
-    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QPushButton::clicked, this, &ColorButton::showPalette);
     refresh();
 }
@@ -201,8 +203,8 @@ void ColorButton::refresh()
                                     [this](const Swatch &swatch) { return isSame(swatch.color, m_color); });
     const QString name = known == swatches.end() ? m_color : known->name;
     const int size = qMax(14, fontMetrics().ascent());
-    setIconSize(QSize(size, size));
-    setIcon(swatchIcon(m_color, size, devicePixelRatioF()));
+    setIconSize(QSize(size + TextGap, size));
+    setIcon(swatchIcon(m_color, size, devicePixelRatioF(), TextGap));
     setText(name);
     setAccessibleName(tr("Color: %1").arg(name));
 }

@@ -26,6 +26,7 @@
 namespace {
 
 constexpr int MaxPriority = 9999;
+constexpr int MinWidth = 560; // the days of the week stand in one row
 
 void capitalize(QString &text)
 {
@@ -62,6 +63,7 @@ FilterFormDialog::FilterFormDialog(AppState *state, const FilterRule &rule, QWid
 
 void FilterFormDialog::build()
 {
+    setMinimumWidth(MinWidth);
     m_form = addForm();
     m_name = new QLineEdit(this);
     m_name->setObjectName(QStringLiteral("name"));
@@ -114,6 +116,7 @@ void FilterFormDialog::buildEffect()
     m_suppress = new QCheckBox(tr("&Silence their reminders"), this);
     m_suppress->setToolTip(tr("Reminders of hidden events are always silent."));
     m_priority = new QSpinBox(this);
+    m_priority->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_priority->setRange(0, MaxPriority);
     m_priority->setToolTip(tr("Of several filters that match an event, the one with the lowest number decides."));
     m_enabled = new QCheckBox(tr("Filter is &on"), this);

@@ -91,6 +91,7 @@ void FilterPatternEditor::addRow(int field, const QString &text)
     auto *remove = new QToolButton;
     remove->setText(QStringLiteral("×"));
     remove->setAutoRaise(true);
+    remove->setStyleSheet(QStringLiteral("QToolButton { padding: 5px 8px; }"));
     remove->setToolTip(tr("Remove this text"));
     remove->setAccessibleName(remove->toolTip());
     remove->setFocusPolicy(Qt::StrongFocus);
@@ -102,17 +103,23 @@ void FilterPatternEditor::addRow(int field, const QString &text)
     layout->addWidget(row.text, 1);
     layout->addWidget(remove);
     m_rowLayout->addWidget(row.widget);
-    QWidget *const before = m_rows.isEmpty() ? nullptr : m_rows.constLast().widget->findChild<QToolButton *>();
     m_rows.append(row);
-    if (before)
-        setTabOrder(before, row.field);
-    setTabOrder(row.field, row.text);
-    setTabOrder(row.text, remove);
-    setTabOrder(remove, m_add);
+    putBeforeAddButton({ row.field, row.text, remove });
 
     connect(row.field, &QComboBox::currentIndexChanged, this, &FilterPatternEditor::edited);
     connect(row.text, &QLineEdit::textChanged, this, &FilterPatternEditor::edited);
     connect(remove, &QToolButton::clicked, this, [this, widget = row.widget] { removeRow(widget); });
+}
+
+void FilterPatternEditor::putBeforeAddButton(const QList<QWidget *> &fields)
+{
+    QWidget *before = m_add->previousInFocusChain();
+    while (before != m_add && before->focusPolicy() == Qt::NoFocus)
+        before = before->previousInFocusChain();
+    for (QWidget *next : fields + QList<QWidget *>{ m_add, m_caseSensitive }) {
+        setTabOrder(before, next);
+        before = next;
+    }
 }
 
 void FilterPatternEditor::removeRow(QWidget *widget)

@@ -33,6 +33,7 @@ private:
     };
 
     void addRow(int field, const QString &text);
+    void putBeforeAddButton(const QList<QWidget *> &fields); // in the order of Tab
     void removeRow(QWidget *widget);
 
     QVBoxLayout *m_rowLayout;

@@ -29,7 +29,7 @@ FilterTimeEditor::FilterTimeEditor(AppState *state, QWidget *parent)
     grid->setVerticalSpacing(8);
     grid->setColumnStretch(1, 1);
     m_exact = addTimeField(grid, tr("Starts e&xactly at"), QTime(9, 0), format);
-    m_from = addTimeField(grid, tr("Starts at or a&fter"), QTime(9, 0), format);
+    m_from = addTimeField(grid, tr("Starts at or af&ter"), QTime(9, 0), format);
     m_until = addTimeField(grid, tr("Starts at or &before"), QTime(17, 0), format);
 
     auto *layout = new QVBoxLayout(this);
@@ -73,6 +73,9 @@ QWidget *FilterTimeEditor::makeDays(Qt::DayOfWeek firstDay)
         m_days.append(button);
     }
     auto *box = new QWidget(this);
+    // Narrower than tool buttons are, and with a border, as nothing else says that they can be pressed.
+    box->setStyleSheet(QStringLiteral("QToolButton { padding: 5px 4px; border: 1px solid palette(mid); }"
+                                      "QToolButton:focus, QToolButton:checked { border-color: palette(highlight); }"));
     auto *layout = new QHBoxLayout(box);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(4);

@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 namespace {
@@ -19,6 +20,7 @@ constexpr int Margin = 16;
 constexpr int Spacing = 12;
 constexpr int RowSpacing = 8;
 constexpr int MinWidth = 480;
+constexpr double ScreenShare = 0.85; // of the height; what does not fit scrolls
 
 /// Takes the size that its content wants as long as the screen has it, and scrolls only beyond that.
 class BodyArea : public QScrollArea {
@@ -33,7 +35,7 @@ public:
         viewport()->setAutoFillBackground(false);
     }
 
-    [[nodiscard]] QSize sizeHint() const override { return bounded(widget()->sizeHint(), 0.75); }
+    [[nodiscard]] QSize sizeHint() const override { return bounded(widget()->sizeHint(), ScreenShare); }
     [[nodiscard]] QSize minimumSizeHint() const override { return bounded(widget()->minimumSizeHint(), 0.6); }
 
 protected:
@@ -53,7 +55,7 @@ protected:
 private:
     [[nodiscard]] QSize bounded(QSize size, double screenShare) const
     {
-        const int width = qMax(size.width(), viewport()->width());
+        const int width = qMax(qMax(size.width(), viewport()->width()), minimumWidth());
         if (widget()->layout()->hasHeightForWidth())
             size.setHeight(qMax(widget()->layout()->minimumHeightForWidth(width), size.height()));
         const int highest = int(screen()->availableGeometry().height() * screenShare);
@@ -78,6 +80,7 @@ FormDialog::FormDialog(const QString &title, QWidget *parent)
     m_body->setContentsMargins(0, 0, 0, 0);
     m_body->setSpacing(Spacing);
     area->setWidget(content);
+    area->setMinimumWidth(MinWidth - 2 * Margin);
     content->setAutoFillBackground(false);
 
     m_problem = new InlineMessage(InlineMessage::Kind::Problem, this);
@@ -114,14 +117,27 @@ QString FormDialog::problemText() const
 QFormLayout *FormDialog::addForm()
 {
     auto *form = new QFormLayout;
+    styleForm(form);
+    m_body->addLayout(form);
+    return form;
+}
+
+void FormDialog::styleForm(QFormLayout *form)
+{
     form->setContentsMargins(0, 0, 0, 0);
     form->setHorizontalSpacing(Spacing);
     form->setVerticalSpacing(RowSpacing);
     form->setRowWrapPolicy(QFormLayout::WrapLongRows);
-    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_body->addLayout(form);
-    return form;
+}
+
+void FormDialog::showEvent(QShowEvent *event)
+{
+    // Qt stops at two thirds of the screen for a dialog that nobody has resized yet.
+    if (!event->spontaneous() && !testAttribute(Qt::WA_Resized))
+        resize(size().expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
+    QDialog::showEvent(event);
 }
 
 QLabel *FormDialog::addSection(const QString &title)
@@ -148,9 +164,9 @@ QLabel *FormDialog::makeHint(const QString &text)
 
 QPushButton *FormDialog::addSaveButtons(const QString &acceptText)
 {
-    m_buttons->addButton(QDialogButtonBox::Cancel);
     QPushButton *button = m_buttons->addButton(acceptText, QDialogButtonBox::AcceptRole);
     button->setDefault(true);
+    m_buttons->addButton(QDialogButtonBox::Cancel);
     return button;
 }
 
@@ -163,7 +179,7 @@ QPushButton *FormDialog::addSideButton(const QString &text)
 
 void FormDialog::addCloseButton()
 {
-    m_buttons->addButton(QDialogButtonBox::Close);
+    m_buttons->addButton(QDialogButtonBox::Close)->setAutoDefault(false);
 }
 
 void FormDialog::showProblem(const QString &text, QWidget *at)

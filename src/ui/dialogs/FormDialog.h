@@ -21,6 +21,9 @@ public:
     void accept() override;
     [[nodiscard]] QString problemText() const; ///< of the error on show; empty if there is none
 
+    /// The layout of every form: labels left, fields as wide as the dialog allows.
+    static void styleForm(QFormLayout *form);
+
 protected:
     FormDialog(const QString &title, QWidget *parent);
 
@@ -37,6 +40,7 @@ protected:
 
     /// Stores the form. On refusal it has called showProblem() and returns false.
     virtual bool save() { return true; }
+    void showEvent(QShowEvent *event) override;
     void showProblem(const QString &text, QWidget *at); ///< and puts the focus on \p at
     void clearProblem();
 

@@ -17,6 +17,7 @@
 #include <QLocale>
 #include <QSettings>
 #include <QSpinBox>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -41,13 +42,17 @@ constexpr QLatin1StringView LanguageKey{ "ui/language" };
 QFormLayout *makePageForm(QWidget *page)
 {
     auto *form = new QFormLayout(page);
+    FormDialog::styleForm(form);
     form->setContentsMargins(0, 16, 0, 0);
-    form->setHorizontalSpacing(12);
-    form->setVerticalSpacing(8);
-    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
-    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     return form;
+}
+
+/// For a field that stands in a row with others.
+QLabel *labelFor(const QString &text, QWidget *field)
+{
+    auto *label = new QLabel(text);
+    label->setBuddy(field);
+    return label;
 }
 
 QCheckBox *makeSwitch(AppState *state, const QString &text, const QString &key, bool defaultValue)
@@ -67,6 +72,7 @@ PreferencesDialog::PreferencesDialog(AppState *state, QWidget *parent)
 {
     auto *tabs = new QTabWidget(this);
     tabs->setDocumentMode(true);
+    tabs->tabBar()->setDrawBase(false);
     tabs->addTab(buildAppearancePage(), tr("&Appearance"));
     tabs->addTab(buildCalendarPage(), tr("&Calendar"));
     tabs->addTab(buildGeneralPage(), tr("&General"));
@@ -91,7 +97,7 @@ QWidget *PreferencesDialog::buildAppearancePage()
     mode->addItem(tr("Light"), QStringLiteral("light"));
     mode->addItem(tr("Dark"), QStringLiteral("dark"));
     m_accent = new ColorButton;
-    m_accent->setColor(Theme::accent().name());
+    m_accent->setColor(Theme::accentOverride()); // the standard one has the same name in both modes
     auto *reset = new QPushButton(tr("&Reset"));
     reset->setAutoDefault(false);
     reset->setEnabled(!Theme::accentOverride().isEmpty());
@@ -101,6 +107,7 @@ QWidget *PreferencesDialog::buildAppearancePage()
     accentRow->addWidget(reset);
     accentRow->addStretch();
     m_fontScale = new QSpinBox;
+    m_fontScale->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_fontScale->setRange(MinFontPercent, MaxFontPercent);
     m_fontScale->setSingleStep(FontStepPercent);
     m_fontScale->setSuffix(QStringLiteral(" %"));
@@ -111,7 +118,7 @@ QWidget *PreferencesDialog::buildAppearancePage()
     m_fontScaleTimer->setInterval(FontScaleDelayMs);
 
     form->addRow(tr("&Theme"), mode);
-    form->addRow(tr("Accent c&olor"), accentRow);
+    form->addRow(labelFor(tr("Accent c&olor"), m_accent), accentRow);
     form->addRow(tr("&Font size"), m_fontScale);
     page->setEnabled(theme != nullptr);
     if (!theme)
@@ -122,7 +129,7 @@ QWidget *PreferencesDialog::buildAppearancePage()
     connect(m_accent, &ColorButton::colorChanged, theme, &ThemeManager::setAccentOverride);
     connect(reset, &QPushButton::clicked, theme, [theme] { theme->setAccentOverride({}); });
     const auto showAccent = [this, reset] {
-        m_accent->setColor(Theme::accent().name());
+        m_accent->setColor(Theme::accentOverride());
         reset->setEnabled(!Theme::accentOverride().isEmpty());
     };
     connect(theme, &ThemeManager::accentChanged, this, showAccent);
@@ -169,9 +176,7 @@ QWidget *PreferencesDialog::buildCalendarPage()
     fillDefaultCalendar(defaultCalendar);
 
     form->addRow(tr("&First day of the week"), weekStart);
-    auto *workdayLabel = new QLabel(tr("&Workday"));
-    workdayLabel->setBuddy(m_workdayStart);
-    form->addRow(workdayLabel, workday);
+    form->addRow(labelFor(tr("&Workday"), m_workdayStart), workday);
     form->addRow(tr("&Time format"), timeFormat);
     form->addRow(tr("Calendar for &new events"), defaultCalendar);
     return page;
@@ -244,7 +249,7 @@ QWidget *PreferencesDialog::buildGeneralPage()
     form->addRow(tr("&Language"), language);
     form->addRow(QString(), makeHint(tr("A new language takes effect at the next launch.")));
     form->addRow(QString(), makeSwitch(m_state, tr("Start &minimized"), QStringLiteral("ui/startMinimized"), false));
-    form->addRow(QString(), makeSwitch(m_state, tr("&Close to tray"), QStringLiteral("ui/closeToTray"), true));
+    form->addRow(QString(), makeSwitch(m_state, tr("Close to tra&y"), QStringLiteral("ui/closeToTray"), true));
     return page;
 }
 

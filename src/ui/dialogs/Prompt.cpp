@@ -1,19 +1,40 @@
 #include "ui/dialogs/Prompt.h"
 
+#include "ui/theme/Theme.h"
+
 #include <QFileDialog>
+#include <QFontDatabase>
 #include <QMessageBox>
 #include <QMetaObject>
 #include <QPushButton>
 
 namespace {
 
+constexpr int IconSize = 32;
+constexpr char16_t WarningGlyph = 0xE002;
+constexpr char16_t QuestionGlyph = 0xE8FD;
+constexpr char16_t InformationGlyph = 0xE88E;
+
 Prompt::ScopedAnswers *s_answers = nullptr;
+
+void setIcon(QMessageBox *box, QMessageBox::Icon icon)
+{
+    if (!QFontDatabase::hasFamily(Theme::iconFamily())) {
+        box->setIcon(icon);
+        return;
+    }
+    const char16_t glyph = icon == QMessageBox::Warning ? WarningGlyph
+        : icon == QMessageBox::Question                 ? QuestionGlyph
+                                                        : InformationGlyph;
+    const QColor color = icon == QMessageBox::Warning ? Theme::warning() : Theme::accent();
+    box->setIconPixmap(Theme::iconFromGlyph(glyph, IconSize, color).pixmap(IconSize));
+}
 
 QMessageBox *makeBox(QWidget *parent, QMessageBox::Icon icon, const QString &title, const QString &text)
 {
     auto *box = new QMessageBox(parent);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setIcon(icon);
+    setIcon(box, icon);
     box->setWindowTitle(title);
     box->setTextFormat(Qt::PlainText);
     box->setText(text);

@@ -2,6 +2,7 @@
 
 #include "ui/surfaces/EventColors.h"
 #include "ui/surfaces/EventText.h"
+#include "ui/surfaces/SurfaceFonts.h"
 #include "ui/theme/Theme.h"
 
 #include <QFontMetrics>
@@ -56,14 +57,14 @@ void AllDayStrip::setData(int gutterPx, QDate first, int days, const QList<Event
 
 void AllDayStrip::setGutterPx(int pixels)
 {
-    m_columns.gutterPx = pixels;
-    relayout();
+    if (std::exchange(m_columns.gutterPx, pixels) != pixels)
+        relayout();
 }
 
 void AllDayStrip::setContentWidth(int pixels)
 {
-    m_columns.widthPx = pixels;
-    relayout();
+    if (std::exchange(m_columns.widthPx, pixels) != pixels)
+        relayout();
 }
 
 void AllDayStrip::setHeightLimit(int pixels)
@@ -96,14 +97,12 @@ AllDayMetrics AllDayStrip::metrics() const
 
 QFont AllDayStrip::barFont() const
 {
-    QFont result = resized(font(), -1, 8);
-    result.setBold(true);
-    return result;
+    return SurfaceFonts::bold(SurfaceFonts::resized(font(), -1, 8));
 }
 
 QFont AllDayStrip::smallFont() const
 {
-    return resized(font(), -2, 7);
+    return SurfaceFonts::resized(font(), -2, 7);
 }
 
 int AllDayStrip::neededGutterPx() const

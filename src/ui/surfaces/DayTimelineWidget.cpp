@@ -6,9 +6,7 @@ DayTimelineWidget::DayTimelineWidget(AppState *state, QWidget *parent)
     : TimelineWidget(state,
                      { .widthHintPx = 800,
                        .blockRightPx = 8,
-                       .textLeftPx = 12,
-                       .textRightPx = 8,
-                       .iconRightPx = 4,
+                       .insets = { .textLeftPx = 12, .textRightPx = 8, .iconRightPx = 4 },
                        .nowDotRadiusPx = 5,
                        .hasColumnLines = false },
                      parent)

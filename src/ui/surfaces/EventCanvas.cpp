@@ -9,7 +9,6 @@
 
 #include <QAccessible>
 #include <QContextMenuEvent>
-#include <QFontInfo>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -94,19 +93,13 @@ void EventCanvas::paintShape(QPainter &painter, const EventBlock &block, const B
 
 void EventCanvas::paintFocusMark(QPainter &painter, int gutterPx) const
 {
-    if (hasFocus())
+    if (hasFocus() && blockIndexOf(m_selection) < 0)
         painter.fillRect(QRect(gutterPx - 2, 0, 2, height()), Theme::accent());
 }
 
 QRect EventCanvas::globalRect(const QRect &rect) const
 {
     return { mapToGlobal(rect.topLeft()), rect.size() };
-}
-
-QFont EventCanvas::resized(QFont font, int points, int minPoints)
-{
-    font.setPointSizeF(std::max<qreal>(minPoints, QFontInfo(font).pointSizeF() + points));
-    return font;
 }
 
 void EventCanvas::setEvents(const QList<Event> &events, const QHash<QString, QString> &calendarColors,

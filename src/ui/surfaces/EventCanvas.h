@@ -60,16 +60,13 @@ protected:
     [[nodiscard]] BlockColors colorsOf(const Event &event, int bodyAlpha, int faintBodyAlpha, const QColor &base) const;
     [[nodiscard]] QRect globalRect(const QRect &rect) const;
 
-    /// \p font by \p points larger, but not below \p minPoints.
-    [[nodiscard]] static QFont resized(QFont font, int points, int minPoints);
-
     void setEvents(const QList<Event> &events, const QHash<QString, QString> &calendarColors,
                    const QSet<QString> &dimmedIds);
     void setBlocks(QList<EventBlock> blocks);
 
     /// Body, stripe and, for the selected block, the selection with the mark of the keyboard's focus.
     void paintShape(QPainter &painter, const EventBlock &block, const BlockColors &colors, int stripeWidthPx) const;
-    /// Shows in the gutter that the keyboard is here, also when no event is selected.
+    /// Shows in the gutter that the keyboard is here, while no block with the focus says so.
     void paintFocusMark(QPainter &painter, int gutterPx) const;
 
     /// Computes the blocks anew; called when the font, the size or the palette has changed.

@@ -4,6 +4,20 @@
 
 #include <algorithm>
 
+namespace {
+
+/// A white event on white, or a black one on black, still gets a stripe that can be seen.
+QColor visibleStripe(const QColor &event, const QColor &base, const QColor &text)
+{
+    constexpr double MinStripeContrast = 1.5;
+    QColor stripe = event;
+    for (int alpha = 25; alpha < 255 && Theme::contrastRatio(stripe, base) < MinStripeContrast; alpha += 25)
+        stripe = EventColors::blend(EventColors::withAlpha(text, alpha), event);
+    return stripe;
+}
+
+}
+
 QColor EventColors::withAlpha(QColor color, int alpha)
 {
     color.setAlpha(alpha);
@@ -31,5 +45,5 @@ BlockColors EventColors::blockColors(const QColor &event, int bodyAlpha, int tex
     int alpha = textAlpha;
     while (alpha < 255 && contrast(body, alpha) < MinContrast)
         alpha = std::min(255, alpha + Step);
-    return { body, event, withAlpha(text, alpha) };
+    return { body, visibleStripe(event, base, text), withAlpha(text, alpha) };
 }

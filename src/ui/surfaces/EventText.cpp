@@ -51,7 +51,7 @@ QString allDayWhen(const Event &event)
 
 QStringList details(AppState *state, const Event &event)
 {
-    QStringList lines{ EventText::title(event), EventText::when(state, event) };
+    QStringList lines{ EventText::title(event), EventText::when(event, TimeFormat::eventTimeFormatString(state)) };
     if (event.status == EventStatus::Cancelled)
         lines.append(Tr::tr("Cancelled"));
     if (const QString place = EventText::location(event); !place.isEmpty())
@@ -74,32 +74,38 @@ QString EventText::location(const Event &event)
     return oneLine(event.location);
 }
 
-QString EventText::timeLine(AppState *state, const Event &event)
+QString EventText::startTime(const Event &event, const QString &timePattern)
+{
+    return QLocale().toString(event.startTime.toLocalTime().time(), timePattern);
+}
+
+QString EventText::timeLine(const Event &event, const QString &timePattern)
 {
     const QDateTime start = event.startTime.toLocalTime();
     const std::optional<QDateTime> end = shownEnd(event);
     if (!end)
-        return TimeFormat::formatTime(state, start);
+        return startTime(event, timePattern);
     const bool spansDates = end->date() != start.date();
-    const auto clock = [state, spansDates](const QDateTime &value) {
-        const QString time = TimeFormat::formatTime(state, value);
+    const auto clock = [&timePattern, spansDates](const QDateTime &value) {
+        const QString time = QLocale().toString(value.time(), timePattern);
         return spansDates ? QLocale().toString(value.date(), QStringLiteral("ddd ")) + time : time;
     };
     return range(clock(start), clock(*end));
 }
 
-QString EventText::when(AppState *state, const Event &event)
+QString EventText::when(const Event &event, const QString &timePattern)
 {
     if (event.isAllDay)
         return allDayWhen(event);
     const QDateTime start = event.startTime.toLocalTime();
     const std::optional<QDateTime> end = shownEnd(event);
-    const auto moment = [state](const QDateTime &value) {
-        return dayText(value.date()) + QStringLiteral(", ") + TimeFormat::formatTime(state, value);
+    const auto clock = [&timePattern](const QDateTime &value) { return QLocale().toString(value.time(), timePattern); };
+    const auto moment = [&clock](const QDateTime &value) {
+        return dayText(value.date()) + QStringLiteral(", ") + clock(value);
     };
     if (!end)
         return moment(start);
-    const QString until = end->date() == start.date() ? TimeFormat::formatTime(state, *end) : moment(*end);
+    const QString until = end->date() == start.date() ? clock(*end) : moment(*end);
     return range(moment(start), until);
 }
 
@@ -113,9 +119,8 @@ QString EventText::sentence(AppState *state, const Event &event)
     return details(state, event).join(QStringLiteral(", "));
 }
 
-QString EventText::hourLabel(AppState *state, int hour)
+QString EventText::hourPattern(AppState *state)
 {
     //: the label of an hour line, as a time pattern
-    const QString pattern = TimeFormat::use24Hour(state) ? QStringLiteral("HH:mm") : Tr::tr("h AP");
-    return QLocale().toString(QTime(hour, 0), pattern);
+    return TimeFormat::use24Hour(state) ? QStringLiteral("HH:mm") : Tr::tr("h AP");
 }

@@ -13,14 +13,17 @@ namespace EventText {
 QString title(const Event &event); ///< "(Untitled)" if it has none
 QString location(const Event &event);
 /// "9:00 AM – 10:00 AM"; with weekdays for a timed event that spans dates. Not for all-day events.
-QString timeLine(AppState *state, const Event &event);
+/// \p timePattern is TimeFormat::eventTimeFormatString(), which painters keep: reading it is a query.
+QString timeLine(const Event &event, const QString &timePattern);
+/// The start alone, for where the line is too long.
+QString startTime(const Event &event, const QString &timePattern);
 /// Date and time, or the dates of an all-day event.
-QString when(AppState *state, const Event &event);
+QString when(const Event &event, const QString &timePattern);
 /// Title, when, place and calendar, one a line.
 QString toolTip(AppState *state, const Event &event);
 /// One sentence for assistive technology.
 QString sentence(AppState *state, const Event &event);
-/// The label of an hour line.
-QString hourLabel(AppState *state, int hour);
+/// The pattern of the labels at hour lines.
+QString hourPattern(AppState *state);
 
 } // namespace EventText

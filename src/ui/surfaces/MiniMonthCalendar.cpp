@@ -112,7 +112,9 @@ QToolButton *MiniMonthCalendar::makeStepButton(const QString &name, int months)
 
 QSize MiniMonthCalendar::sizeHint() const
 {
-    return { std::max(PreferredWidthPx, m_minimumWidthPx), m_geometry.heightPx() };
+    constexpr int RoomPx = 8; // in each cell, so that a circle stands clear of its number
+    return { std::max(PreferredWidthPx, m_minimumWidthPx + MiniMonthGeometry::Columns * RoomPx),
+             m_geometry.heightPx() };
 }
 
 QSize MiniMonthCalendar::minimumSizeHint() const
@@ -206,7 +208,7 @@ void MiniMonthCalendar::updateLayout()
     m_geometry.weekdayHeightPx = std::max(least.weekdayHeightPx, weekday.height() + 4);
     m_geometry.rowHeightPx = std::max(least.rowHeightPx, day.height() + 14);
 
-    const int cellWidth = day.horizontalAdvance(QLocale().toString(28)) + 12;
+    const int cellWidth = day.horizontalAdvance(QLocale().toString(28)) + 8;
     m_minimumWidthPx = MiniMonthGeometry::Columns * cellWidth + 2 * MiniMonthGeometry::MarginPx;
 
     const QRect header = m_geometry.headerRect();

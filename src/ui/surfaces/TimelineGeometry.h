@@ -42,6 +42,8 @@ struct TimelineMetrics {
     [[nodiscard]] int yForTime(QTime time) const;
     /// 0 for a boundary before \p date, the height of the day for one after it.
     [[nodiscard]] int yForBoundary(const QDateTime &boundary, QDate date) const;
+
+    bool operator==(const TimelineMetrics &) const = default;
 };
 
 /// One block for each day on which a timed event shows. Blocks that would cover each other stand side by

@@ -1,5 +1,6 @@
 #include "ui/surfaces/TimelineHeader.h"
 
+#include "ui/surfaces/SurfaceFonts.h"
 #include "ui/theme/Theme.h"
 
 #include <QFontMetrics>
@@ -69,16 +70,12 @@ QStringList TimelineHeader::lines(QDate date) const
 
 QFont TimelineHeader::dayFont(QDate date) const
 {
-    QFont result = font();
-    result.setBold(date == m_today);
-    return result;
+    return SurfaceFonts::bold(font(), date == m_today);
 }
 
 QSize TimelineHeader::sizeHint() const
 {
-    QFont boldFont = font();
-    boldFont.setBold(true);
-    return { m_columns.gutterPx, LineCount * QFontMetrics(boldFont).height() + 2 * MarginPx };
+    return { m_columns.gutterPx, LineCount * QFontMetrics(SurfaceFonts::bold(font())).height() + 2 * MarginPx };
 }
 
 QSize TimelineHeader::minimumSizeHint() const

@@ -89,8 +89,8 @@ void TimelineView::connectState()
     connect(m_state->preferences(), &PreferencesRepository::changed, this, [this](const QString &key) {
         if (key != QLatin1StringView("ui/timeFormat"))
             return;
-        updateColumns();
         reloadOrMarkStale();
+        updateColumns();
     });
     if (m_state->theme())
         connect(m_state->theme(), &ThemeManager::accentChanged, this, [this] {
@@ -263,6 +263,7 @@ void TimelineView::showEvent(QShowEvent *event)
     m_nowTimer.start();
     if (m_isStale)
         reload();
+    updateColumns();
     if (m_landPending)
         applyInitialScroll();
 }

@@ -1,12 +1,15 @@
 #include "ui/surfaces/TimelineWidget.h"
 
 #include "app/state/AppState.h"
+#include "calendar/services/TimeFormat.h"
 #include "calendar/services/VisibleEvents.h"
 #include "models/Constants.h"
 #include "ui/surfaces/EventText.h"
+#include "ui/surfaces/SurfaceFonts.h"
 #include "ui/theme/Theme.h"
 
 #include <QFontMetrics>
+#include <QLocale>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QWheelEvent>
@@ -21,41 +24,6 @@ constexpr int FaintBodyAlpha = 28;
 constexpr int StripeWidthPx = 4;
 constexpr int ShadeAlpha = 18;
 constexpr int TodayTintAlpha = 20;
-constexpr int IconAlpha = 170;
-constexpr int IconGapPx = 4;
-constexpr QChar BellGlyph(0xE7F4);
-constexpr QChar UploadGlyph(0xE2C3);
-
-QFont bold(QFont font)
-{
-    font.setBold(true);
-    return font;
-}
-
-QFont iconFont()
-{
-    QFont font(Theme::iconFamily());
-    font.setPixelSize(std::max(13, 13 * Theme::fontScalePercent() / 100));
-    return font;
-}
-
-int iconsWidth(const QString &icons)
-{
-    const QFontMetrics metrics(iconFont());
-    int width = 0;
-    for (const QChar icon : icons)
-        width += metrics.horizontalAdvance(icon) + IconGapPx;
-    return width;
-}
-
-QStaticText elided(const QString &text, const QFont &font, int width)
-{
-    QStaticText result(QFontMetrics(font).elidedText(text, Qt::ElideRight, width));
-    result.setTextFormat(Qt::PlainText);
-    result.setPerformanceHint(QStaticText::AggressiveCaching);
-    result.prepare({}, font);
-    return result;
-}
 
 bool startsEarlier(const Event &a, const Event &b)
 {
@@ -76,6 +44,8 @@ TimelineWidget::TimelineWidget(AppState *state, const Look &look, QWidget *paren
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(tr("Events"));
+    readTimeFormat();
+    measureFonts();
 }
 
 void TimelineWidget::setCompact(bool compact)
@@ -88,7 +58,7 @@ void TimelineWidget::setBaseHourHeight(int pixels)
 {
     m_baseHourHeight = pixels;
     updateGeometry();
-    relayout();
+    relayoutIfNeeded();
 }
 
 void TimelineWidget::setWorkdayHours(int start, int end)
@@ -101,7 +71,7 @@ void TimelineWidget::setWorkdayHours(int start, int end)
 void TimelineWidget::setGutterPx(int pixels)
 {
     m_gutterPx = pixels;
-    relayout();
+    relayoutIfNeeded();
 }
 
 void TimelineWidget::setNow(const QDateTime &now)
@@ -121,9 +91,16 @@ void TimelineWidget::setDays(QDate firstDay, int columnCount)
     relayout();
 }
 
+void TimelineWidget::readTimeFormat()
+{
+    m_timePattern = TimeFormat::eventTimeFormatString(state());
+    m_hourPattern = EventText::hourPattern(state());
+}
+
 void TimelineWidget::setSpan(const VisibleSpan &span, const QSet<QString> &syncableCalendarIds)
 {
     m_syncableCalendarIds = syncableCalendarIds;
+    readTimeFormat();
     QList<Event> timed;
     std::copy_if(span.events.begin(), span.events.end(), std::back_inserter(timed),
                  [](const Event &event) { return !event.isAllDay; });
@@ -142,7 +119,7 @@ TimelineMetrics TimelineWidget::metrics() const
     result.columns = { m_gutterPx, m_columnCount, width() };
     result.hourHeightPx = hourHeight();
     result.blockRightPx = m_look.blockRightPx;
-    result.minBlockHeightPx = QFontMetrics(bold(font())).height() + 2 * paddingPx();
+    result.minBlockHeightPx = m_blockPainter.minBlockHeightPx();
     return result;
 }
 
@@ -153,10 +130,10 @@ int TimelineWidget::yForBoundary(const QDateTime &boundary, QDate date) const
 
 int TimelineWidget::neededGutterPx() const
 {
-    const QFontMetrics label(resized(font(), -1, 1));
+    const QFontMetrics label(SurfaceFonts::resized(font(), -1));
     int widest = 0;
     for (int hour = 1; hour < 24; ++hour)
-        widest = std::max(widest, label.horizontalAdvance(EventText::hourLabel(state(), hour)));
+        widest = std::max(widest, label.horizontalAdvance(hourLabel(hour)));
     return std::max<int>(DayColumns::StandardGutterPx, widest + HourLabelGapPx + 4);
 }
 
@@ -186,8 +163,40 @@ QSize TimelineWidget::sizeHint() const
 
 void TimelineWidget::relayout()
 {
-    setBlocks(layOutBlocks(events(), m_firstDay, metrics()));
-    m_contents = QList<std::optional<Content>>(blocks().size());
+    measureFonts();
+    m_laidOutFor = metrics();
+    setBlocks(layOutBlocks(events(), m_firstDay, m_laidOutFor));
+    m_painted = QList<std::optional<Painted>>(blocks().size());
+}
+
+void TimelineWidget::measureFonts()
+{
+    BlockInsets insets = m_look.insets;
+    insets.paddingPx = m_isCompact ? 1 : 4;
+    m_blockPainter = TimelineBlockPainter(font(), insets, m_timePattern);
+}
+
+void TimelineWidget::relayoutIfNeeded()
+{
+    if (metrics() != m_laidOutFor)
+        relayout();
+}
+
+void TimelineWidget::resizeEvent(QResizeEvent *)
+{
+    relayoutIfNeeded();
+}
+
+void TimelineWidget::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange)
+        readTimeFormat();
+    EventCanvas::changeEvent(event);
+}
+
+QString TimelineWidget::hourLabel(int hour) const
+{
+    return QLocale().toString(QTime(hour, 0), m_hourPattern);
 }
 
 QList<EventKey> TimelineWidget::walkOrder() const
@@ -221,39 +230,15 @@ Qt::CursorShape TimelineWidget::cursorOver(const EventBlock &block) const
     return start == end ? Qt::PointingHandCursor : Qt::ArrowCursor;
 }
 
-TimelineWidget::Content TimelineWidget::makeContent(const EventBlock &block) const
+TimelineWidget::Painted TimelineWidget::makePainted(const EventBlock &block) const
 {
     const Event &event = eventOf(block);
-    const QColor shaded = EventColors::blend(
-        EventColors::withAlpha(palette().color(QPalette::WindowText), ShadeAlpha), palette().color(QPalette::Base));
-    Content content;
-    content.colors = colorsOf(event, BodyAlpha, FaintBodyAlpha, shaded);
-
-    QFont titleFont = bold(font());
-    const QFont smallFont = resized(font(), -1, 1);
-    const int titleHeight = QFontMetrics(titleFont).height();
-    const int smallHeight = QFontMetrics(smallFont).height();
-    titleFont.setStrikeOut(event.status == EventStatus::Cancelled);
-
-    if (event.firstReminderMinutes())
-        content.icons += BellGlyph;
-    if (event.syncStatus == SyncStatus::Pending && m_syncableCalendarIds.contains(event.calendarId))
-        content.icons += UploadGlyph;
-    const int width = block.rect.width() - m_look.textLeftPx - m_look.textRightPx;
-    if (Theme::iconFamily().isEmpty() || width - iconsWidth(content.icons) < 3 * titleHeight)
-        content.icons.clear(); // the title matters more
-
-    content.textPos = block.rect.topLeft() + QPoint(m_look.textLeftPx, paddingPx());
-    if (width <= 0)
-        return content;
-    content.title = elided(EventText::title(event), titleFont, width - iconsWidth(content.icons));
-    const int room = block.rect.height() - 2 * paddingPx();
-    if (room < titleHeight + smallHeight + 2 * paddingPx() + 1)
-        return content;
-    content.time = elided(EventText::timeLine(state(), event), smallFont, width);
-    if (const QString place = EventText::location(event); !place.isEmpty() && room >= titleHeight + 2 * smallHeight)
-        content.location = elided(place, smallFont, width);
-    return content;
+    const QColor shaded = EventColors::blend(EventColors::withAlpha(palette().color(QPalette::WindowText), ShadeAlpha),
+                                             palette().color(QPalette::Base));
+    const bool waitsForUpload =
+        event.syncStatus == SyncStatus::Pending && m_syncableCalendarIds.contains(event.calendarId);
+    return { colorsOf(event, BodyAlpha, FaintBodyAlpha, shaded),
+             m_blockPainter.fit(event, block.rect.size(), waitsForUpload) };
 }
 
 void TimelineWidget::paintEvent(QPaintEvent *event)
@@ -263,12 +248,12 @@ void TimelineWidget::paintEvent(QPaintEvent *event)
     painter.setRenderHint(QPainter::Antialiasing);
     paintBackground(painter, exposed);
     paintHours(painter, exposed);
+    paintFocusMark(painter, m_gutterPx);
     paintNowLine(painter);
     for (int i = 0; i < blocks().size(); ++i) {
         if (blocks().at(i).rect.adjusted(-2, -2, 2, 2).intersects(exposed))
             paintBlock(painter, i);
     }
-    paintFocusMark(painter, m_gutterPx);
 }
 
 void TimelineWidget::paintBackground(QPainter &painter, const QRect &exposed) const
@@ -292,7 +277,7 @@ void TimelineWidget::paintBackground(QPainter &painter, const QRect &exposed) co
 void TimelineWidget::paintHours(QPainter &painter, const QRect &exposed) const
 {
     const TimelineMetrics where = metrics();
-    const QFont labelFont = resized(font(), -1, 1);
+    const QFont labelFont = SurfaceFonts::resized(font(), -1);
     const int labelHeight = std::max(16, QFontMetrics(labelFont).height());
     painter.setFont(labelFont);
     painter.setPen(Theme::textMuted());
@@ -301,7 +286,7 @@ void TimelineWidget::paintHours(QPainter &painter, const QRect &exposed) const
         painter.fillRect(QRect(m_gutterPx, y, width() - m_gutterPx, 1), Theme::border());
         const QRect label(0, y - labelHeight / 2, m_gutterPx - HourLabelGapPx, labelHeight);
         if (hour > 0 && hour < 24 && label.intersects(exposed))
-            painter.drawText(label, Qt::AlignRight | Qt::AlignVCenter, EventText::hourLabel(state(), hour));
+            painter.drawText(label, Qt::AlignRight | Qt::AlignVCenter, hourLabel(hour));
     }
     for (int column = 0; m_look.hasColumnLines && column <= m_columnCount; ++column)
         painter.fillRect(QRect(where.columns.left(column), 0, 1, where.dayHeightPx()), Theme::border());
@@ -324,42 +309,11 @@ void TimelineWidget::paintNowLine(QPainter &painter) const
 void TimelineWidget::paintBlock(QPainter &painter, int index)
 {
     const EventBlock &block = blocks().at(index);
-    std::optional<Content> &kept = m_contents[index];
-    if (!kept)
-        kept = makeContent(block);
-    const Content &content = *kept;
-
-    paintShape(painter, block, content.colors, StripeWidthPx);
-    QFont titleFont = bold(font());
-    titleFont.setStrikeOut(eventOf(block).status == EventStatus::Cancelled);
-    const QFont smallFont = resized(font(), -1, 1);
-    painter.setPen(content.colors.text);
-    painter.setFont(titleFont);
-    painter.drawStaticText(content.textPos, content.title);
-    if (content.time.text().isEmpty())
-        return paintIcons(painter, block.rect, content);
-    const int timeY = content.textPos.y() + QFontMetrics(titleFont).height();
-    painter.setFont(smallFont);
-    painter.drawStaticText(content.textPos.x(), timeY, content.time);
-    painter.drawStaticText(content.textPos.x(), timeY + QFontMetrics(smallFont).height(), content.location);
-    paintIcons(painter, block.rect, content);
-}
-
-void TimelineWidget::paintIcons(QPainter &painter, const QRect &rect, const Content &content) const
-{
-    if (content.icons.isEmpty())
-        return;
-    const QFont glyphs = iconFont();
-    const QFontMetrics glyphMetrics(glyphs);
-    const int lineHeight = QFontMetrics(bold(font())).height();
-    painter.setFont(glyphs);
-    painter.setPen(EventColors::withAlpha(content.colors.text, IconAlpha));
-    int right = rect.right() - m_look.iconRightPx;
-    for (const QChar icon : content.icons) {
-        const int width = glyphMetrics.horizontalAdvance(icon);
-        painter.drawText(QRect(right - width, content.textPos.y(), width, lineHeight), Qt::AlignCenter, icon);
-        right -= width + IconGapPx;
-    }
+    std::optional<Painted> &painted = m_painted[index];
+    if (!painted)
+        painted = makePainted(block);
+    paintShape(painter, block, painted->colors, StripeWidthPx);
+    m_blockPainter.paint(painter, block.rect, painted->content, painted->colors.text);
 }
 
 void TimelineWidget::wheelEvent(QWheelEvent *event)

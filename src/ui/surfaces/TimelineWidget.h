@@ -2,11 +2,11 @@
 
 #include "ui/surfaces/EventCanvas.h"
 #include "ui/surfaces/EventColors.h"
+#include "ui/surfaces/TimelineBlockPainter.h"
 #include "ui/surfaces/TimelineGeometry.h"
 
 #include <QDate>
 #include <QDateTime>
-#include <QStaticText>
 
 #include <optional>
 
@@ -23,10 +23,8 @@ public:
 
     struct Look {
         int widthHintPx;
-        int blockRightPx;
-        int textLeftPx; ///< from the block's left edge
-        int textRightPx;
-        int iconRightPx; ///< from the block's right edge
+        int blockRightPx; ///< kept free at a column's right edge
+        BlockInsets insets; ///< the padding follows the density
         int nowDotRadiusPx;
         bool hasColumnLines; ///< lines between columns, and a tint on today's
     };
@@ -59,6 +57,7 @@ protected:
     TimelineWidget(AppState *state, const Look &look, QWidget *parent);
 
     void setDays(QDate firstDay, int columnCount);
+    void readTimeFormat();
     void setSpan(const VisibleSpan &span, const QSet<QString> &syncableCalendarIds);
 
     void relayout() override;
@@ -68,26 +67,27 @@ protected:
 
     [[nodiscard]] virtual QColor nowLineColor() const = 0;
 
+    void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    /// A block's colours and measured texts, made when it is first painted.
-    struct Content {
+    /// How a block looks, made when it is first painted.
+    struct Painted {
         BlockColors colors;
-        QStaticText title, time, location; // empty where there is no room
-        QString icons; // glyphs, from the right
-        QPoint textPos;
+        BlockContent content;
     };
 
-    [[nodiscard]] int paddingPx() const { return m_isCompact ? 1 : 4; }
+    void relayoutIfNeeded();
     [[nodiscard]] int todayColumn() const; ///< -1 if today does not show
-    [[nodiscard]] Content makeContent(const EventBlock &block) const;
+    [[nodiscard]] QString hourLabel(int hour) const;
+    [[nodiscard]] Painted makePainted(const EventBlock &block) const;
+    void measureFonts();
     void paintBackground(QPainter &painter, const QRect &exposed) const;
     void paintHours(QPainter &painter, const QRect &exposed) const;
     void paintNowLine(QPainter &painter) const;
     void paintBlock(QPainter &painter, int index);
-    void paintIcons(QPainter &painter, const QRect &rect, const Content &content) const;
 
     Look m_look;
     QDate m_firstDay;
@@ -99,6 +99,10 @@ private:
     int m_gutterPx = DayColumns::StandardGutterPx;
     bool m_isCompact = false;
     QDateTime m_now;
+    QString m_timePattern; // kept, as reading the setting is a query
+    QString m_hourPattern;
+    TimelineBlockPainter m_blockPainter;
+    TimelineMetrics m_laidOutFor;
     WheelNotches m_zoomNotches;
-    QList<std::optional<Content>> m_contents; // beside blocks()
+    QList<std::optional<Painted>> m_painted; // beside blocks()
 };

@@ -4,9 +4,7 @@ WeekTimelineWidget::WeekTimelineWidget(AppState *state, QWidget *parent)
     : TimelineWidget(state,
                      { .widthHintPx = 1000,
                        .blockRightPx = 4,
-                       .textLeftPx = 9,
-                       .textRightPx = 6,
-                       .iconRightPx = 2,
+                       .insets = { .textLeftPx = 9, .textRightPx = 6, .iconRightPx = 2 },
                        .nowDotRadiusPx = 4,
                        .hasColumnLines = true },
                      parent)

@@ -10,6 +10,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -18,24 +19,39 @@ const QString AccentKey = QStringLiteral("ui/accentColor");
 const QString FontScaleKey = QStringLiteral("ui/fontScale");
 const QString SystemMode = QStringLiteral("system");
 
-// Applying a sheet polishes every widget of the program again.
-void applyStyleSheet()
-{
-    const QString sheet = Theme::stylesheet();
-    if (qApp->styleSheet() != sheet)
-        qApp->setStyleSheet(sheet);
-}
+using FontsOfWidgets = QList<std::pair<QPointer<QWidget>, QFont>>;
 
-// A widget with a font of its own does not follow the application's.
-void scaleOwnFonts(double ratio)
+FontsOfWidgets ownFonts()
 {
+    FontsOfWidgets fonts;
     const QWidgetList widgets = QApplication::allWidgets();
     for (QWidget *widget : widgets) {
-        QFont font = widget->font();
-        if (!widget->testAttribute(Qt::WA_SetFont) || font.pointSize() <= 0)
+        if (widget->testAttribute(Qt::WA_SetFont))
+            fonts.append({ widget, widget->font() });
+    }
+    return fonts;
+}
+
+// A size that a font has of its own: scaled, but the application's own size where it was that.
+QFont scaled(QFont font, const QFont &oldBase, double ratio)
+{
+    const bool hasOwnSize = font.resolveMask() & QFont::SizeResolved;
+    if (!hasOwnSize || font.pointSize() <= 0)
+        return font;
+    const bool isBaseSize = font.pointSize() == oldBase.pointSize();
+    font.setPointSize(isBaseSize ? QApplication::font().pointSize() : std::max(1, qRound(font.pointSize() * ratio)));
+    return font;
+}
+
+void setFonts(const FontsOfWidgets &fonts, const QFont &oldBase, double ratio)
+{
+    for (const auto &[widget, font] : fonts) {
+        if (!widget)
             continue;
-        font.setPointSize(std::max(1, qRound(font.pointSize() * ratio)));
-        widget->setFont(font);
+        // Qt keeps the font that a widget had when a sheet first polished it, and every later polish brings
+        // that one back. Without the note it takes the font of now.
+        widget->setProperty("_q_styleSheetWidgetFont", QVariant());
+        widget->setFont(scaled(font, oldBase, ratio));
     }
 }
 
@@ -97,15 +113,17 @@ void ThemeManager::applyFontScalePercent(int percent, bool persist)
     if (persist)
         m_preferences->set(FontScaleKey, QString::number(current));
 
+    const QFont oldBase = QApplication::font();
+    const FontsOfWidgets fonts = previous == current ? FontsOfWidgets() : ownFonts();
     if (m_unscaledFont.pointSize() > 0) {
         QFont font = m_unscaledFont;
         font.setPointSize(std::max(1, font.pointSize() * current / 100));
         QApplication::setFont(font);
     }
     if (previous != current) {
-        scaleOwnFonts(static_cast<double>(current) / previous);
         if (m_style)
-            applyStyleSheet();
+            qApp->setStyleSheet(Theme::stylesheet()); // also makes the other widgets take the font
+        setFonts(fonts, oldBase, static_cast<double>(current) / previous);
     }
     emit fontScaleChanged(current);
 }
@@ -124,5 +142,10 @@ void ThemeManager::applyMode(const QString &mode)
     const bool isDark = mode == QLatin1StringView("dark") || (mode == SystemMode && m_system->isDark());
     Theme::setActiveMode(isDark ? Theme::Mode::Dark : Theme::Mode::Light);
     QApplication::setPalette(Theme::palette());
-    applyStyleSheet();
+    const QString sheet = Theme::stylesheet();
+    if (qApp->styleSheet() == sheet)
+        return; // applying it would polish every widget of the program again
+    const FontsOfWidgets fonts = ownFonts();
+    qApp->setStyleSheet(sheet);
+    setFonts(fonts, QApplication::font(), 1.0);
 }

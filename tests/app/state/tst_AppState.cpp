@@ -6,6 +6,7 @@
 #include "models/ViewDef.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
+#include "storage/EventRepository.h"
 #include "storage/PreferencesRepository.h"
 #include "storage/ViewRepository.h"
 #include "support/ScratchState.h"
@@ -13,6 +14,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 namespace {
 
@@ -310,10 +312,20 @@ private slots:
     void asksForSyncOnlyWhenSomethingIsPending()
     {
         ScratchState state;
+        QTimer *debounce = nullptr;
+        for (QTimer *timer : state->findChildren<QTimer *>(Qt::FindDirectChildrenOnly))
+            debounce = timer->interval() == 2000 ? timer : debounce;
+        QVERIFY(debounce && debounce->isSingleShot());
+        debounce->setInterval(1);
+        QSignalSpy elapsed(debounce, &QTimer::timeout);
         QSignalSpy asked(state.state(), &AppState::syncNowRequested);
-        state.addEvent(QStringLiteral("Dentist"), QDateTime(QDate(2024, 2, 29), QTime(9, 0), Qt::UTC),
-                       QDateTime(QDate(2024, 2, 29), QTime(10, 0), Qt::UTC));
-        QTRY_COMPARE_WITH_TIMEOUT(asked.size(), 1, 5000);
+        Event event = state.addEvent(QStringLiteral("Dentist"), QDateTime(QDate(2024, 2, 29), QTime(9, 0), Qt::UTC),
+                                     QDateTime(QDate(2024, 2, 29), QTime(10, 0), Qt::UTC));
+        QTRY_COMPARE(elapsed.size(), 1);
+        QCOMPARE(asked.size(), 0); // what a sync stored is no reason for another one
+        event.syncStatus = SyncStatus::Pending;
+        QVERIFY(state->events()->update(event));
+        QTRY_COMPARE(asked.size(), 1);
     }
 
     void oneFailureMarksTheWholeCycle()

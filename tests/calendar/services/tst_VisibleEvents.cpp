@@ -56,7 +56,7 @@ void addRule(ScratchState &state, const QString &titlePart, const QString &actio
     rule.name = titlePart;
     rule.type = FilterType::Pattern;
     rule.action = action;
-    rule.conditions = FilterEngine::conditionsToJson(FilterEngine::PatternConditions { .titleContains = { titlePart } });
+    rule.conditions = FilterEngine::conditionsToJson(FilterEngine::PatternConditions{ .titleContains = { titlePart } });
     if (!state->filterRules()->insert(rule))
         qFatal("cannot store a rule");
 }
@@ -123,12 +123,12 @@ void tst_VisibleEvents::calendarIds()
         const QStringList list = VisibleEvents::calendarIds(state.state());
         return QSet<QString>(list.begin(), list.end());
     };
-    const QSet<QString> visible { home, work };
+    const QSet<QString> visible{ home, work };
     QCOMPARE(ids(), visible);
 
     // A group decides over visibility; what is not there any more does not count.
     activateGroup(state, uR"(["%1","%2","unknown"])"_s.arg(hidden, gone));
-    QCOMPARE(ids(), QSet<QString> { hidden });
+    QCOMPARE(ids(), QSet<QString>{ hidden });
     activateGroup(state, uR"(["%1"])"_s.arg(gone));
     QCOMPARE(ids(), visible);
     activateGroup(state, u"[]"_s);
@@ -136,7 +136,7 @@ void tst_VisibleEvents::calendarIds()
     activateGroup(state, u"not JSON"_s);
     QCOMPARE(ids(), visible);
     const QString deleted = activateGroup(state, uR"(["%1"])"_s.arg(work));
-    QCOMPARE(ids(), QSet<QString> { work });
+    QCOMPARE(ids(), QSet<QString>{ work });
     QVERIFY(state->views()->softDelete(deleted));
     state->setActiveViewId(deleted);
     QCOMPARE(ids(), visible);
@@ -166,7 +166,7 @@ void tst_VisibleEvents::timedEventsByInstant()
     state.addEvent(u"no length"_s, local(Monday, 0), local(Monday, 0));
     state.addEvent(u"last minute"_s, local(after.addDays(-1), 23, 59), local(after, 0));
     state.addEvent(u"the day after"_s, local(after, 0), local(after, 1));
-    const QStringList expected { u"runs into the first day"_s, u"first minute"_s, u"no length"_s, u"last minute"_s };
+    const QStringList expected{ u"runs into the first day"_s, u"first minute"_s, u"no length"_s, u"last minute"_s };
     QStringList found = titles(state->visibleEvents()->inRange(Monday, 7)->events);
     std::sort(found.begin() + 1, found.begin() + 3); // two with one start
     QCOMPARE(found, expected);
@@ -260,7 +260,7 @@ void tst_VisibleEvents::overridesStayInTheirCalendar()
     QCOMPARE(titles(state->visibleEvents()->inRange(Monday, 1)->events), QStringList({ u"home"_s, u"work moved"_s }));
 
     activateGroup(state, uR"(["%1"])"_s.arg(ScratchState::calendarId()));
-    QCOMPARE(titles(state->visibleEvents()->inRange(Monday, 1)->events), QStringList { u"home"_s });
+    QCOMPARE(titles(state->visibleEvents()->inRange(Monday, 1)->events), QStringList{ u"home"_s });
 }
 
 void tst_VisibleEvents::filters()
@@ -275,7 +275,7 @@ void tst_VisibleEvents::filters()
     addRule(state, u"dim"_s, FilterAction::Dim);
     const auto span = state->visibleEvents()->inRange(Monday, 1);
     QCOMPARE(titles(span->events), QStringList({ kept.title, dimmed.title }));
-    QCOMPARE(span->dimmedIds, QSet<QString> { dimmed.id });
+    QCOMPARE(span->dimmedIds, QSet<QString>{ dimmed.id });
     QCOMPARE(span->hiddenCount, 1);
     QCOMPARE(titles(state->visibleEvents()->unfilteredInRange(Monday, 1)),
              QStringList({ u"keep"_s, u"dim"_s, u"hide"_s }));

@@ -71,6 +71,7 @@ void TestEventColors::textCanBeRead()
         const double ratio = contrast(over(colors.text, ground), ground);
         QVERIFY2(ratio >= 4.45, qPrintable(QStringLiteral("%1: %2").arg(event.name()).arg(ratio)));
         QVERIFY(colors.body.alpha() <= bodyAlpha);
+        QVERIFY2(contrast(colors.stripe, base) >= 1.5, qPrintable(event.name()));
         QVERIFY(colors.text.alpha() >= textAlpha);
     }
 }

@@ -124,6 +124,7 @@ private slots:
         manager.applyStoredMode();
         QSignalSpy changes(&manager, &ThemeManager::modeChanged);
 
+        QTRY_COMPARE(portal.readCount(), 1);
         portal.announceColorScheme(1);
         QTRY_COMPARE(changes.size(), 1);
         QCOMPARE(changes.constFirst().constFirst().toString(), u"system"_qs);
@@ -199,35 +200,69 @@ private slots:
         QCOMPARE(preferences()->get(u"ui/fontScale"_qs, {}), stored);
     }
 
+    void scalingThereAndBack_data()
+    {
+        QTest::addColumn<bool>("isShown");
+        QTest::newRow("on show") << true;
+        QTest::newRow("not yet shown") << false;
+    }
+
     void scalingThereAndBack()
     {
+        QFETCH(bool, isShown);
         ThemeManager manager(preferences());
         manager.applyStoredMode();
         QSignalSpy changes(&manager, &ThemeManager::fontScaleChanged);
-        QLabel own(u"own"_qs);
+        QWidget window;
+        QLabel own(u"own"_qs, &window);
         own.setFont(QFont(QStringLiteral("DejaVu Sans"), 13));
-        QLabel following(u"following"_qs);
-        QLabel inPixels(u"pixels"_qs);
+        QLabel bold(u"bold"_qs, &window);
+        QFont boldFont = bold.font();
+        boldFont.setBold(true);
+        bold.setFont(boldFont);
+        QLabel following(u"following"_qs, &window);
+        QLabel inPixels(u"pixels"_qs, &window);
         QFont pixels = m_font;
         pixels.setPixelSize(17);
         inPixels.setFont(pixels);
+        if (isShown)
+            window.show();
 
         manager.applyFontScalePercent(150, true);
+        manager.setMode(u"dark"_qs); // which must not bring older fonts back
+        window.show();
         QCOMPARE(own.font().pointSize(), 20); // 19.5
-        QCOMPARE(following.font().pointSize(), 16);
+        QCOMPARE(following.font().pointSize(), 16); // 16.5, cut as the application's own
+        QCOMPARE(bold.font().pointSize(), 16);
+        QVERIFY(bold.font().bold());
         QCOMPARE(inPixels.font().pixelSize(), 17);
         QVERIFY(qApp->styleSheet().contains(u"font-size: 16pt;"));
         QCOMPARE(preferences()->get(u"ui/fontScale"_qs, {}), u"150"_qs);
 
         manager.applyFontScalePercent(100, false);
+        manager.setMode(u"light"_qs);
         QCOMPARE(own.font().pointSize(), 13);
         QCOMPARE(following.font().pointSize(), 11);
+        QCOMPARE(bold.font().pointSize(), 11);
         QVERIFY(qApp->styleSheet().contains(u"font-size: 11pt;"));
         QCOMPARE(preferences()->get(u"ui/fontScale"_qs, {}), u"150"_qs);
 
         manager.applyFontScalePercent(100, false);
         QCOMPARE(changes.size(), 3);
         QCOMPARE(own.font().pointSize(), 13);
+    }
+
+    void fontsSetLateSurviveAModeChange()
+    {
+        ThemeManager manager(preferences());
+        manager.setMode(u"light"_qs);
+        QLabel label(u"today"_qs);
+        label.show();
+        QFont font = label.font();
+        font.setBold(true);
+        label.setFont(font);
+        manager.setMode(u"dark"_qs);
+        QVERIFY(label.font().bold());
     }
 
     void sheetLeavesCheckBoxesToTheStyle_data()
