@@ -5,6 +5,7 @@
 #include "models/Account.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
+#include "ui/dialogs/PlainText.h"
 #include "ui/theme/Theme.h"
 
 #include <QCollator>
@@ -37,7 +38,7 @@ ImportDialog::ImportDialog(AppState *state, const QStringList &fileNames, int ev
     : FormDialog(tr("Import events"), parent)
     , m_calendar(new QComboBox(this))
 {
-    auto *label = new QLabel(question(fileNames, eventCount), this);
+    auto *label = new QLabel(PlainText::breakLongWords(question(fileNames, eventCount)), this);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     fillCalendarCombo(state, m_calendar);

@@ -1,5 +1,6 @@
 #include "ui/dialogs/Prompt.h"
 
+#include "ui/dialogs/PlainText.h"
 #include "ui/theme/Theme.h"
 
 #include <QFileDialog>
@@ -37,7 +38,7 @@ QMessageBox *makeBox(QWidget *parent, QMessageBox::Icon icon, const QString &tit
     setIcon(box, icon);
     box->setWindowTitle(title);
     box->setTextFormat(Qt::PlainText);
-    box->setText(text);
+    box->setText(PlainText::breakLongWords(text));
     return box;
 }
 

@@ -77,7 +77,7 @@ private slots:
             { "group", [](AppState *s) { return new ViewFormDialog(s); } },
             { "groups", [](AppState *s) { return new ManageViewsDialog(s); } },
             { "calendar", [](AppState *s) { return new CalendarFormDialog(s); } },
-            { "import", [](AppState *s) { return new ImportDialog(s, { QString(90, u'w') + u".ics" }, 3); } },
+            { "import", [](AppState *s) { return new ImportDialog(s, { QString(90, u'w') }, 3); } },
             { "preferences", [](AppState *s) { return new PreferencesDialog(s); } },
         };
         for (const auto &[name, make] : dialogs) {
@@ -104,6 +104,7 @@ private slots:
             QCoreApplication::processEvents();
             checkTabOrder(dialog.get());
             checkTexts(dialog.get());
+            QVERIFY(dialog->width() <= 1000);
             if (QTest::currentTestFailed())
                 return;
         }

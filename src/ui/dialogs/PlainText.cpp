@@ -1,0 +1,25 @@
+#include "ui/dialogs/PlainText.h"
+
+namespace {
+
+constexpr int LongestRun = 32;
+constexpr QChar ZeroWidthSpace(0x200B);
+
+}
+
+QString PlainText::breakLongWords(const QString &text)
+{
+    QString result;
+    result.reserve(text.size() + text.size() / LongestRun);
+    int run = 0;
+    for (const QChar c : text) {
+        // A place to wrap between the halves of a surrogate pair would break the character.
+        if (run >= LongestRun && !c.isLowSurrogate()) {
+            result.append(ZeroWidthSpace);
+            run = 0;
+        }
+        run = c.isSpace() ? 0 : run + 1;
+        result.append(c);
+    }
+    return result;
+}
