@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QScreen>
 #include <QSplitter>
+#include <QStyle>
 
 namespace {
 
@@ -58,8 +59,12 @@ void WindowLayout::clampToScreen()
 {
     if (m_window->isMaximized() || m_window->isFullScreen())
         return;
-    if (const QScreen *screen = m_window->screen())
-        m_window->resize(m_window->size().boundedTo(screen->availableSize()));
+    const QScreen *screen = m_window->screen();
+    if (!screen)
+        return;
+    // The window manager's frame is not known before the window is up; its title bar is about as high as the style's.
+    const QSize frame(0, m_window->style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    m_window->resize(m_window->size().boundedTo(screen->availableSize() - frame));
 }
 
 void WindowLayout::applyDefaultPaneWidths()

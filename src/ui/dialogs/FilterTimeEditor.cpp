@@ -20,7 +20,6 @@ constexpr int DaysInWeek = 7;
 
 FilterTimeEditor::FilterTimeEditor(AppState *state, QWidget *parent)
     : QWidget(parent)
-    , m_recurringOnly(new QCheckBox(tr("Only &repeating events"), this))
     , m_warning(new InlineMessage(InlineMessage::Kind::Warning, this))
 {
     const QString format = TimeFormat::eventTimeFormatString(state);
@@ -38,6 +37,7 @@ FilterTimeEditor::FilterTimeEditor(AppState *state, QWidget *parent)
     layout->addLayout(grid);
     layout->addWidget(m_warning);
     layout->addWidget(makeDays(state->firstDayOfWeek()));
+    m_recurringOnly = new QCheckBox(tr("Only &repeating events"), this); // last here, last by Tab
     layout->addWidget(m_recurringOnly);
     connect(m_recurringOnly, &QCheckBox::toggled, this, &FilterTimeEditor::edited);
 }

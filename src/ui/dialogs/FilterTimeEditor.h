@@ -53,6 +53,6 @@ private:
     TimeField m_from;
     TimeField m_until;
     QList<QToolButton *> m_days; // Monday first
-    QCheckBox *m_recurringOnly;
+    QCheckBox *m_recurringOnly = nullptr;
     InlineMessage *m_warning;
 };
