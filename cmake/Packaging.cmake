@@ -3,7 +3,12 @@ if(UNIX AND NOT APPLE)
     install(FILES packaging/com.quillon.Calendar.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
     install(FILES packaging/com.quillon.Calendar.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
     install(DIRECTORY packaging/icons/ DESTINATION ${CMAKE_INSTALL_DATADIR}/icons)
-    install(FILES NOTICES.md LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/quillon-calendar)
+    set(doc ${CMAKE_INSTALL_DATADIR}/doc/quillon-calendar)
+    install(FILES NOTICES.md LICENSE DESTINATION ${doc})
+    foreach(font ibm-plex-sans ibm-plex-mono material-icons)
+        install(FILES resources/fonts/node_modules/@expo-google-fonts/${font}/LICENSE_FONT
+            DESTINATION ${doc} RENAME LICENSE-${font} OPTIONAL)
+    endforeach()
 endif()
 
 set(CPACK_GENERATOR DEB)

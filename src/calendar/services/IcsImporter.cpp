@@ -1,12 +1,14 @@
 #include "calendar/services/IcsImporter.h"
 
 #include "app/state/AppState.h"
+#include "storage/Database.h"
 #include "storage/EventRepository.h"
 #include "storage/Savepoint.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QSqlQuery>
 #include <QTimer>
 #include <QUuid>
 
@@ -28,6 +30,28 @@ int percentOf(qint64 done, qint64 total)
 {
     return total > 0 ? static_cast<int>(std::min(done, total) * 100 / total) : 100;
 }
+
+/// While it lives, a commit does not wait for the disk: a power cut may take back the last slices, but the
+/// file stays whole, and importing again completes what is missing.
+class RelaxedCommits {
+public:
+    explicit RelaxedCommits(Database *database)
+        : m_database(database)
+    {
+        run(QStringLiteral("PRAGMA synchronous=NORMAL"));
+    }
+    ~RelaxedCommits() { run(QStringLiteral("PRAGMA synchronous=FULL")); }
+    Q_DISABLE_COPY_MOVE(RelaxedCommits)
+
+private:
+    void run(const QString &pragma)
+    {
+        if (m_database->isOpen())
+            QSqlQuery(m_database->db()).exec(pragma);
+    }
+
+    Database *m_database;
+};
 
 }
 
@@ -117,6 +141,7 @@ class IcsImporter::Storing {
 public:
     Storing(AppState *state, const QList<File> &files, QString calendarId)
         : m_state(state)
+        , m_relaxed(state->database())
         , m_calendarId(std::move(calendarId))
         , m_files(files)
     {
@@ -181,6 +206,7 @@ private:
     }
 
     AppState *m_state;
+    RelaxedCommits m_relaxed;
     QString m_calendarId;
     QList<File> m_files;
     qsizetype m_total = 0; // events
