@@ -20,15 +20,16 @@ struct Message {
 
 Message readMessage(QXmlStreamReader &xml, const QString &context)
 {
-    Message message {.context = context};
-    message.isPlural = xml.attributes().value(u"numerus") == u"yes";
+    Message message;
+    message.context = context;
+    message.isPlural = xml.attributes().value(QLatin1StringView("numerus")) == u"yes";
     while (xml.readNextStartElement()) {
         if (xml.name() == u"source") {
             message.source = xml.readElementText();
         } else if (xml.name() == u"comment") {
             message.comment = xml.readElementText();
         } else if (xml.name() == u"translation") {
-            message.type = xml.attributes().value(u"type").toString();
+            message.type = xml.attributes().value(QLatin1StringView("type")).toString();
             if (!message.isPlural)
                 message.translations = {xml.readElementText()};
             else
@@ -130,7 +131,7 @@ void TestTranslations::wholeAndSound()
     QStringList problems;
     for (const Message &wanted : std::as_const(m_source)) {
         const Message found = translated.value(wanted.key());
-        const auto complain = [&](const char *what) { problems += QString::fromLatin1(what) + u": " + wanted.key(); };
+        const auto complain = [&](const char *what) { problems += QStringLiteral("%1: %2").arg(QLatin1StringView(what), wanted.key()); };
         if (found.translations.isEmpty()) {
             complain("missing");
             continue;

@@ -301,7 +301,7 @@ void EventCanvas::mouseReleaseEvent(QMouseEvent *event)
 
 void EventCanvas::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    m_pressed.reset(); // the second release is no click of its own
+    // The second press came as this event, so its release is no click of its own.
     const QString id = eventIdAt(event->position().toPoint());
     if (event->button() != Qt::LeftButton || id.isEmpty())
         return QWidget::mouseDoubleClickEvent(event);

@@ -30,6 +30,7 @@ QString range(const QString &from, const QString &to)
 
 QString dayText(QDate date)
 {
+    //: weekday and date of an event, as a date pattern
     return QLocale().toString(date, Tr::tr("ddd, MMM d"));
 }
 
@@ -46,6 +47,7 @@ QString allDayWhen(const Event &event)
     const QDate first = EventDays::firstDay(event);
     const QDate last = EventDays::lastDay(event);
     const QString days = last > first ? range(dayText(first), dayText(last)) : dayText(first);
+    //: %1 is a date, or two with a dash
     return Tr::tr("%1, all day").arg(days);
 }
 
