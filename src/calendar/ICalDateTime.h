@@ -15,6 +15,9 @@ namespace ICal {
 /// Reads DATE and DATE-TIME values (RFC 5545 §3.3.4, §3.3.5), and remembers the zones it met.
 class DateTimeReader {
 public:
+    DateTimeReader() = default;
+    Q_DISABLE_COPY_MOVE(DateTimeReader)
+
     /// As ICalParser::parseDateTimeValue. A time that a clock change leaves out counts with the offset
     /// before the change, and of a time that occurs twice the first is meant.
     ICalParser::DateTimeValue read(QByteArrayView value, QByteArrayView tzid);

@@ -38,8 +38,8 @@ const ChildRows::Kind<Reminder> &ChildRows::taskReminders()
     return kind;
 }
 
-bool ChildRows::replaceReminders(Database *database, const Kind<Reminder> &kind, const QString &ownerId,
-                                 QList<Reminder> reminders, const QDateTime &anchor)
+bool ChildRows::writeReminders(Database *database, const Kind<Reminder> &kind, Owner owner, const QString &ownerId,
+                               QList<Reminder> reminders, const QDateTime &anchor)
 {
     for (Reminder &reminder : reminders) {
         if (reminder.action.isEmpty())
@@ -47,7 +47,7 @@ bool ChildRows::replaceReminders(Database *database, const Kind<Reminder> &kind,
         if (!reminder.triggerTime && anchor.isValid())
             reminder.triggerTime = anchor.addSecs(-reminder.minutesBefore * secondsPerMinute);
     }
-    return replace(database, kind, ownerId, reminders);
+    return write(database, kind, owner, ownerId, reminders);
 }
 
 void ChildRows::carryOver(QList<Reminder> &reminders, QList<Reminder> stored, bool anchorMoved)

@@ -55,30 +55,36 @@ void attach(Database *database, const Kind<Child> &kind, QList<Owner> &owners, Q
     }
 }
 
-/// Replaces the children of one owner. A child copied from another owner gets an id of its own, as one
-/// without id does.
+/// Whether an owner may have children already.
+enum class Owner { New, Stored };
+
+/// Writes the children of one owner in place of those it has. A child copied from another owner gets an
+/// id of its own, as one without id does.
 template <typename Child>
-bool replace(Database *database, const Kind<Child> &kind, const QString &ownerId, const QList<Child> &children)
+bool write(Database *database, const Kind<Child> &kind, Owner owner, const QString &ownerId,
+           const QList<Child> &children)
 {
-    const QString remove =
-        QStringLiteral("DELETE FROM %1 WHERE %2 = ?").arg(kind.table.name(), QLatin1StringView(kind.ownerColumn));
-    if (!runStatement(database, kind.deleteFailure, remove, { ownerId }))
-        return false;
+    if (owner == Owner::Stored) {
+        const QString remove =
+            QStringLiteral("DELETE FROM %1 WHERE %2 = ?").arg(kind.table.name(), QLatin1StringView(kind.ownerColumn));
+        if (!runStatement(database, kind.deleteFailure, remove, { ownerId }))
+            return false;
+    }
     for (Child child : children) {
-        QString &owner = child.*kind.ownerId;
-        if (child.id.isEmpty() || (!owner.isEmpty() && owner != ownerId))
+        QString &formerId = child.*kind.ownerId;
+        if (child.id.isEmpty() || (!formerId.isEmpty() && formerId != ownerId))
             child.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
-        owner = ownerId;
+        formerId = ownerId;
         if (!kind.table.insert(database, child, kind.insertFailure))
             return false;
     }
     return true;
 }
 
-/// Replaces the reminders of one owner. What has no trigger time gets \p anchor minus its minutes, or
-/// none without an anchor.
-bool replaceReminders(Database *database, const Kind<Reminder> &kind, const QString &ownerId, QList<Reminder> reminders,
-                      const QDateTime &anchor);
+/// write() for reminders. What has no trigger time gets \p anchor minus its minutes, or none without an
+/// anchor.
+bool writeReminders(Database *database, const Kind<Reminder> &kind, Owner owner, const QString &ownerId,
+                    QList<Reminder> reminders, const QDateTime &anchor);
 
 /// What a rewritten owner's reminders take over from the stored ones. Where \p anchorMoved, they are due
 /// again at a new time; else one that was acknowledged stays so, also if the writer did not know of it.

@@ -195,11 +195,11 @@ void EventRanges::add(Statement &rows)
     }
     EventRows::attachChildren(m_database, events);
     for (qsizetype i = 0; i < events.size(); ++i) {
-        const Event &event = events.at(i);
+        Event &event = events[i];
         m_keys.insert(event.id, keys.at(i));
         if (event.isOverride())
             m_overrides.insert(event.masterEventUid, keys.at(i));
-        m_standing.emplace(keys.at(i), Standing{ event, ends.at(i) });
+        m_standing.emplace(keys.at(i), Standing{ std::move(event), ends.at(i) });
     }
 }
 

@@ -114,7 +114,7 @@ bool EventRepository::insert(const Event &event)
 
     Savepoint savepoint(m_database);
     if (!Tables::events().insert(m_database, row, "EventRepository::insert failed:")
-        || !EventRows::replaceChildren(m_database, row) || !savepoint.commit())
+        || !EventRows::insertChildren(m_database, row) || !savepoint.commit())
         return false;
     m_ranges->onWritten(row);
     notifyChanged(row.calendarId);

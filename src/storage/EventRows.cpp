@@ -31,6 +31,21 @@ bool hasMoved(Database *database, const Event &event)
     return !start.isValid() || start.toSecsSinceEpoch() != reminderAnchor(event).toSecsSinceEpoch();
 }
 
+bool writeChildren(Database *database, const Event &event, ChildRows::Owner owner)
+{
+    if (!ChildRows::writeReminders(database, ChildRows::eventReminders(), owner, event.id, event.reminders,
+                                   reminderAnchor(event)))
+        return false;
+    QList<Attendee> attendees = event.attendees;
+    for (Attendee &attendee : attendees) {
+        if (attendee.role.isEmpty())
+            attendee.role = Attendee().role;
+        if (attendee.status.isEmpty())
+            attendee.status = Attendee().status;
+    }
+    return ChildRows::write(database, attendeeRows(), owner, event.id, attendees);
+}
+
 }
 
 QList<Event> EventRows::list(Database *database, const QString &tail, const QVariantList &values)
@@ -56,19 +71,14 @@ void EventRows::attachChildren(Database *database, QList<Event> &events)
     ChildRows::attach(database, attendeeRows(), events, &Event::attendees);
 }
 
+bool EventRows::insertChildren(Database *database, const Event &event)
+{
+    return writeChildren(database, event, ChildRows::Owner::New);
+}
+
 bool EventRows::replaceChildren(Database *database, const Event &event)
 {
-    if (!ChildRows::replaceReminders(database, ChildRows::eventReminders(), event.id, event.reminders,
-                                     reminderAnchor(event)))
-        return false;
-    QList<Attendee> attendees = event.attendees;
-    for (Attendee &attendee : attendees) {
-        if (attendee.role.isEmpty())
-            attendee.role = Attendee().role;
-        if (attendee.status.isEmpty())
-            attendee.status = Attendee().status;
-    }
-    return ChildRows::replace(database, attendeeRows(), event.id, attendees);
+    return writeChildren(database, event, ChildRows::Owner::Stored);
 }
 
 void EventRows::carryReminders(Database *database, Event &event)

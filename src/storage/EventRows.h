@@ -18,7 +18,8 @@ std::optional<Event> first(Database *database, const QString &tail, const QVaria
 /// Fills reminders and attendees: a few queries for all events, not two for each.
 void attachChildren(Database *database, QList<Event> &events);
 
-/// Replaces reminders and attendees of the stored row.
+/// Writes reminders and attendees of a row just inserted, or in place of those it has.
+bool insertChildren(Database *database, const Event &event);
 bool replaceChildren(Database *database, const Event &event);
 
 /// Gives the reminders of a record that is about to replace its row the state of the stored ones.

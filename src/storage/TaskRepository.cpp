@@ -61,10 +61,10 @@ void carryReminders(Database *database, Task &task)
                              !isSameInstant(reminderAnchor(*stored), reminderAnchor(task)));
 }
 
-bool replaceReminders(Database *database, const Task &task)
+bool writeReminders(Database *database, const Task &task, ChildRows::Owner owner)
 {
-    return ChildRows::replaceReminders(database, ChildRows::taskReminders(), task.id, task.reminders,
-                                       reminderAnchor(task));
+    return ChildRows::writeReminders(database, ChildRows::taskReminders(), owner, task.id, task.reminders,
+                                     reminderAnchor(task));
 }
 
 void fillDefaults(Task &task, QLatin1StringView syncStatus)
@@ -211,8 +211,8 @@ bool TaskRepository::insert(const Task &task)
     fillDefaults(row, SyncStatus::Synced);
 
     Savepoint savepoint(m_database);
-    if (!Tables::tasks().insert(m_database, row, "TaskRepository::insert failed:") || !replaceReminders(m_database, row)
-        || !savepoint.commit())
+    if (!Tables::tasks().insert(m_database, row, "TaskRepository::insert failed:")
+        || !writeReminders(m_database, row, ChildRows::Owner::New) || !savepoint.commit())
         return false;
     notifyChanged(row.calendarId);
     return true;
@@ -226,8 +226,8 @@ bool TaskRepository::update(const Task &task)
 
     Savepoint savepoint(m_database);
     carryReminders(m_database, row);
-    if (!Tables::tasks().update(m_database, row, "TaskRepository::update failed:") || !replaceReminders(m_database, row)
-        || !savepoint.commit())
+    if (!Tables::tasks().update(m_database, row, "TaskRepository::update failed:")
+        || !writeReminders(m_database, row, ChildRows::Owner::Stored) || !savepoint.commit())
         return false;
     notifyChanged(row.calendarId);
     return true;

@@ -61,6 +61,7 @@ MainWindow::MainWindow(AppState *state, QWidget *parent)
     buildStatusBar();
     new PlainKeyGuard(this);
     qApp->installEventFilter(this);
+    m_viewArea->setFocus(); // keys reach the events first, and not the mini month above them
 }
 
 MainWindow::~MainWindow() = default;

@@ -159,6 +159,7 @@ void ViewArea::setMode(const QString &requested)
     else if (mode == u"days")
         surface = m_days;
     m_stack->setCurrentWidget(surface);
+    setFocusProxy(surface);
     if (changed)
         surface->relandOnStartHour();
     updateDateLabel();

@@ -265,6 +265,7 @@ void tst_EventRanges::agreesOnForeignTexts()
     // What other programs may have written: no dates, half dates, dates that do not exist.
     const QStringList texts{ lit("2026-02-30T10:00:00Z"),
                              lit("2026-03-05T10:00:00Z"),
+                             lit("2026-03-09T10:00:00Z"),
                              lit("2026-03-02"),
                              lit("2026-2-1T1:00"),
                              lit("10:30"),

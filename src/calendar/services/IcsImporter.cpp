@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QPointer>
 #include <QSqlQuery>
 #include <QTimer>
 #include <QUuid>
@@ -31,26 +32,32 @@ int percentOf(qint64 done, qint64 total)
     return total > 0 ? static_cast<int>(std::min(done, total) * 100 / total) : 100;
 }
 
-/// While it lives, a commit does not wait for the disk: a power cut may take back the last slices, but the
-/// file stays whole, and importing again completes what is missing.
-class RelaxedCommits {
+/// Sets the database up for many writes while it lives. A commit does not wait for the disk: a power cut may
+/// take back the last slices, but the file stays whole, and importing again completes what is missing. What
+/// SQLite keeps to undo each single row stays in memory, as a temporary file takes most of the time.
+class BulkWrites {
 public:
-    explicit RelaxedCommits(Database *database)
+    explicit BulkWrites(Database *database)
         : m_database(database)
     {
         run(QStringLiteral("PRAGMA synchronous=NORMAL"));
+        run(QStringLiteral("PRAGMA temp_store=MEMORY"));
     }
-    ~RelaxedCommits() { run(QStringLiteral("PRAGMA synchronous=FULL")); }
-    Q_DISABLE_COPY_MOVE(RelaxedCommits)
+    ~BulkWrites()
+    {
+        run(QStringLiteral("PRAGMA synchronous=FULL"));
+        run(QStringLiteral("PRAGMA temp_store=DEFAULT"));
+    }
+    Q_DISABLE_COPY_MOVE(BulkWrites)
 
 private:
     void run(const QString &pragma)
     {
-        if (m_database->isOpen())
+        if (m_database && m_database->isOpen())
             QSqlQuery(m_database->db()).exec(pragma);
     }
 
-    Database *m_database;
+    QPointer<Database> m_database;
 };
 
 }
@@ -141,7 +148,7 @@ class IcsImporter::Storing {
 public:
     Storing(AppState *state, const QList<File> &files, QString calendarId)
         : m_state(state)
-        , m_relaxed(state->database())
+        , m_bulkWrites(state->database())
         , m_calendarId(std::move(calendarId))
         , m_files(files)
     {
@@ -206,7 +213,7 @@ private:
     }
 
     AppState *m_state;
-    RelaxedCommits m_relaxed;
+    BulkWrites m_bulkWrites;
     QString m_calendarId;
     QList<File> m_files;
     qsizetype m_total = 0; // events

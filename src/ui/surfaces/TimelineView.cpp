@@ -58,6 +58,7 @@ TimelineView::TimelineView(AppState *state, TimelineWidget *timeline, const QStr
     m_scroll->setMinimumSize(0, 0);
     m_scroll->setWidget(m_timeline);
     m_scroll->viewport()->installEventFilter(this);
+    setFocusProxy(m_timeline);
 
     m_timeline->setBaseHourHeight(state->hourHeight());
     m_timeline->setCompact(state->isCompact(mode));
