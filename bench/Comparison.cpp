@@ -22,9 +22,9 @@ struct Peer {
 QList<Peer> peers()
 {
     const QString bin = QStringLiteral(QUILLON_BIN_DIR "/");
-    QList<Peer> all = {{QStringLiteral("ours"), bin + u"quillon-bench"},
-                       {QStringLiteral("libical"), bin + u"quillon-bench-libical"},
-                       {QStringLiteral("KCalendarCore"), bin + u"quillon-bench-kcalendarcore"}};
+    QList<Peer> all = {{QStringLiteral("ours"), bin + QStringLiteral("quillon-bench")},
+                       {QStringLiteral("libical"), bin + QStringLiteral("quillon-bench-libical")},
+                       {QStringLiteral("KCalendarCore"), bin + QStringLiteral("quillon-bench-kcalendarcore")}};
     all.removeIf([](const Peer &peer) { return !QFileInfo::exists(peer.program); });
     return all;
 }
@@ -77,11 +77,11 @@ void compareExpand(const QString &work, const QString &file, const QString &from
         const auto lines = measure(peer, {QStringLiteral("expand"), file, from, to, QLatin1StringView(repeats)});
         first += lines.isEmpty() ? 0 : lines.first()[u"ms"].toDouble();
         warm += lines.isEmpty() ? 0 : lines.last()[u"ms"].toDouble();
-        counts += peer.name + u' ' + QString::number(lines.isEmpty() ? 0 : lines.last()[u"occ"].toInt());
+        counts += peer.name + QLatin1Char(' ') + QString::number(lines.isEmpty() ? 0 : lines.last()[u"occ"].toInt());
     }
-    printRow(work + u", first", first, "ms");
-    printRow(work + u", warm", warm, "ms");
-    std::printf("%38s  instances: %s\n", "", qPrintable(counts.join(u", ")));
+    printRow(work + QStringLiteral(", first"), first, "ms");
+    printRow(work + QStringLiteral(", warm"), warm, "ms");
+    std::printf("%38s  instances: %s\n", "", qPrintable(counts.join(QStringLiteral(", "))));
 }
 
 bool writeFile(const QString &path, const SampleFile::Shape &shape)

@@ -1,6 +1,7 @@
 #include "ProgramBench.h"
 
 #include "SampleFile.h"
+#include "app/state/AppState.h"
 #include "calendar/FilterEngine.h"
 #include "calendar/services/IcsImporter.h"
 #include "calendar/services/VisibleEvents.h"
@@ -25,7 +26,7 @@
 
 namespace {
 
-constexpr QDate monday(2026, 11, 16);
+const QDate monday(2026, 11, 16);
 constexpr int filterRules = 20;
 
 void row(const QString &work, double figure, const char *unit, double aim)
@@ -46,7 +47,7 @@ struct Import {
 };
 
 /// Imports the file into the calendar of a first start, as the window does.
-Import import(AppState *state, const QString &path)
+Import importFile(AppState *state, const QString &path)
 {
     IcsImporter importer(state);
     QEventLoop loop;
@@ -88,7 +89,7 @@ void addFilterRules(AppState *state)
 /// Ends with the database closed, so that other programs may open it.
 void fillDatabase(const QString &dataDir, int events)
 {
-    const QString file = dataDir + u"/sample.ics";
+    const QString file = dataDir + QStringLiteral("/sample.ics");
     QFile out(file);
     if (!out.open(QIODevice::WriteOnly))
         return;
@@ -96,10 +97,10 @@ void fillDatabase(const QString &dataDir, int events)
     out.close();
 
     AppState state;
-    state.openStorage(dataDir + u"/calendar.db");
+    state.openStorage(dataDir + QStringLiteral("/calendar.db"));
     state.seedDefaultCalendarIfMissing();
     state.restoreViewState();
-    const Import measured = import(&state, file);
+    const Import measured = importFile(&state, file);
     addFilterRules(&state);
     row(withCount("import of %1 events: store", events), measured.storeMs, "ms", 3000.0 * events / 10'000);
     row(withCount("import of %1 events: longest hold of the event loop", events), measured.longestHoldMs, "ms", 50);
@@ -108,7 +109,7 @@ void fillDatabase(const QString &dataDir, int events)
 void measureReload(const QString &dataDir, int events)
 {
     AppState state;
-    state.openStorage(dataDir + u"/calendar.db");
+    state.openStorage(dataDir + QStringLiteral("/calendar.db"));
     state.restoreViewState();
     VisibleEvents visible(&state);
 
@@ -179,11 +180,12 @@ void measureStart(const QString &dataDir, int events, double aimMs)
 
     QProcess program;
     program.setProcessEnvironment(environment);
+    program.setProcessChannelMode(QProcess::MergedChannels);
     const Report::Stopwatch watch;
     program.start(QStringLiteral(QUILLON_BIN_DIR "/quillon-calendar"), {});
     QByteArray log;
     while (!log.contains("first painted") && program.waitForReadyRead(20'000))
-        log += program.readAllStandardError() + program.readAllStandardOutput();
+        log += program.readAll();
     if (!log.contains("first painted")) {
         std::printf("the program did not start: %s\n", log.constData());
         return;

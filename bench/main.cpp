@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QLoggingCategory>
 
 #include <cstdio>
 
@@ -49,6 +50,7 @@ std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
 
 int main(int argc, char **argv)
 {
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false")); // figures only
     const auto application = makeApplication(argc, argv);
     return dispatch(QCoreApplication::arguments()) ? 0 : 1;
 }

@@ -15,3 +15,5 @@ struct Attendee {
 
     bool operator==(const Attendee &) const = default;
 };
+
+Q_DECLARE_TYPEINFO(Attendee, Q_RELOCATABLE_TYPE);

@@ -40,3 +40,5 @@ struct Calendar {
 
     bool operator==(const Calendar &) const = default;
 };
+
+Q_DECLARE_TYPEINFO(Calendar, Q_RELOCATABLE_TYPE);

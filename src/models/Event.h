@@ -59,3 +59,5 @@ struct Event {
 
     bool operator==(const Event &) const = default;
 };
+
+Q_DECLARE_TYPEINFO(Event, Q_RELOCATABLE_TYPE);

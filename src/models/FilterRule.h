@@ -27,3 +27,5 @@ struct FilterRule {
 
     bool operator==(const FilterRule &) const = default;
 };
+
+Q_DECLARE_TYPEINFO(FilterRule, Q_RELOCATABLE_TYPE);

@@ -20,3 +20,5 @@ struct Reminder {
 
     bool operator==(const Reminder &) const = default;
 };
+
+Q_DECLARE_TYPEINFO(Reminder, Q_RELOCATABLE_TYPE);

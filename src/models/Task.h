@@ -52,3 +52,6 @@ struct TreeTask : Task {
 
     bool operator==(const TreeTask &) const = default;
 };
+
+Q_DECLARE_TYPEINFO(Task, Q_RELOCATABLE_TYPE);
+Q_DECLARE_TYPEINFO(TreeTask, Q_RELOCATABLE_TYPE);

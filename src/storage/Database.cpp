@@ -27,6 +27,8 @@ bool Database::open(const QString &path)
     QSqlQuery query(m_db);
     query.exec(QStringLiteral("PRAGMA journal_mode=WAL"));
     query.exec(QStringLiteral("PRAGMA foreign_keys=ON"));
+    // Each nested savepoint would else keep its journal in a file.
+    query.exec(QStringLiteral("PRAGMA temp_store=MEMORY"));
     m_isOpen = true;
     return true;
 }

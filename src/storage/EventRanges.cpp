@@ -13,14 +13,14 @@ namespace {
 constexpr int maxShortDays = 7;
 
 // True for rows that a scan over starts finds: the digits of the end lie at most a week behind those of
-// the start. Dates that SQLite would bend into others (30 February) do not count as short.
+// the start. A date that SQLite bends into another once it counts with it (30 February) is not short.
 QString isShort()
 {
     return QStringLiteral("((recurrence_rule IS NULL OR recurrence_rule = '') AND end_time IS NOT NULL"
                           " AND (recurrence_id IS NULL OR recurrence_id = ''"
                           " OR master_event_uid IS NULL OR master_event_uid = '')"
                           " AND (substr(end_time, 1, 10) = substr(start_time, 1, 10)"
-                          " OR (date(substr(start_time, 1, 10)) = substr(start_time, 1, 10)"
+                          " OR (date(substr(start_time, 1, 10), '+0 days') = substr(start_time, 1, 10)"
                           " AND substr(end_time, 1, 10) <= date(substr(start_time, 1, 10), '+%1 days'))))")
         .arg(maxShortDays);
 }

@@ -41,12 +41,10 @@ public:
         : m_database(database)
     {
         run(QStringLiteral("PRAGMA synchronous=NORMAL"));
-        run(QStringLiteral("PRAGMA temp_store=MEMORY"));
     }
     ~BulkWrites()
     {
         run(QStringLiteral("PRAGMA synchronous=FULL"));
-        run(QStringLiteral("PRAGMA temp_store=DEFAULT"));
     }
     Q_DISABLE_COPY_MOVE(BulkWrites)
 
