@@ -28,11 +28,14 @@ namespace {
 
 const QDate monday(2026, 11, 16);
 constexpr int filterRules = 20;
+constexpr int aimedCount = 10'000; // import and memory are measured with more, too, but judged at this
 
-void row(const QString &work, double figure, const char *unit, double aim)
+void row(const QString &work, double figure, const char *unit, std::optional<double> aim = std::nullopt)
 {
-    std::printf("%-58s %9.1f %-3s   aim %6.0f %-3s %s\n", qPrintable(work), figure, unit, aim, unit,
-                figure <= aim ? "" : "  <-- missed");
+    std::printf("%-72s %9.1f %-3s", qPrintable(work), figure, unit);
+    if (aim)
+        std::printf("   aim %6.0f %-3s%s", *aim, unit, figure <= *aim ? "" : "  <-- missed");
+    std::printf("\n");
     std::fflush(stdout);
 }
 
@@ -102,7 +105,8 @@ void fillDatabase(const QString &dataDir, int events)
     state.restoreViewState();
     const Import measured = importFile(&state, file);
     addFilterRules(&state);
-    row(withCount("import of %1 events: store", events), measured.storeMs, "ms", 3000.0 * events / 10'000);
+    row(withCount("import of %1 events: store", events), measured.storeMs, "ms",
+        events == aimedCount ? std::optional(3000.0) : std::nullopt);
     row(withCount("import of %1 events: longest hold of the event loop", events), measured.longestHoldMs, "ms", 50);
 }
 
@@ -115,7 +119,7 @@ void measureReload(const QString &dataDir, int events)
 
     const Report::Stopwatch first;
     const qsizetype shown = visible.inRange(monday, 7)->events.size();
-    row(withCount("week reload with 20 rules, %1 stored, first", events), first.elapsedMs(), "ms", 250);
+    row(withCount("week reload with 20 rules, %1 stored, first", events), first.elapsedMs(), "ms");
 
     constexpr int repeats = 10;
     const Report::Stopwatch warm;
@@ -192,7 +196,8 @@ void measureStart(const QString &dataDir, int events, double aimMs)
     }
     row(withCount("start to first painted week, %1 stored", events), watch.elapsedMs(), "ms", aimMs);
     QThread::msleep(2000); // let what runs after the first paint settle before its memory is read
-    row(withCount("memory with %1 events, proportional set", events), proportionalSetMib(program.processId()), "MiB", 100);
+    row(withCount("memory with %1 events, proportional set", events), proportionalSetMib(program.processId()), "MiB",
+        events == aimedCount ? std::optional(100.0) : std::nullopt);
     program.terminate();
     program.waitForFinished(5000);
 }
@@ -202,7 +207,7 @@ void measureStart(const QString &dataDir, int events, double aimMs)
 bool ProgramBench::run()
 {
     std::printf("\nThe program\n");
-    for (const auto &[events, aimMs] : {std::pair(10'000, 500.0), std::pair(50'000, 1000.0)}) {
+    for (const auto &[events, aimMs] : {std::pair(aimedCount, 500.0), std::pair(50'000, 1000.0)}) {
         QTemporaryDir dir;
         if (!dir.isValid())
             return false;

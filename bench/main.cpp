@@ -7,6 +7,7 @@
 #include "Comparison.h"
 #include "ProgramBench.h"
 #include "SampleFile.h"
+#include "platform/LocalTime.h"
 
 #include <QApplication>
 #include <QFile>
@@ -50,6 +51,7 @@ std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
 
 int main(int argc, char **argv)
 {
+    LocalTime::settle(); // as the program does
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false\n*.info=false")); // figures only
     const auto application = makeApplication(argc, argv);
     return dispatch(QCoreApplication::arguments()) ? 0 : 1;
