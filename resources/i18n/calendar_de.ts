@@ -42,6 +42,11 @@
             <source>+%1 more</source>
             <translation>+%1 weitere</translation>
         </message>
+        <message>
+            <source>+%1</source>
+            <extracomment>the short form of "+%1 more"</extracomment>
+            <translation>+%1</translation>
+        </message>
     </context>
     <context>
         <name>Application</name>
@@ -267,10 +272,12 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
         <name>EventText</name>
         <message>
             <source>ddd, MMM d</source>
+            <extracomment>weekday and date of an event, as a date pattern</extracomment>
             <translation>ddd, d. MMM</translation>
         </message>
         <message>
             <source>%1, all day</source>
+            <extracomment>%1 is a date, or two with a dash</extracomment>
             <translation>%1, ganztägig</translation>
         </message>
         <message>
@@ -636,10 +643,6 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
             <translation>Kalendergruppe</translation>
         </message>
         <message>
-            <source>All Calendars</source>
-            <translation>Alle Kalender</translation>
-        </message>
-        <message>
             <source>Calendar group: %1</source>
             <translation>Kalendergruppe: %1</translation>
         </message>
@@ -669,6 +672,13 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
         <message>
             <source>&amp;Previous Group</source>
             <translation>&amp;Vorherige Gruppe</translation>
+        </message>
+    </context>
+    <context>
+        <name>GroupName</name>
+        <message>
+            <source>All Calendars</source>
+            <translation>Alle Kalender</translation>
         </message>
     </context>
     <context>
@@ -760,6 +770,29 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
             <translation>
                 <numerusform> %n Termin konnte nicht gespeichert werden.</numerusform>
                 <numerusform> %n Termine konnten nicht gespeichert werden.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Import failed</source>
+            <translation>Import fehlgeschlagen</translation>
+        </message>
+        <message>
+            <source>The chosen calendar was deleted in the meantime.</source>
+            <translation>Der gewählte Kalender wurde inzwischen gelöscht.</translation>
+        </message>
+        <message>
+            <source>Import incomplete</source>
+            <translation>Import unvollständig</translation>
+        </message>
+        <message>
+            <source>"%1" is too large to import.</source>
+            <translation>„%1“ ist zu groß für den Import.</translation>
+        </message>
+        <message numerus="yes">
+            <source> Skipped %n event(s) that are too large.</source>
+            <translation>
+                <numerusform> %n zu großer Termin übersprungen.</numerusform>
+                <numerusform> %n zu große Termine übersprungen.</numerusform>
             </translation>
         </message>
     </context>
@@ -1216,10 +1249,6 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
             <source>Start &amp;minimized</source>
             <translation>&amp;Minimiert starten</translation>
         </message>
-        <message>
-            <source>Close to tra&amp;y</source>
-            <translation>In den &amp;Infobereich schließen</translation>
-        </message>
     </context>
     <context>
         <name>QuillonUpdate::UpdateDialog</name>
@@ -1242,6 +1271,38 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
         <message>
             <source>Later</source>
             <translation>Später</translation>
+        </message>
+    </context>
+    <context>
+        <name>Reminder</name>
+        <message>
+            <source>At time of event</source>
+            <translation>Zum Zeitpunkt des Termins</translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s) before</source>
+            <translation>
+                <numerusform>%n Minute vorher</numerusform>
+                <numerusform>%n Minuten vorher</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n hour(s) before</source>
+            <translation>
+                <numerusform>%n Stunde vorher</numerusform>
+                <numerusform>%n Stunden vorher</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n day(s) before</source>
+            <translation>
+                <numerusform>%n Tag vorher</numerusform>
+                <numerusform>%n Tage vorher</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>%1 minutes before</source>
+            <translation>%1 Minuten vorher</translation>
         </message>
     </context>
     <context>

@@ -42,6 +42,11 @@
             <source>+%1 more</source>
             <translation>+%1 más</translation>
         </message>
+        <message>
+            <source>+%1</source>
+            <extracomment>the short form of "+%1 more"</extracomment>
+            <translation>+%1</translation>
+        </message>
     </context>
     <context>
         <name>Application</name>
@@ -267,10 +272,12 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
         <name>EventText</name>
         <message>
             <source>ddd, MMM d</source>
+            <extracomment>weekday and date of an event, as a date pattern</extracomment>
             <translation>ddd, d MMM</translation>
         </message>
         <message>
             <source>%1, all day</source>
+            <extracomment>%1 is a date, or two with a dash</extracomment>
             <translation>%1, todo el día</translation>
         </message>
         <message>
@@ -636,10 +643,6 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
             <translation>Grupo de calendarios</translation>
         </message>
         <message>
-            <source>All Calendars</source>
-            <translation>Todos los calendarios</translation>
-        </message>
-        <message>
             <source>Calendar group: %1</source>
             <translation>Grupo de calendarios: %1</translation>
         </message>
@@ -669,6 +672,13 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
         <message>
             <source>&amp;Previous Group</source>
             <translation>Grupo &amp;anterior</translation>
+        </message>
+    </context>
+    <context>
+        <name>GroupName</name>
+        <message>
+            <source>All Calendars</source>
+            <translation>Todos los calendarios</translation>
         </message>
     </context>
     <context>
@@ -760,6 +770,29 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
             <translation>
                 <numerusform> No se pudo guardar %n evento.</numerusform>
                 <numerusform> No se pudieron guardar %n eventos.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Import failed</source>
+            <translation>Error al importar</translation>
+        </message>
+        <message>
+            <source>The chosen calendar was deleted in the meantime.</source>
+            <translation>El calendario elegido se ha eliminado entretanto.</translation>
+        </message>
+        <message>
+            <source>Import incomplete</source>
+            <translation>Importación incompleta</translation>
+        </message>
+        <message>
+            <source>"%1" is too large to import.</source>
+            <translation>«%1» es demasiado grande para importarlo.</translation>
+        </message>
+        <message numerus="yes">
+            <source> Skipped %n event(s) that are too large.</source>
+            <translation>
+                <numerusform> Se ha omitido %n evento demasiado grande.</numerusform>
+                <numerusform> Se han omitido %n eventos demasiado grandes.</numerusform>
             </translation>
         </message>
     </context>
@@ -1216,10 +1249,6 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
             <source>Start &amp;minimized</source>
             <translation>Iniciar &amp;minimizado</translation>
         </message>
-        <message>
-            <source>Close to tra&amp;y</source>
-            <translation>Cerrar a la &amp;bandeja del sistema</translation>
-        </message>
     </context>
     <context>
         <name>QuillonUpdate::UpdateDialog</name>
@@ -1242,6 +1271,38 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
         <message>
             <source>Later</source>
             <translation>Más tarde</translation>
+        </message>
+    </context>
+    <context>
+        <name>Reminder</name>
+        <message>
+            <source>At time of event</source>
+            <translation>A la hora del evento</translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s) before</source>
+            <translation>
+                <numerusform>%n minuto antes</numerusform>
+                <numerusform>%n minutos antes</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n hour(s) before</source>
+            <translation>
+                <numerusform>%n hora antes</numerusform>
+                <numerusform>%n horas antes</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n day(s) before</source>
+            <translation>
+                <numerusform>%n día antes</numerusform>
+                <numerusform>%n días antes</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>%1 minutes before</source>
+            <translation>%1 minutos antes</translation>
         </message>
     </context>
     <context>

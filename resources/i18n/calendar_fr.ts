@@ -42,6 +42,11 @@
             <source>+%1 more</source>
             <translation>+%1 de plus</translation>
         </message>
+        <message>
+            <source>+%1</source>
+            <extracomment>the short form of "+%1 more"</extracomment>
+            <translation>+%1</translation>
+        </message>
     </context>
     <context>
         <name>Application</name>
@@ -267,10 +272,12 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
         <name>EventText</name>
         <message>
             <source>ddd, MMM d</source>
+            <extracomment>weekday and date of an event, as a date pattern</extracomment>
             <translation>ddd d MMM</translation>
         </message>
         <message>
             <source>%1, all day</source>
+            <extracomment>%1 is a date, or two with a dash</extracomment>
             <translation>%1, journée entière</translation>
         </message>
         <message>
@@ -636,10 +643,6 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
             <translation>Groupe de calendriers</translation>
         </message>
         <message>
-            <source>All Calendars</source>
-            <translation>Tous les calendriers</translation>
-        </message>
-        <message>
             <source>Calendar group: %1</source>
             <translation>Groupe de calendriers : %1</translation>
         </message>
@@ -669,6 +672,13 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
         <message>
             <source>&amp;Previous Group</source>
             <translation>Groupe &amp;précédent</translation>
+        </message>
+    </context>
+    <context>
+        <name>GroupName</name>
+        <message>
+            <source>All Calendars</source>
+            <translation>Tous les calendriers</translation>
         </message>
     </context>
     <context>
@@ -760,6 +770,29 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
             <translation>
                 <numerusform> %n événement n’a pas pu être enregistré.</numerusform>
                 <numerusform> %n événements n’ont pas pu être enregistrés.</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Import failed</source>
+            <translation>Échec de l’importation</translation>
+        </message>
+        <message>
+            <source>The chosen calendar was deleted in the meantime.</source>
+            <translation>Le calendrier choisi a été supprimé entre-temps.</translation>
+        </message>
+        <message>
+            <source>Import incomplete</source>
+            <translation>Importation incomplète</translation>
+        </message>
+        <message>
+            <source>"%1" is too large to import.</source>
+            <translation>« %1 » est trop volumineux pour être importé.</translation>
+        </message>
+        <message numerus="yes">
+            <source> Skipped %n event(s) that are too large.</source>
+            <translation>
+                <numerusform> %n événement trop volumineux ignoré.</numerusform>
+                <numerusform> %n événements trop volumineux ignorés.</numerusform>
             </translation>
         </message>
     </context>
@@ -1216,10 +1249,6 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
             <source>Start &amp;minimized</source>
             <translation>Démarrer en fenêtre &amp;réduite</translation>
         </message>
-        <message>
-            <source>Close to tra&amp;y</source>
-            <translation>Fermer dans la &amp;zone de notification</translation>
-        </message>
     </context>
     <context>
         <name>QuillonUpdate::UpdateDialog</name>
@@ -1242,6 +1271,38 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
         <message>
             <source>Later</source>
             <translation>Plus tard</translation>
+        </message>
+    </context>
+    <context>
+        <name>Reminder</name>
+        <message>
+            <source>At time of event</source>
+            <translation>À l’heure de l’événement</translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s) before</source>
+            <translation>
+                <numerusform>%n minute avant</numerusform>
+                <numerusform>%n minutes avant</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n hour(s) before</source>
+            <translation>
+                <numerusform>%n heure avant</numerusform>
+                <numerusform>%n heures avant</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n day(s) before</source>
+            <translation>
+                <numerusform>%n jour avant</numerusform>
+                <numerusform>%n jours avant</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>%1 minutes before</source>
+            <translation>%1 minutes avant</translation>
         </message>
     </context>
     <context>

@@ -42,6 +42,11 @@
             <source>+%1 more</source>
             <translation>他%1件</translation>
         </message>
+        <message>
+            <source>+%1</source>
+            <extracomment>the short form of "+%1 more"</extracomment>
+            <translation>+%1</translation>
+        </message>
     </context>
     <context>
         <name>Application</name>
@@ -267,10 +272,12 @@ Please check file permissions and try again.</source>
         <name>EventText</name>
         <message>
             <source>ddd, MMM d</source>
+            <extracomment>weekday and date of an event, as a date pattern</extracomment>
             <translation>M月d日(ddd)</translation>
         </message>
         <message>
             <source>%1, all day</source>
+            <extracomment>%1 is a date, or two with a dash</extracomment>
             <translation>%1、終日</translation>
         </message>
         <message>
@@ -633,10 +640,6 @@ Please check file permissions and try again.</source>
             <translation>カレンダーグループ</translation>
         </message>
         <message>
-            <source>All Calendars</source>
-            <translation>すべてのカレンダー</translation>
-        </message>
-        <message>
             <source>Calendar group: %1</source>
             <translation>カレンダーグループ: %1</translation>
         </message>
@@ -666,6 +669,13 @@ Please check file permissions and try again.</source>
         <message>
             <source>&amp;Previous Group</source>
             <translation>前のグループ(&amp;P)</translation>
+        </message>
+    </context>
+    <context>
+        <name>GroupName</name>
+        <message>
+            <source>All Calendars</source>
+            <translation>すべてのカレンダー</translation>
         </message>
     </context>
     <context>
@@ -754,6 +764,28 @@ Please check file permissions and try again.</source>
             <source> %n event(s) could not be stored.</source>
             <translation>
                 <numerusform> イベント%n件を保存できませんでした。</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Import failed</source>
+            <translation>インポートに失敗しました</translation>
+        </message>
+        <message>
+            <source>The chosen calendar was deleted in the meantime.</source>
+            <translation>選択したカレンダーはその間に削除されました。</translation>
+        </message>
+        <message>
+            <source>Import incomplete</source>
+            <translation>インポートは完了していません</translation>
+        </message>
+        <message>
+            <source>"%1" is too large to import.</source>
+            <translation>「%1」は大きすぎるためインポートできません。</translation>
+        </message>
+        <message numerus="yes">
+            <source> Skipped %n event(s) that are too large.</source>
+            <translation>
+                <numerusform> 大きすぎるイベント %n 件をスキップしました。</numerusform>
             </translation>
         </message>
     </context>
@@ -1210,10 +1242,6 @@ Please check file permissions and try again.</source>
             <source>Start &amp;minimized</source>
             <translation>最小化して起動(&amp;M)</translation>
         </message>
-        <message>
-            <source>Close to tra&amp;y</source>
-            <translation>閉じたらトレイに格納(&amp;Y)</translation>
-        </message>
     </context>
     <context>
         <name>QuillonUpdate::UpdateDialog</name>
@@ -1236,6 +1264,35 @@ Please check file permissions and try again.</source>
         <message>
             <source>Later</source>
             <translation>後で</translation>
+        </message>
+    </context>
+    <context>
+        <name>Reminder</name>
+        <message>
+            <source>At time of event</source>
+            <translation>イベントの開始時刻</translation>
+        </message>
+        <message numerus="yes">
+            <source>%n minute(s) before</source>
+            <translation>
+                <numerusform>%n分前</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n hour(s) before</source>
+            <translation>
+                <numerusform>%n時間前</numerusform>
+            </translation>
+        </message>
+        <message numerus="yes">
+            <source>%n day(s) before</source>
+            <translation>
+                <numerusform>%n日前</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>%1 minutes before</source>
+            <translation>%1分前</translation>
         </message>
     </context>
     <context>

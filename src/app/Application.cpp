@@ -19,7 +19,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLibraryInfo>
-#include <QLocale>
 #include <QMessageBox>
 #include <QSettings>
 #include <QTimer>
@@ -89,13 +88,16 @@ QuillonUpdate::Config Application::updateConfig()
              .version = QString::fromLatin1(BuildSettings::Version) };
 }
 
+QLocale Application::localeFor(const QString &language, const QLocale &system)
+{
+    // The system's own locale also knows what was set apart from it, such as LC_TIME.
+    return languageOf(system) == language ? system : QLocale(QLocale(language).language(), system.territory());
+}
+
 void Application::installTranslators()
 {
     const QString language = currentLanguage(true);
-    // Dates and numbers speak the language of the labels; in the system's own language they also follow
-    // its territory ("en" on a British machine puts the day before the month).
-    const QLocale system = QLocale::system();
-    QLocale::setDefault(languageOf(system) == language ? system : QLocale(language));
+    QLocale::setDefault(localeFor(language, QLocale::system()));
 
     if (language != QLatin1StringView("en")) {
         auto *translator = new QTranslator(this);

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QByteArray>
+#include <QLocale>
 #include <QString>
 #include <QStringList>
 
@@ -27,6 +28,10 @@ public:
     static QString currentLanguage(bool resolveSystem);
     static void setPreferredLanguage(const QString &language); ///< takes effect at the next start
     static QStringList supportedLanguages();
+    /// Dates and numbers in the language of the labels, with the habits of \p system's territory: its own
+    /// locale if that is the language, else the language as it is spoken there, or in its main country where
+    /// no such locale is known (English in Germany is; English in Japan is not, and gives en_US).
+    static QLocale localeFor(const QString &language, const QLocale &system);
     static QuillonUpdate::Config updateConfig();
 
     void setSingleInstance(SingleInstance *singleInstance) { m_singleInstance = singleInstance; }

@@ -11,11 +11,17 @@
 #include <QStandardPaths>
 #include <QWidget>
 
+#ifdef Q_OS_LINUX
+#include <sys/socket.h>
+#include <unistd.h>
+#endif
+
 namespace {
 
 constexpr int SocketTimeoutMs = 800;
 constexpr int ModalRetryMs = 100;
 constexpr qsizetype MaxWaiting = 64;
+constexpr qsizetype MaxWaitingFiles = 1024; // in a row, as a file manager opens a whole selection
 constexpr qsizetype LoggedBytes = 200;
 constexpr char ActivationTokenVariable[] = "XDG_ACTIVATION_TOKEN";
 
@@ -34,6 +40,23 @@ QString absolutePath(const QString &path)
     return path.isEmpty() ? path : QFileInfo(path).absoluteFilePath();
 }
 
+// The socket's folder is open to everyone, so anyone may have put a socket of this name there.
+bool isServedByThisUser([[maybe_unused]] const QLocalSocket &socket)
+{
+#ifdef Q_OS_LINUX
+    ucred peer{};
+    socklen_t size = sizeof(peer);
+    if (getsockopt(static_cast<int>(socket.socketDescriptor()), SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0)
+        return peer.uid == geteuid();
+#endif
+    return true; // cannot be told here
+}
+
+bool opensFile(const QByteArray &line)
+{
+    return QJsonDocument::fromJson(line).object().value(CmdKey) == QLatin1StringView("open-ics");
+}
+
 // On Wayland only the token that the desktop gave to this launch lets the running window come to the front.
 QByteArray withActivationToken(const QByteArray &line)
 {
@@ -47,8 +70,9 @@ QByteArray withActivationToken(const QByteArray &line)
 
 }
 
-SingleInstance::SingleInstance(QObject *parent)
+SingleInstance::SingleInstance(QObject *parent, const QString &platform)
     : QObject(parent)
+    , m_platform(platform)
 {
     m_retry.setInterval(ModalRetryMs);
     connect(&m_retry, &QTimer::timeout, this, &SingleInstance::dispatchWaiting);
@@ -95,13 +119,16 @@ bool SingleInstance::tryRouteToExisting(const QStringList &args)
     const QString name = socketName();
     QLocalSocket socket;
     socket.connectToServer(name);
-    if (socket.waitForConnected(SocketTimeoutMs)) {
+    const bool isConnected = socket.waitForConnected(SocketTimeoutMs);
+    if (isConnected && isServedByThisUser(socket)) {
         socket.write(withActivationToken(parseArgsToCommand(args)));
         socket.flush();
         socket.waitForBytesWritten(SocketTimeoutMs);
         socket.disconnectFromServer();
         return true;
     }
+    if (isConnected)
+        qWarning().noquote() << "[SingleInstance] another user listens on" << name;
 
     QLocalServer::removeServer(name); // left behind by a crash
     m_server = new QLocalServer(this);
@@ -141,8 +168,9 @@ void SingleInstance::readLines(QLocalSocket *socket, int &linesLeft)
 
 void SingleInstance::enqueue(const QByteArray &line)
 {
-    if (m_waiting.size() < MaxWaiting)
-        m_waiting.append(line);
+    if (!keep(line))
+        qWarning() << "[SingleInstance] too many commands wait for a dialog; dropped:"
+                   << line.first(qMin(line.size(), LoggedBytes));
     dispatchWaiting();
     // What the new launch was meant to bring to the front is the dialog that holds it up.
     if (QWidget *modal = m_waiting.isEmpty() ? nullptr : QApplication::activeModalWidget()) {
@@ -151,11 +179,32 @@ void SingleInstance::enqueue(const QByteArray &line)
     }
 }
 
+bool SingleInstance::keep(const QByteArray &line)
+{
+    const bool opensFiles = opensFile(line);
+    if (opensFiles && !m_waiting.isEmpty() && m_waiting.constLast().opensFiles) {
+        QList<QByteArray> &row = m_waiting.last().lines;
+        if (row.size() < MaxWaitingFiles) {
+            row.append(line);
+            return true;
+        }
+        return false;
+    }
+    if (m_waiting.size() >= MaxWaiting)
+        return false;
+    m_waiting.append({ { line }, opensFiles });
+    return true;
+}
+
 void SingleInstance::dispatchWaiting()
 {
-    // Each command may open a modal dialog in its turn, and the rest then waits for that one.
-    while (!m_waiting.isEmpty() && !QApplication::activeModalWidget())
-        dispatchCommand(m_waiting.takeFirst());
+    // Each command may open a modal dialog in its turn, and the rest then waits for that one. Files go
+    // together: the import takes them one after the other by itself.
+    while (!m_waiting.isEmpty() && !QApplication::activeModalWidget()) {
+        const Waiting next = m_waiting.takeFirst();
+        for (const QByteArray &line : next.lines)
+            dispatchCommand(line);
+    }
     if (m_waiting.isEmpty())
         m_retry.stop();
     else
@@ -173,9 +222,19 @@ void SingleInstance::dispatchCommand(const QByteArray &line)
         return;
     }
     const QJsonObject command = document.object();
-    if (const QString token = command.value(TokenKey).toString(); !token.isEmpty())
-        qputenv(ActivationTokenVariable, token.toUtf8());
+    const QString token = command.value(TokenKey).toString();
+    if (token.isEmpty() || m_platform != QLatin1StringView("wayland")) {
+        emitCommand(command);
+        return;
+    }
+    // Qt takes it from the environment; a program that is started from here later must not inherit it.
+    qputenv(ActivationTokenVariable, token.toUtf8());
+    emitCommand(command);
+    qunsetenv(ActivationTokenVariable);
+}
 
+void SingleInstance::emitCommand(const QJsonObject &command)
+{
     const QString cmd = command.value(CmdKey).toString();
     if (cmd == QLatin1StringView("show-today"))
         emit showTodayRequested();

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QByteArray>
+#include <QGuiApplication>
 #include <QList>
 #include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QTimer>
 
+class QJsonObject;
 class QLocalServer;
 class QLocalSocket;
 
@@ -21,9 +23,10 @@ public:
     /// A launch sends one line; who sends more than these is cut off.
     static constexpr int MaxLinesPerConnection = 64;
 
-    explicit SingleInstance(QObject *parent = nullptr);
+    /// \p platform is Qt's name of the window system: only one of them takes activation tokens.
+    explicit SingleInstance(QObject *parent = nullptr, const QString &platform = QGuiApplication::platformName());
 
-    /// True if another instance took the command. Else this one listens from now on.
+    /// True if another instance of the same user took the command. Else this one listens from now on.
     /// Blocks for up to 1.6 s; call it before the event loop starts.
     bool tryRouteToExisting(const QStringList &args);
 
@@ -44,11 +47,20 @@ signals:
 
 private:
     void onNewConnection();
+    /// Commands that are carried out together: one, or a row of files to open.
+    struct Waiting {
+        QList<QByteArray> lines;
+        bool opensFiles = false;
+    };
+
     void readLines(QLocalSocket *socket, int &linesLeft);
     void enqueue(const QByteArray &line);
+    bool keep(const QByteArray &line);
     void dispatchWaiting();
+    void emitCommand(const QJsonObject &command);
 
+    QString m_platform;
     QLocalServer *m_server = nullptr; // null until this is the running instance
-    QList<QByteArray> m_waiting; // while a modal dialog is open
+    QList<Waiting> m_waiting; // while a modal dialog is open
     QTimer m_retry;
 };

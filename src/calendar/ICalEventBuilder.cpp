@@ -2,6 +2,8 @@
 
 #include "calendar/ICalParser.h"
 #include "calendar/RruleExpander.h"
+#include "calendar/TimeZones.h"
+#include "calendar/WallClock.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -19,6 +21,11 @@ constexpr std::string_view WrapperTail{ "END:VCALENDAR\r\n" };
 constexpr std::string_view LineBreak{ "\r\n" };
 constexpr int LastYear = 9999;
 constexpr qsizetype CompactDateLength = 8; // yyyyMMdd
+// What no calendar has: more would only fill the memory and the database.
+constexpr size_t MaxTextBytes = 16 * 1024 * 1024;
+constexpr qsizetype MaxExceptionDates = 10'000;
+constexpr qsizetype MaxAttendees = 1000;
+constexpr qsizetype MaxReminders = 100;
 
 QString addressFrom(QByteArrayView value)
 {
@@ -56,6 +63,7 @@ EventBuilder::EventBuilder()
 void EventBuilder::begin()
 {
     m_event = Event();
+    m_isTooLarge = false;
     m_hasEnd = false;
     m_durationSeconds = 0;
     m_exceptionDates.clear();
@@ -65,13 +73,17 @@ void EventBuilder::begin()
 
 void EventBuilder::addLine(QByteArrayView line)
 {
+    m_isTooLarge = m_isTooLarge || m_raw.size() + size_t(line.size()) > MaxTextBytes;
+    if (m_isTooLarge)
+        return;
     m_raw.append(line.data(), size_t(line.size())).append(LineBreak);
     if (line == "BEGIN:VALARM") {
         m_alarm.emplace();
     } else if (!m_alarm) {
         readProperty(ContentLine(line));
     } else if (line == "END:VALARM") {
-        if (const std::optional<Reminder> reminder = m_alarm->eventReminder())
+        const std::optional<Reminder> reminder = m_alarm->eventReminder();
+        if (reminder && m_event.reminders.size() < MaxReminders)
             m_event.reminders.append(*reminder);
         m_alarm.reset();
     } else {
@@ -83,6 +95,8 @@ Event EventBuilder::finish()
 {
     m_raw.append("END:VEVENT\r\n").append(WrapperTail);
     m_event.rawIcalendar = QString::fromStdString(m_raw);
+    if (!m_event.isAllDay)
+        giveExceptionDatesATime();
     m_event.exceptionDates = exceptionDatesJson();
     if (!m_event.recurrenceId.isEmpty())
         m_event.masterEventUid = m_event.uid;
@@ -188,7 +202,7 @@ void EventBuilder::readExceptionDates(const ContentLine &line)
 {
     const QByteArrayView tzid = line.parameter("TZID");
     const QByteArrayView value = line.value();
-    for (qsizetype from = 0; from < value.size();) {
+    for (qsizetype from = 0; from < value.size() && m_exceptionDates.size() < MaxExceptionDates;) {
         const qsizetype comma = value.indexOf(',', from);
         const qsizetype end = comma < 0 ? value.size() : comma;
         const QByteArrayView text = value.sliced(from, end - from).trimmed();
@@ -196,10 +210,32 @@ void EventBuilder::readExceptionDates(const ContentLine &line)
         const auto [time, isDate] = m_times.read(text, tzid);
         if (!time.isValid())
             continue;
-        const bool isAsItStands = isDate || time.timeSpec() == Qt::LocalTime;
-        m_exceptionDates.append(
-            { .date = QString::fromLatin1(text.first(CompactDateLength)),
-              .instant = isAsItStands ? QString::fromLatin1(text) : RruleExpander::formatRecurrenceId(time) });
+        ExceptionDate &exception = m_exceptionDates.emplace_back();
+        exception.date = QString::fromLatin1(text.first(CompactDateLength));
+        if (!isDate && time.timeSpec() == Qt::LocalTime)
+            exception.instant = QString::fromLatin1(text);
+        else if (!isDate)
+            exception.instant = RruleExpander::formatRecurrenceId(time);
+    }
+}
+
+/// Some programs exclude an instance of a timed series by its date alone.
+void EventBuilder::giveExceptionDatesATime()
+{
+    const bool hasDates = std::ranges::any_of(m_exceptionDates, &QString::isEmpty, &ExceptionDate::instant);
+    if (!hasDates || !m_event.startTime.isValid())
+        return;
+    // DTSTART may have a TZID and yet be in UTC. The instances step in the zone.
+    const QTimeZone zone = TimeZones::ianaZone(m_event.timezone);
+    const bool isFloating = m_event.startTime.timeSpec() == Qt::LocalTime;
+    const QDateTime start = isFloating || !zone.isValid() ? m_event.startTime : m_event.startTime.toTimeZone(zone);
+    const WallClock clock(start);
+    for (ExceptionDate &exception : m_exceptionDates) {
+        if (!exception.instant.isEmpty())
+            continue;
+        const QDate date = QDate::fromString(exception.date, u"yyyyMMdd");
+        exception.instant = isFloating ? exception.date + start.time().toString(u"'T'HHmmss")
+                                       : RruleExpander::formatRecurrenceId(clock.at(date, start.time()));
     }
 }
 
@@ -211,7 +247,7 @@ QString EventBuilder::exceptionDatesJson() const
         return {};
     QJsonArray dates;
     for (const ExceptionDate &exception : m_exceptionDates)
-        dates.append(m_event.isAllDay ? exception.date : exception.instant);
+        dates.append(m_event.isAllDay || exception.instant.isEmpty() ? exception.date : exception.instant);
     return QString::fromUtf8(QJsonDocument(dates).toJson(QJsonDocument::Compact));
 }
 
@@ -228,12 +264,14 @@ void EventBuilder::readSequence(const ContentLine &line)
 void EventBuilder::readOrganizer(const ContentLine &line)
 {
     m_event.organizerEmail = addressFrom(line.value());
-    if (const QByteArrayView name = line.parameter("CN"); !name.isNull())
+    if (const QByteArrayView name = line.parameterAsItStands("CN"); !name.isNull())
         m_event.organizerName = QString::fromUtf8(name);
 }
 
 void EventBuilder::readAttendee(const ContentLine &line)
 {
+    if (m_event.attendees.size() >= MaxAttendees)
+        return;
     Attendee attendee;
     attendee.email = addressFrom(line.value());
     if (attendee.email.isEmpty())

@@ -20,14 +20,16 @@ public:
     void begin();
     /// Any line between BEGIN:VEVENT and END:VEVENT, unfolded.
     void addLine(QByteArrayView line);
-    /// For END:VEVENT. Its UID may be empty, its start invalid.
+    /// True once the event's text is beyond 16 MiB. Nothing more is read of it then.
+    [[nodiscard]] bool isTooLarge() const { return m_isTooLarge; }
+    /// For END:VEVENT. Its UID may be empty, its start invalid. Not for one that is too large.
     Event finish();
 
 private:
     // An EXDATE value in both forms, as which of them counts is known only once DTSTART was read.
     struct ExceptionDate {
         QString date; // yyyyMMdd, as it stood
-        QString instant;
+        QString instant; // empty if it is a date
     };
 
     void readProperty(const ContentLine &line);
@@ -46,12 +48,14 @@ private:
     void readRelatedTo(const ContentLine &line);
 
     QDateTime readTime(const ContentLine &line);
+    void giveExceptionDatesATime();
     [[nodiscard]] QString exceptionDatesJson() const;
     void applyDuration();
 
     DateTimeReader m_times; // knows the zones of the whole file
     Event m_event;
     std::string m_raw; // the VCALENDAR text so far; kept for its capacity
+    bool m_isTooLarge = false;
     bool m_hasEnd = false;
     qint64 m_durationSeconds = 0;
     QList<ExceptionDate> m_exceptionDates;

@@ -10,7 +10,7 @@ public:
     {
     }
 
-    /// The event that ends with the current line, if one does and it has a UID.
+    /// The event that ends with the current line, if one does and it is kept.
     std::optional<Event> takeLine()
     {
         const QByteArrayView line = lines.line();
@@ -26,6 +26,10 @@ public:
             return std::nullopt;
         }
         isInEvent = false;
+        if (builder.isTooLarge()) {
+            ++skipped.tooLarge;
+            return std::nullopt;
+        }
         Event event = builder.finish();
         if (event.uid.isEmpty()) {
             ++skipped.withoutUid;

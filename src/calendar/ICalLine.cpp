@@ -103,13 +103,18 @@ ContentLine::ContentLine(QByteArrayView line)
 
 QByteArrayView ContentLine::parameter(QByteArrayView name) const
 {
+    return withoutQuotes(parameterAsItStands(name));
+}
+
+QByteArrayView ContentLine::parameterAsItStands(QByteArrayView name) const
+{
     QByteArrayView found;
     for (qsizetype from = 0; from < m_parameters.size();) {
         const qsizetype end = endOfPart(m_parameters, from, ';');
         const QByteArrayView part = m_parameters.sliced(from, end - from);
         const qsizetype equals = part.indexOf('=');
         if (equals > 0 && isWord(part.first(equals), name))
-            found = withoutQuotes(part.sliced(equals + 1));
+            found = part.sliced(equals + 1);
         from = end + 1;
     }
     return found;

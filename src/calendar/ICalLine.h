@@ -54,6 +54,8 @@ public:
     [[nodiscard]] QByteArrayView value() const { return m_value; } ///< not unescaped
     /// Without quotes around it; null if there is none. Of several with one name the last counts.
     [[nodiscard]] QByteArrayView parameter(QByteArrayView name) const;
+    /// The same with its quotes.
+    [[nodiscard]] QByteArrayView parameterAsItStands(QByteArrayView name) const;
 
 private:
     QByteArrayView m_name;

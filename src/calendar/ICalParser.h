@@ -17,11 +17,13 @@ namespace ICalParser {
 
 inline constexpr char ProductId[] = "-//Quillon//Calendar Desktop//EN";
 
-/// One event for each VEVENT with a UID, in file order; overrides come as events of their own.
+/// One event for each VEVENT with a UID and at most 16 MiB of text, in file order; overrides come as
+/// events of their own. An event gets at most 10,000 exception dates, 1,000 attendees and 100 reminders.
 QList<Event> parse(const QByteArray &utf8);
 QList<Event> parse(const QString &text);
 
-/// One task for each VTODO with a UID, in file order. Overrides of one instance are left out.
+/// One task for each VTODO with a UID, in file order. An override of one instance is no task of its own:
+/// its text follows that of its series in rawIcalendar.
 QList<Task> parseTasks(const QByteArray &utf8);
 QList<Task> parseTasks(const QString &text);
 
@@ -53,6 +55,7 @@ int parseTriggerMinutes(QStringView value);
 struct Skipped {
     int withoutUid = 0;
     int withoutStart = 0; ///< counted, but still returned by the reader: its startTime is invalid
+    int tooLarge = 0; ///< events with more text than any calendar writes; whether they have a UID is not known
 
     bool operator==(const Skipped &) const = default;
 };

@@ -3,6 +3,8 @@
 #include "calendar/ICalLine.h"
 #include "calendar/ICalParser.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <array>
 
@@ -22,9 +24,11 @@ public:
         m_isOverride = false;
     }
     void addLine(QByteArrayView line);
-    /// For END:VTODO. Nothing for a task without a UID, and for an override of one instance: as a row it
-    /// would be a second task with the UID of its series.
-    std::optional<Task> finish();
+    /// For END:VTODO. Its UID may be empty.
+    Task finish();
+    /// True if the task is one instance of a series, changed. As a row it would be a second task with the
+    /// UID of that series.
+    [[nodiscard]] bool isOverride() const { return m_isOverride; }
 
 private:
     void readProperty(const ContentLine &line);
@@ -81,10 +85,8 @@ void TaskBuilder::addLine(QByteArrayView line)
     }
 }
 
-std::optional<Task> TaskBuilder::finish()
+Task TaskBuilder::finish()
 {
-    if (m_task.uid.isEmpty() || m_isOverride)
-        return std::nullopt;
     m_raw.append("END:VTODO\r\n");
     m_task.rawIcalendar = QString::fromUtf8(m_raw);
     return std::move(m_task);
@@ -168,6 +170,7 @@ void TaskBuilder::readSortOrder(const ContentLine &line)
 QList<Task> ICalParser::parseTasks(const QByteArray &utf8)
 {
     QList<Task> tasks;
+    QHash<QString, QString> overrides; // the text of all of one UID
     TaskBuilder builder;
     bool isInTask = false;
     for (LineReader lines(utf8); lines.next(utf8.size());) {
@@ -177,11 +180,20 @@ QList<Task> ICalParser::parseTasks(const QByteArray &utf8)
             builder.begin();
         } else if (isInTask && line == "END:VTODO") {
             isInTask = false;
-            if (std::optional<Task> task = builder.finish())
-                tasks.append(*std::move(task));
+            Task task = builder.finish();
+            if (task.uid.isEmpty())
+                continue;
+            if (builder.isOverride())
+                overrides[task.uid] += task.rawIcalendar;
+            else
+                tasks.append(std::move(task));
         } else if (isInTask) {
             builder.addLine(line);
         }
+    }
+    if (!overrides.isEmpty()) {
+        for (Task &task : tasks)
+            task.rawIcalendar += overrides.take(task.uid);
     }
     return tasks;
 }

@@ -1,7 +1,6 @@
 #include "calendar/TimeZones.h"
 
 #include <QHash>
-#include <QString>
 
 #include <algorithm>
 #include <array>
@@ -47,17 +46,29 @@ bool isNameCharacter(QChar c)
         || c == u'+' || c == u'/';
 }
 
-QTimeZone ianaZone(QStringView name)
+// QTimeZone opens the name as a path below the folder of zones, so no part of it may lead out of there.
+bool isInArea(QStringView name)
+{
+    return std::ranges::any_of(Areas, [name](QLatin1StringView area) { return name.startsWith(area); })
+        && std::ranges::all_of(name, isNameCharacter) && !name.contains(QLatin1StringView("//"));
+}
+
+// "UTC+05:30"
+bool isOffset(QStringView name)
+{
+    constexpr qsizetype signEnd = 4;
+    return (name.startsWith(u"UTC+") || name.startsWith(u"UTC-"))
+        && std::ranges::all_of(name.sliced(signEnd), [](QChar c) { return (c >= u'0' && c <= u'9') || c == u':'; });
+}
+
+QTimeZone strictZone(QStringView name)
 {
     const auto slashless = std::ranges::find_if(SlashlessNames, [name](QLatin1StringView known) {
         return name.compare(known, Qt::CaseInsensitive) == 0; // "tzone://Microsoft/Utc"
     });
     if (slashless != SlashlessNames.end())
         return QTimeZone(QByteArray(slashless->data(), slashless->size()));
-    const bool isOffset = name.startsWith(u"UTC+") || name.startsWith(u"UTC-");
-    const bool isInArea = std::ranges::any_of(Areas, [name](QLatin1StringView area) { return name.startsWith(area); })
-        && std::ranges::all_of(name, isNameCharacter);
-    return isOffset || isInArea ? QTimeZone(name.toUtf8()) : QTimeZone();
+    return isOffset(name) || isInArea(name) ? QTimeZone(name.toUtf8()) : QTimeZone();
 }
 
 /// The longest ending of \p name that is a zone. A whole path component, or one such as
@@ -70,7 +81,7 @@ QTimeZone zoneAtEnd(QStringView name)
         const QStringView ending = name.sliced(i + 1);
         if (name[i] != u'/' && !ending.contains(u'/'))
             continue;
-        if (QTimeZone zone = ianaZone(ending); zone.isValid())
+        if (QTimeZone zone = strictZone(ending); zone.isValid())
             return zone;
     }
     return {};
@@ -78,9 +89,7 @@ QTimeZone zoneAtEnd(QStringView name)
 
 QTimeZone zoneNamed(QStringView name)
 {
-    if (name.isEmpty() || name.size() > MaxNameLength)
-        return {};
-    if (QTimeZone zone = ianaZone(name); zone.isValid())
+    if (QTimeZone zone = strictZone(name); zone.isValid())
         return zone;
     if (const QByteArray iana = QTimeZone::windowsIdToDefaultIanaId(name.toUtf8()); !iana.isEmpty())
         return QTimeZone(iana);
@@ -95,20 +104,30 @@ QStringView withoutQuotes(QStringView name)
     return name;
 }
 
+using Cache = QHash<QString, QTimeZone>;
+
+QTimeZone remembered(Cache &cache, const QString &name, QTimeZone (*lookUp)(QStringView))
+{
+    auto it = cache.constFind(name);
+    if (it == cache.cend()) {
+        if (cache.size() >= MaxCached)
+            cache.clear();
+        it = cache.insert(name, lookUp(name));
+    }
+    return *it;
+}
+
 }
 
 QTimeZone TimeZones::find(QStringView tzid)
 {
-    thread_local QHash<QString, QTimeZone> cache;
+    thread_local Cache cache;
     const QStringView name = withoutQuotes(tzid);
-    if (name.size() > MaxNameLength)
-        return {};
-    const QString key = name.toString();
-    auto it = cache.constFind(key);
-    if (it == cache.cend()) {
-        if (cache.size() >= MaxCached)
-            cache.clear();
-        it = cache.insert(key, zoneNamed(name));
-    }
-    return *it;
+    return name.size() > MaxNameLength ? QTimeZone() : remembered(cache, name.toString(), zoneNamed);
+}
+
+QTimeZone TimeZones::ianaZone(const QString &id)
+{
+    thread_local Cache cache;
+    return id.size() > MaxNameLength ? QTimeZone() : remembered(cache, id, strictZone);
 }

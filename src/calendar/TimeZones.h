@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QTimeZone>
 
 /// Finding the zone that a TZID means.
@@ -9,5 +10,9 @@ namespace TimeZones {
 /// ends in an IANA name ("/freeassociation.sourceforge.net/Europe/Berlin"). Invalid if it is none.
 /// Quotes around the name are ignored. Answers from a cache.
 QTimeZone find(QStringView tzid);
+
+/// The zone with this IANA name, and nothing looser: neither a POSIX rule nor a path. Invalid if there is
+/// none. Answers from a cache.
+QTimeZone ianaZone(const QString &id);
 
 } // namespace TimeZones

@@ -4,14 +4,16 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <vector>
 
 namespace {
 
 constexpr qint64 MsPerSecond = 1000;
 constexpr qint64 EpochJulianDay = 2'440'588;
-// A table reaches this far around the instant asked for: surfaces ask for one span at a time.
-constexpr qint64 TableReachMs = 500 * Civil::MsPerDay;
+// A table reaches this far around the instant asked for: surfaces ask for one span at a time, but the
+// events of a file lie years apart.
+constexpr qint64 TableReachMs = 4000 * Civil::MsPerDay;
 // Zone names come from files: a file full of odd ones must not fill the memory.
 constexpr qsizetype MaxTables = 64;
 // No zone is further from UTC than this.
@@ -36,13 +38,8 @@ public:
     {
         if (utcMs < m_from || utcMs >= m_to)
             fill(utcMs);
-        qint64 offset = m_firstOffsetMs;
-        for (const Change &change : m_changes) {
-            if (change.utcMs > utcMs)
-                break;
-            offset = change.offsetMs;
-        }
-        return offset;
+        const auto next = std::ranges::upper_bound(m_changes, utcMs, {}, &Change::utcMs);
+        return next == m_changes.begin() ? m_firstOffsetMs : std::prev(next)->offsetMs;
     }
 
     static std::shared_ptr<Offsets> of(const QTimeZone &zone)

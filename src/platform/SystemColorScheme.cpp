@@ -44,9 +44,12 @@ SystemColorScheme::SystemColorScheme(QObject *parent)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
     QStyleHints *hints = QGuiApplication::styleHints();
-    m_isDark = hints->colorScheme() == Qt::ColorScheme::Dark;
+    const auto saysDark = [this](Qt::ColorScheme scheme) {
+        return scheme == Qt::ColorScheme::Unknown ? m_paletteIsDark : scheme == Qt::ColorScheme::Dark;
+    };
+    m_isDark = saysDark(hints->colorScheme());
     connect(hints, &QStyleHints::colorSchemeChanged, this,
-            [this](Qt::ColorScheme scheme) { setDark(scheme == Qt::ColorScheme::Dark); });
+            [this, saysDark](Qt::ColorScheme scheme) { setDark(saysDark(scheme)); });
 #elif defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
     askPortal();
 #endif

@@ -4,9 +4,9 @@
 
 class QDBusPendingCallWatcher;
 
-/// Whether the desktop asks for dark windows. Qt's own answer where Qt has one (6.5 on); on Linux before
-/// that the desktop portal's setting, read asynchronously and followed; else by the palette that the
-/// application has when this object is made.
+/// Whether the desktop asks for dark windows. Qt's own answer where Qt has one (6.5 on, and a desktop that
+/// says); on Linux before that the desktop portal's setting, read asynchronously and followed; else by the
+/// palette that the application has when this object is made.
 class SystemColorScheme : public QObject {
     Q_OBJECT
 

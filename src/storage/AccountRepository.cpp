@@ -96,9 +96,10 @@ bool AccountRepository::remove(const QString &id)
 {
     const QVariant now = StoredTime::now();
     Savepoint savepoint(m_database);
-    if (!runStatement(m_database, "AccountRepository::remove failed:",
-                      QStringLiteral("UPDATE accounts SET deleted_at = ?, updated_at = ? WHERE id = ?"),
-                      { now, now, id })
+    if (!savepoint.isActive()
+        || !runStatement(m_database, "AccountRepository::remove failed:",
+                         QStringLiteral("UPDATE accounts SET deleted_at = ?, updated_at = ? WHERE id = ?"),
+                         { now, now, id })
         || !cascadeDeleteCalendars(id) || !savepoint.commit())
         return false;
     emit accountsChanged();
@@ -120,7 +121,7 @@ int AccountRepository::finishInterruptedRemovals()
     int finished = 0;
     for (const QString &id : std::as_const(ids)) {
         Savepoint savepoint(m_database);
-        if (cascadeDeleteCalendars(id) && savepoint.commit())
+        if (savepoint.isActive() && cascadeDeleteCalendars(id) && savepoint.commit())
             ++finished;
     }
     return finished;
@@ -193,7 +194,8 @@ int AccountRepository::dedupExistingByCredentials()
             continue;
         }
         Savepoint savepoint(m_database);
-        if (mergeCalendarsInto(account.id, winner->id) && remove(account.id) && savepoint.commit())
+        if (savepoint.isActive() && mergeCalendarsInto(account.id, winner->id) && remove(account.id)
+            && savepoint.commit())
             ++collapsed;
     }
     return collapsed;
@@ -208,6 +210,8 @@ bool AccountRepository::mergeCalendarsInto(const QString &fromAccountId, const Q
     std::ranges::transform(kept, std::inserter(urls, urls.end()), &Calendar::url);
 
     Savepoint savepoint(m_database);
+    if (!savepoint.isActive())
+        return false;
     for (const Calendar &calendar : moved) {
         if (!calendar.url.isEmpty() && urls.contains(calendar.url)) {
             if (!deleteCalendarDeep(calendar.id))

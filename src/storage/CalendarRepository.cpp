@@ -83,11 +83,11 @@ bool CalendarRepository::setDefault(const QString &id)
 {
     const QVariant now = StoredTime::now();
     Savepoint savepoint(m_database);
-    const bool stored =
-        runStatement(
-            m_database, "CalendarRepository::setDefault clear failed:",
-            QStringLiteral("UPDATE calendars SET is_default = 0, updated_at = ? WHERE is_default = 1 AND id != ?"),
-            { now, id })
+    const bool stored = savepoint.isActive()
+        && runStatement(m_database, "CalendarRepository::setDefault clear failed:",
+                        QStringLiteral(
+                            "UPDATE calendars SET is_default = 0, updated_at = ? WHERE is_default = 1 AND id != ?"),
+                        { now, id })
         && runStatement(m_database, "CalendarRepository::setDefault set failed:",
                         QStringLiteral("UPDATE calendars SET is_default = 1, updated_at = ? WHERE id = ?"), { now, id })
         && savepoint.commit();
@@ -97,6 +97,8 @@ bool CalendarRepository::setDefault(const QString &id)
 bool CalendarRepository::deleteDeep(Database *database, const QString &id)
 {
     Savepoint savepoint(database);
+    if (!savepoint.isActive())
+        return false;
     bool allDone = true;
     for (const auto *sql : {
              "DELETE FROM attendees WHERE event_id IN (SELECT id FROM events WHERE calendar_id = ?)",

@@ -84,8 +84,10 @@ QList<Event> EventRanges::overridesOf(const QStringList &masterUids, const QStri
     refresh();
     QList<Key> keys;
     const QSet<QString> uids(masterUids.begin(), masterUids.end());
-    for (const QString &uid : uids)
-        keys += m_overrides.values(uid);
+    for (const QString &uid : uids) {
+        if (const auto it = m_overrides.constFind(uid); it != m_overrides.cend())
+            keys.append(QList<Key>(it->cbegin(), it->cend()));
+    }
     std::ranges::sort(keys);
     const CalendarFilter filter(calendarIds);
     QList<Event> result;
@@ -198,7 +200,7 @@ void EventRanges::add(Statement &rows)
         Event &event = events[i];
         m_keys.insert(event.id, keys.at(i));
         if (event.isOverride())
-            m_overrides.insert(event.masterEventUid, keys.at(i));
+            m_overrides[event.masterEventUid].insert(keys.at(i));
         m_standing.emplace(keys.at(i), Standing{ std::move(event), ends.at(i) });
     }
 }
@@ -209,7 +211,11 @@ void EventRanges::forget(const QString &id)
     if (it == m_keys.constEnd())
         return;
     const Key key = *it;
-    m_overrides.remove(m_standing.at(key).event.masterEventUid, key);
+    if (const auto series = m_overrides.find(m_standing.at(key).event.masterEventUid); series != m_overrides.end()) {
+        series->erase(key);
+        if (series->empty())
+            m_overrides.erase(series);
+    }
     m_standing.erase(key);
     m_keys.erase(it);
 }

@@ -5,11 +5,11 @@
 #include <QByteArray>
 #include <QHash>
 #include <QList>
-#include <QMultiHash>
 #include <QSet>
 #include <QStringList>
 
 #include <map>
+#include <set>
 #include <utility>
 
 class Database;
@@ -54,6 +54,6 @@ private:
     quint64 m_purges = 0;
     std::map<Key, Standing> m_standing;
     QHash<QString, Key> m_keys; // by event id
-    QMultiHash<QString, Key> m_overrides; // by the UID of their series
+    QHash<QString, std::set<Key>> m_overrides; // by the UID of their series
     QSet<QString> m_stale; // ids to read again
 };

@@ -113,7 +113,7 @@ bool EventRepository::insert(const Event &event)
         row.syncStatus = SyncStatus::Synced;
 
     Savepoint savepoint(m_database);
-    if (!Tables::events().insert(m_database, row, "EventRepository::insert failed:")
+    if (!savepoint.isActive() || !Tables::events().insert(m_database, row, "EventRepository::insert failed:")
         || !EventRows::insertChildren(m_database, row) || !savepoint.commit())
         return false;
     m_ranges->onWritten(row);
@@ -129,6 +129,8 @@ bool EventRepository::update(const Event &event)
         row.syncStatus = SyncStatus::Pending;
 
     Savepoint savepoint(m_database);
+    if (!savepoint.isActive())
+        return false;
     EventRows::carryReminders(m_database, row);
     if (!Tables::events().update(m_database, row, "EventRepository::update failed:")
         || !EventRows::replaceChildren(m_database, row) || !savepoint.commit())
@@ -155,6 +157,8 @@ bool EventRepository::hardDelete(const QString &id)
 {
     const QString calendarId = calendarOf(m_database, id);
     Savepoint savepoint(m_database);
+    if (!savepoint.isActive())
+        return false;
     for (const auto *table : { "attendees", "attachments", "reminders" }) {
         const QByteArray message = QByteArray("EventRepository::hardDelete child cleanup failed: ") + table + " :";
         runStatement(m_database, message.constData(),

@@ -8,6 +8,8 @@ bool storeOrder(Database *database, const char *message, const QString &sql, con
 {
     const QVariant now = StoredTime::now();
     Savepoint savepoint(database);
+    if (!savepoint.isActive())
+        return false;
     for (qsizetype i = 0; i < ids.size(); ++i) {
         if (!runStatement(database, message, sql, { i, now, ids.at(i) }))
             return false;

@@ -15,7 +15,8 @@ public:
     ~Savepoint();
     Q_DISABLE_COPY_MOVE(Savepoint)
 
-    /// False if the savepoint could not be opened; statements then run one by one, and commit() fails.
+    /// False if the savepoint could not be opened. What is written all the same lands statement by
+    /// statement, and commit() fails.
     [[nodiscard]] bool isActive() const { return m_active; }
     /// Keeps what was written. False, and rolled back, if SQLite refuses (a full disk).
     bool commit();

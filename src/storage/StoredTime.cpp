@@ -1,7 +1,6 @@
 #include "storage/StoredTime.h"
 
-#include <QHash>
-#include <QTimeZone>
+#include "calendar/TimeZones.h"
 
 namespace {
 
@@ -59,18 +58,11 @@ std::optional<QDateTime> parseUsualForm(QStringView text)
     return QDateTime(date, time, Qt::OffsetFromUTC, *offset);
 }
 
-const QTimeZone &cachedZone(const QString &id)
+// The ISO form has no place for the seconds of an offset, which local mean times have: Berlin's was
+// +00:53:28 until 1893.
+bool hasOffsetInSeconds(const QDateTime &time)
 {
-    // Finding a zone reads a file; only a few names occur, but what stands in a row is not bounded.
-    constexpr qsizetype limit = 1000;
-    static QHash<QString, QTimeZone> zones;
-    auto it = zones.find(id);
-    if (it == zones.end()) {
-        if (zones.size() >= limit)
-            zones.clear();
-        it = zones.insert(id, QTimeZone(id.toUtf8()));
-    }
-    return *it;
+    return time.timeSpec() != Qt::LocalTime && time.offsetFromUtc() % 60 != 0;
 }
 
 }
@@ -79,7 +71,7 @@ QVariant StoredTime::store(const QDateTime &time)
 {
     if (!time.isValid())
         return {};
-    const QString text = time.toString(Qt::ISODate);
+    const QString text = (hasOffsetInSeconds(time) ? time.toUTC() : time).toString(Qt::ISODate);
     return text.isEmpty() ? QVariant() : QVariant(text);
 }
 
@@ -116,6 +108,6 @@ QDateTime StoredTime::inZone(const QDateTime &time, const QString &zoneId)
 {
     if (!time.isValid() || zoneId.isEmpty() || zoneId == QLatin1StringView("UTC"))
         return time;
-    const QTimeZone &zone = cachedZone(zoneId);
+    const QTimeZone zone = TimeZones::ianaZone(zoneId);
     return zone.isValid() ? time.toTimeZone(zone) : time;
 }

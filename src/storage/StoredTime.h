@@ -8,7 +8,7 @@
 /// for local time.
 namespace StoredTime {
 
-/// The text to store, or NULL for an invalid value.
+/// The text to store, or NULL for an invalid value. In UTC where the offset is not in whole minutes.
 QVariant store(const QDateTime &time);
 
 /// The text of the current time.

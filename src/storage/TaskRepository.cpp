@@ -13,6 +13,8 @@
 
 #include <QTimeZone>
 
+#include <limits>
+
 namespace {
 
 QList<Task> listTasks(Database *database, const QString &tail, const QVariantList &values)
@@ -211,7 +213,7 @@ bool TaskRepository::insert(const Task &task)
     fillDefaults(row, SyncStatus::Synced);
 
     Savepoint savepoint(m_database);
-    if (!Tables::tasks().insert(m_database, row, "TaskRepository::insert failed:")
+    if (!savepoint.isActive() || !Tables::tasks().insert(m_database, row, "TaskRepository::insert failed:")
         || !writeReminders(m_database, row, ChildRows::Owner::New) || !savepoint.commit())
         return false;
     notifyChanged(row.calendarId);
@@ -225,6 +227,8 @@ bool TaskRepository::update(const Task &task)
     row.lastModified = QDateTime::currentDateTimeUtc();
 
     Savepoint savepoint(m_database);
+    if (!savepoint.isActive())
+        return false;
     carryReminders(m_database, row);
     if (!Tables::tasks().update(m_database, row, "TaskRepository::update failed:")
         || !writeReminders(m_database, row, ChildRows::Owner::Stored) || !savepoint.commit())
@@ -277,7 +281,8 @@ bool TaskRepository::setCompleted(const QString &id, bool completed)
         task->completedDate = completed ? std::optional(QDateTime::currentDateTimeUtc()) : std::nullopt;
         task->percentComplete = completed ? 100 : 0;
     }
-    ++task->sequence;
+    if (task->sequence < std::numeric_limits<int>::max()) // a server may have sent any number
+        ++task->sequence;
     task->syncStatus = SyncStatus::Pending;
     task->rawIcalendar = ICalParser::serializeTaskToVCalendar(*task);
     return update(*task);

@@ -12,6 +12,7 @@
 #include "ui/CalendarListDelegate.h"
 #include "ui/CalendarMenu.h"
 #include "ui/dialogs/CalendarChecklist.h"
+#include "ui/dialogs/GroupName.h"
 #include "ui/dialogs/ImportDialog.h"
 #include "ui/theme/Theme.h"
 
@@ -74,7 +75,7 @@ QString CalendarListWidget::decidingGroupName(AppState *state)
     const bool anyAlive = std::any_of(chosen.begin(), chosen.end(), [state](const QString &id) {
         return state->calendars()->getById(id).has_value();
     });
-    return anyAlive ? group->name : QString();
+    return anyAlive ? groupDisplayName(*group) : QString();
 }
 
 void CalendarListWidget::renameCalendar(const QString &calendarId)

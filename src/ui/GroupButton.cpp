@@ -3,14 +3,22 @@
 #include "app/state/AppState.h"
 #include "models/ViewDef.h"
 #include "storage/ViewRepository.h"
+#include "ui/dialogs/GroupName.h"
 #include "ui/dialogs/ManageViewsDialog.h"
 #include "ui/dialogs/ViewFormDialog.h"
 #include "ui/theme/Theme.h"
 
 #include <QActionGroup>
+#include <QEvent>
 #include <QMenu>
 
 #include <algorithm>
+
+namespace {
+
+constexpr int MaxNamePx = 220; // the row's other buttons and the date need their room
+
+}
 
 GroupButton::GroupButton(AppState *state, QWidget *parent)
     : QToolButton(parent)
@@ -21,7 +29,6 @@ GroupButton::GroupButton(AppState *state, QWidget *parent)
     setPopupMode(QToolButton::InstantPopup);
     setAutoRaise(true);
     setCursor(Qt::PointingHandCursor);
-    setToolTip(tr("Calendar group"));
     QFont bold = font();
     bold.setBold(true);
     bold.setPointSize(Theme::FontSizeBody + 1);
@@ -37,8 +44,9 @@ void GroupButton::refresh()
     const auto active = std::find_if(groups.begin(), groups.end(),
                                      [this](const ViewDef &group) { return group.id == m_state->activeViewId(); });
     const bool found = active != groups.end();
-    setText(found ? Theme::plainLabel(active->name) : tr("All Calendars"));
-    setAccessibleName(tr("Calendar group: %1").arg(found ? active->name : tr("All Calendars")));
+    m_name = found ? groupDisplayName(*active) : allCalendarsName();
+    showName();
+    setAccessibleName(tr("Calendar group: %1").arg(m_name));
     setIcon(Theme::calendarDotIcon(found ? active->color : QString()));
 
     auto *menu = new QMenu(this);
@@ -50,11 +58,25 @@ void GroupButton::refresh()
     setMenu(menu);
 }
 
+void GroupButton::showName()
+{
+    const QString shown = fontMetrics().elidedText(m_name, Qt::ElideRight, MaxNamePx);
+    setText(u' ' + Theme::plainLabel(shown)); // the style leaves hardly any room beside the dot
+    setToolTip(shown == m_name ? tr("Calendar group") : Theme::plainToolTip(m_name));
+}
+
+void GroupButton::changeEvent(QEvent *event)
+{
+    QToolButton::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        showName();
+}
+
 void GroupButton::addGroupEntries(QMenu *menu, const QList<ViewDef> &groups)
 {
     auto *exclusive = new QActionGroup(menu);
     for (const ViewDef &group : groups) {
-        QAction *action = menu->addAction(Theme::plainLabel(group.name));
+        QAction *action = menu->addAction(Theme::plainLabel(groupDisplayName(group)));
         if (!group.color.isEmpty())
             action->setIcon(Theme::calendarDotIcon(group.color));
         action->setCheckable(true);

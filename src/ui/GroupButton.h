@@ -16,9 +16,14 @@ public:
     /// Opens the form for a new group over \p window, and activates what was stored.
     static void createGroup(AppState *state, QWidget *window);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void showName();
     void addGroupEntries(QMenu *menu, const QList<ViewDef> &groups);
     void addEditEntries(QMenu *menu, const ViewDef *active);
 
     AppState *m_state;
+    QString m_name; // of the active group
 };

@@ -4,6 +4,7 @@
 #include "models/ViewDef.h"
 #include "storage/ViewRepository.h"
 #include "ui/ActionTable.h"
+#include "ui/dialogs/GroupName.h"
 #include "ui/theme/Theme.h"
 
 #include <QMenu>
@@ -79,7 +80,7 @@ void GroupMenu::refresh()
             connect(action, &QAction::triggered, this, [this, i] { activateAt(int(i)); });
             m_further.append(action);
         }
-        action->setText(Theme::plainLabel(groups.at(i).name));
+        action->setText(Theme::plainLabel(groupDisplayName(groups.at(i))));
         action->setIcon(Theme::calendarDotIcon(groups.at(i).color));
         action->setChecked(groups.at(i).id == m_state->activeViewId());
         m_menu->addAction(action);

@@ -67,6 +67,7 @@ void IcsImportFlow::onFilesRead()
     if (ImportDialog::writableCalendars(m_state).isEmpty()) {
         Prompt::warning(m_window, tr("No calendars configured"),
                         tr("Add a writable calendar first; then re-import \"%1\".").arg(names.join(u"\", \"")));
+        showFileErrors(m_window);
         end({});
         return;
     }
@@ -81,7 +82,8 @@ void IcsImportFlow::onAccepted(const QString &calendarId)
 {
     const auto calendar = m_state->calendars()->getById(calendarId);
     if (!calendar) {
-        end({}); // deleted while the dialog was open
+        Prompt::warning(m_window, tr("Import failed"), tr("The chosen calendar was deleted in the meantime."));
+        end({});
         return;
     }
     m_calendarName = calendar->name;
@@ -91,7 +93,10 @@ void IcsImportFlow::onAccepted(const QString &calendarId)
 
 void IcsImportFlow::onStored(const IcsImporter::Result &result)
 {
-    end(report(result, m_calendarName));
+    const QString text = report(result, m_calendarName);
+    if (result.failed > 0) // the status bar's message passes, and a loss must not
+        Prompt::warning(m_window, tr("Import incomplete"), text);
+    end(text);
 }
 
 void IcsImportFlow::showFileErrors(QWidget *parent) const
@@ -101,8 +106,10 @@ void IcsImportFlow::showFileErrors(QWidget *parent) const
     for (const IcsImporter::File &file : m_importer->files()) {
         if (file.error == IcsImporter::FileError::Unreadable)
             unreadable.append(tr("Couldn't open \"%1\" for reading.").arg(QDir::toNativeSeparators(file.path)));
+        else if (file.error == IcsImporter::FileError::TooLarge)
+            unreadable.append(tr("\"%1\" is too large to import.").arg(fileName(file.path)));
         else if (!hasStorableEvents(file))
-            empty.append(tr("No events found in \"%1\".").arg(fileName(file.path)));
+            empty.append(tr("No events found in \"%1\".").arg(fileName(file.path)) + skippedText(file.skipped));
     }
     if (!unreadable.isEmpty())
         Prompt::warning(parent, tr("Couldn't open file"), unreadable.join(u'\n'));
@@ -130,6 +137,17 @@ QStringList IcsImportFlow::readableFileNames() const
     return names;
 }
 
+QString IcsImportFlow::skippedText(const ICalParser::Skipped &skipped)
+{
+    const int unidentified = skipped.withoutUid + skipped.withoutStart;
+    QString text;
+    if (unidentified > 0)
+        text += tr(" Skipped %n event(s) without an identifier or a start.", nullptr, unidentified);
+    if (skipped.tooLarge > 0)
+        text += tr(" Skipped %n event(s) that are too large.", nullptr, skipped.tooLarge);
+    return text;
+}
+
 QString IcsImportFlow::report(const IcsImporter::Result &result, const QString &calendarName)
 {
     const QLocale locale;
@@ -147,8 +165,7 @@ QString IcsImportFlow::report(const IcsImporter::Result &result, const QString &
     else
         text = tr("Imported %1 events into %2.").arg(imported, calendarName);
 
-    if (const int skipped = result.skipped.withoutUid + result.skipped.withoutStart; skipped > 0)
-        text += tr(" Skipped %n event(s) without an identifier or a start.", nullptr, skipped);
+    text += skippedText(result.skipped);
     if (result.failed > 0)
         text += tr(" %n event(s) could not be stored.", nullptr, result.failed);
     return text;

@@ -35,6 +35,7 @@ private:
     void onAccepted(const QString &calendarId);
     void onStored(const IcsImporter::Result &result);
     void showFileErrors(QWidget *parent) const;
+    static QString skippedText(const ICalParser::Skipped &skipped);
     void end(const QString &message);
     [[nodiscard]] QStringList readableFileNames() const;
 

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QTextEdit>
 
@@ -17,8 +18,12 @@ PlainKeyGuard::PlainKeyGuard(QObject *parent)
 
 bool PlainKeyGuard::isPlainKey(const QKeyEvent &event)
 {
-    const Qt::KeyboardModifiers others = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
-    return others == Qt::NoModifier && event.key() >= Qt::Key_Space && event.key() <= Qt::Key_ydiaeresis;
+    constexpr Qt::KeyboardModifiers Typing = Qt::ShiftModifier | Qt::KeypadModifier | Qt::GroupSwitchModifier;
+    if ((event.modifiers() & ~Typing) != Qt::NoModifier)
+        return false;
+    // Not by the key: on a Cyrillic layout the key that types "о" also stands for the shortcut J.
+    const QList<uint> typed = event.text().toUcs4();
+    return !typed.isEmpty() && QChar::isPrint(typed.first());
 }
 
 bool PlainKeyGuard::keepsPlainKeys(const QWidget *widget)
@@ -27,7 +32,8 @@ bool PlainKeyGuard::keepsPlainKeys(const QWidget *widget)
         return true;
     return qobject_cast<const QAbstractItemView *>(widget) || qobject_cast<const QComboBox *>(widget)
         || qobject_cast<const QAbstractSpinBox *>(widget) || qobject_cast<const QLineEdit *>(widget)
-        || qobject_cast<const QTextEdit *>(widget) || qobject_cast<const QPlainTextEdit *>(widget);
+        || qobject_cast<const QTextEdit *>(widget) || qobject_cast<const QPlainTextEdit *>(widget)
+        || qobject_cast<const QMenuBar *>(widget);
 }
 
 bool PlainKeyGuard::eventFilter(QObject *, QEvent *event)

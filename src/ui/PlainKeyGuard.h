@@ -6,7 +6,8 @@ class QKeyEvent;
 class QWidget;
 
 /// Keeps keys without a modifier from the window's shortcuts while the widget with the focus has a use of
-/// its own for them: text fields, the search by first letters in lists, trees and combo boxes, and menus.
+/// its own for them: text fields, the search by first letters in lists, trees and combo boxes, menus and
+/// the menu bar.
 class PlainKeyGuard : public QObject {
     Q_OBJECT
 
@@ -14,7 +15,7 @@ public:
     /// Watches the whole application for the life of the guard.
     explicit PlainKeyGuard(QObject *parent = nullptr);
 
-    /// True for a key that types something: no Control, Alt or Meta.
+    /// True for a key that types something, in any alphabet: no Control, Alt or Meta.
     static bool isPlainKey(const QKeyEvent &event);
     static bool keepsPlainKeys(const QWidget *widget);
 

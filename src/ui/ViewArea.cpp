@@ -48,6 +48,7 @@ ViewArea::ViewArea(AppState *state, QWidget *parent)
     column->addWidget(buildHeader());
     column->addWidget(m_stack, 1);
     buildSurfaces();
+    state->replaceViewMode(ViewModes::normalized(state->viewMode(), availableModes()));
     connectState();
     onCurrentDateChanged(state->currentDate());
     setMode(state->viewMode());
@@ -216,7 +217,7 @@ void ViewArea::updateDateLabel()
                                           m_state->firstDayOfWeek(), QDate::currentDate()));
 }
 
-// One change often arrives as several signals; the surfaces have loaded the same days by then.
+// One change often arrives as several signals.
 void ViewArea::recountSoon()
 {
     m_statsTimer->start();
@@ -224,13 +225,25 @@ void ViewArea::recountSoon()
 
 void ViewArea::recomputeFilterStats()
 {
-    if (!m_state->visibleEvents() || VisibleEvents::calendarIds(m_state).isEmpty()) {
+    // Without calendars another page stands here, so that nothing waits for this one to show.
+    const bool hasNothing = !m_state->visibleEvents() || VisibleEvents::calendarIds(m_state).isEmpty();
+    m_statsStale = !hasNothing && !isVisible();
+    if (m_statsStale)
+        return;
+    if (hasNothing) {
         m_state->setFilterHiddenCount(0);
         return;
     }
     const ViewModes::Span span =
         ViewModes::statisticsSpan(m_mode, m_state->currentDate(), m_state->weekHorizon(), m_state->firstDayOfWeek());
     m_state->setFilterHiddenCount(m_state->visibleEvents()->inRange(span.first, span.days)->hiddenCount);
+}
+
+void ViewArea::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (m_statsStale)
+        recountSoon();
 }
 
 bool ViewArea::eventFilter(QObject *watched, QEvent *event)

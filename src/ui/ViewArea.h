@@ -49,6 +49,9 @@ signals:
     void filterEditRequested(const FilterRule &rule);
     void filterFromEventRequested(const Event &event);
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     QWidget *buildHeader();
     QHBoxLayout *buildNavigationRow();
@@ -70,6 +73,7 @@ private:
     WeekView *m_week = nullptr;
     WeekView *m_days = nullptr;
     QTimer *m_statsTimer;
+    bool m_statsStale = false;
     QString m_mode = QStringLiteral("week");
     WheelPager m_pager;
     QElapsedTimer m_clock;

@@ -78,6 +78,41 @@ private slots:
         Application::setPreferredLanguage(QStringLiteral("system"));
     }
 
+    void datesFollowTheLanguageAndTheTerritory_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("system");
+        QTest::addColumn<QString>("name");
+        // Which pairs there are is told by CLDR's list of locales.
+        QTest::newRow("English in Germany") << "en"
+                                            << "de_DE"
+                                            << "en_DE";
+        QTest::newRow("English in Austria") << "en"
+                                            << "de_AT"
+                                            << "en_AT";
+        QTest::newRow("Spanish in the United States") << "es"
+                                                      << "en_US"
+                                                      << "es_US";
+        QTest::newRow("the system's own") << "en"
+                                          << "en_GB"
+                                          << "en_GB";
+        QTest::newRow("German in Japan is not known") << "de"
+                                                      << "ja_JP"
+                                                      << "de_DE";
+        QTest::newRow("Japanese in Germany is not known") << "ja"
+                                                          << "de_DE"
+                                                          << "ja_JP";
+        QTest::newRow("system without a language") << "fr"
+                                                   << "C"
+                                                   << "fr_FR";
+    }
+    void datesFollowTheLanguageAndTheTerritory()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, system);
+        QTEST(Application::localeFor(language, QLocale(system)).name(), "name");
+    }
+
     void startsHiddenAndComesForwardOnARelaunch()
     {
         SingleInstance instance;

@@ -8,11 +8,16 @@
 #include <QJsonObject>
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
+
+#ifdef Q_OS_LINUX
+#include <unistd.h>
+#endif
 
 /// The channel between a running instance and later launches.
 class tst_SingleInstance : public QObject {
@@ -71,7 +76,8 @@ private slots:
         row("file", { "--ics", "life.ics" }, "{'cmd':'open-ics','path':'DIR/life.ics'}");
         row("file that is not there", { "--ics", "sub/../no.ics" }, "{'cmd':'open-ics','path':'DIR/no.ics'}");
         row("absolute file", { "--ics", "/a/b.ics" }, "{'cmd':'open-ics','path':'/a/b.ics'}");
-        row("file switch at the end", { "--ics" }, "{'cmd':'focus'}");
+        row("file switch at the end", { "--ics" }, "{'cmd':'focus'}"); // a desktop entry's %f without a file
+        row("file of another name", { "--ics", "/a/life.txt" }, "{'cmd':'open-ics','path':'/a/life.txt'}");
         row("bare file", { "life.ics" }, "{'cmd':'open-ics','path':'DIR/life.ics'}");
         row("bare file in capitals", { "LOUD.ICS" }, "{'cmd':'open-ics','path':'DIR/LOUD.ICS'}");
         row("bare file that is not there", { "gone.ics" }, "{'cmd':'focus'}");
@@ -220,16 +226,91 @@ private slots:
         QTRY_COMPARE(m_heard, list({ "show-today", "new-event", "focus" }));
     }
 
+    void waitingFilesComeInOrder()
+    {
+        QDialog dialog;
+        dialog.setModal(true);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QStringList expected;
+        for (const int first : { 0, 64 }) { // as a selection of 126 files in a file manager
+            QByteArray lines;
+            for (int i = first; i < qMin(first + 64, 126); ++i) {
+                lines += "{\"cmd\":\"open-ics\",\"path\":\"/" + QByteArray::number(i) + ".ics\"}\n";
+                expected.append(QStringLiteral("open-ics:/%1.ics").arg(i));
+            }
+            if (first == 64)
+                lines += "{\"cmd\":\"show-today\"}\n{\"cmd\":\"open-ics\",\"path\":\"/last.ics\"}\n";
+            sendAndWait(lines);
+        }
+        expected << QStringLiteral("show-today") << QStringLiteral("open-ics:/last.ics");
+        QCOMPARE(m_heard, QStringList());
+        dialog.close();
+        QTRY_COMPARE(m_heard.size(), expected.size());
+        QCOMPARE(m_heard, expected);
+    }
+
+    void tooManyWaitingAreDroppedAndLogged()
+    {
+        QDialog dialog;
+        dialog.setModal(true);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        sendAndWait(QByteArray("{\"cmd\":\"new-event\"}\n").repeated(64));
+        for (int i = 0; i < 64; ++i)
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("too many commands.*show-today")));
+        sendAndWait(QByteArray("{\"cmd\":\"show-today\"}\n").repeated(64));
+        dialog.close();
+        QTRY_COMPARE(m_heard, QStringList(64, QStringLiteral("new-event")));
+    }
+
+    void anotherUsersServerIsNotTold()
+    {
+#ifdef Q_OS_LINUX
+        if (geteuid() != 0)
+            QSKIP("needs to be root to listen as another user");
+        m_running.reset();
+        QLocalServer foreign;
+        const uid_t nobody = 65534;
+        QCOMPARE(seteuid(nobody), 0);
+        const bool listens = foreign.listen(SingleInstance::socketName());
+        QCOMPARE(seteuid(0), 0);
+        if (!listens)
+            QSKIP("the folder of sockets is not open to others here");
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("another user listens")));
+        SingleInstance next;
+        QVERIFY(!next.tryRouteToExisting({ program(), QStringLiteral("--quick-add"), QStringLiteral("secret") }));
+        QVERIFY(foreign.waitForNewConnection(2000));
+        QLocalSocket *heard = foreign.nextPendingConnection();
+        QTRY_COMPARE(heard->state(), QLocalSocket::UnconnectedState);
+        QCOMPARE(heard->readAll(), QByteArray());
+#else
+        QSKIP("the other end's user can be told on Linux only");
+#endif
+    }
+
+    void carriesTheActivationToken_data()
+    {
+        QTest::addColumn<QString>("platform");
+        QTest::addColumn<QByteArray>("seen");
+        QTest::newRow("Wayland") << "wayland" << QByteArray("token-1");
+        QTest::newRow("X11") << "xcb" << QByteArray();
+    }
     void carriesTheActivationToken()
     {
+        QFETCH(QString, platform);
+        m_running.reset();
+        SingleInstance running(nullptr, platform);
+        QVERIFY(!running.tryRouteToExisting({ program() }));
         qputenv("XDG_ACTIVATION_TOKEN", "token-1");
         SingleInstance later;
         QVERIFY(later.tryRouteToExisting({ program() }));
         qunsetenv("XDG_ACTIVATION_TOKEN");
-        QByteArray seen;
-        connect(m_running.get(), &SingleInstance::focusRequested, this,
-                [&seen] { seen = qgetenv("XDG_ACTIVATION_TOKEN"); });
-        QTRY_COMPARE(seen, QByteArray("token-1"));
+        QByteArray seen("nothing");
+        connect(&running, &SingleInstance::focusRequested, this, [&seen] { seen = qgetenv("XDG_ACTIVATION_TOKEN"); });
+        QTRY_VERIFY(seen != "nothing");
+        QTEST(seen, "seen");
+        QVERIFY(!qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
     }
 
 private:
@@ -240,7 +321,21 @@ private:
             result.append(QString::fromUtf8(word));
         return result;
     }
-    static QString program() { return QStringLiteral("/usr/bin/quillon-calendar.ics"); }
+    /// Sends as many lines as one connection may: that it is cut off then shows that they have been read.
+    static void sendAndWait(const QByteArray &lines)
+    {
+        QCOMPARE(lines.count('\n'), SingleInstance::MaxLinesPerConnection);
+        QLocalSocket socket;
+        QSignalSpy cut(&socket, &QLocalSocket::disconnected);
+        socket.connectToServer(SingleInstance::socketName());
+        QVERIFY(socket.waitForConnected(2000));
+        socket.write(lines);
+        QTRY_COMPARE(cut.size(), 1);
+    }
+    static QString program()
+    {
+        return QStringLiteral("/usr/bin/quillon-calendar.ics");
+    }
     void hear(const char *what, const QString &detail = {})
     {
         m_heard.append(QLatin1StringView(what) + (detail.isNull() ? QString() : QLatin1Char(':') + detail));

@@ -72,6 +72,9 @@ private slots:
     void eventsFoundInDamagedText_data();
     void eventsFoundInDamagedText();
     void countsWhatItSkips();
+    void keepsALimitOnAbsurdEvents();
+    void leavesOutWhatIsTooLarge_data();
+    void leavesOutWhatIsTooLarge();
     void readsTheSameInSlices_data();
     void readsTheSameInSlices();
     void aSliceEndsWithinJunk_data();
@@ -279,8 +282,22 @@ void tst_ICalParser::exceptionDates_data()
                                   << QStringList{ u"20260309T090000"_qs };
     QTest::newRow("dates") << QByteArray(allDay + "EXDATE;VALUE=DATE:20260309,20260316")
                            << QStringList{ u"20260309"_qs, u"20260316"_qs };
-    QTest::newRow("dates of a timed series")
-        << QByteArray(timed + "EXDATE;VALUE=DATE:20260309") << QStringList{ u"20260309"_qs };
+    // 09:00 in Paris, before and after the clock change of 29 March.
+    QTest::newRow("dates of a timed series, before DTSTART")
+        << QByteArray("EXDATE;VALUE=DATE:20260309,20260330\n" + timed + "EXDATE:20260316T080000Z")
+        << QStringList{ u"20260309T080000Z"_qs, u"20260330T070000Z"_qs, u"20260316T080000Z"_qs };
+    QTest::newRow("date of a series west of UTC")
+        << QByteArray("DTSTART;TZID=America/Los_Angeles:20260302T200000\nEXDATE;VALUE=DATE:20260309")
+        << QStringList{ u"20260310T030000Z"_qs };
+    QTest::newRow("date of a series in UTC")
+        << QByteArray("DTSTART:20260302T233000Z\nEXDATE:20260309") << QStringList{ u"20260309T233000Z"_qs };
+    QTest::newRow("date of a series with a zone and Z")
+        << QByteArray("DTSTART;TZID=Asia/Tokyo:20260301T230000Z\nEXDATE:20260309")
+        << QStringList{ u"20260308T230000Z"_qs };
+    QTest::newRow("date of a floating series")
+        << QByteArray("DTSTART:20260302T090000\nEXDATE;VALUE=DATE:20260309") << QStringList{ u"20260309T090000"_qs };
+    QTest::newRow("date of a series without a start")
+        << QByteArray("EXDATE;VALUE=DATE:20260309") << QStringList{ u"20260309"_qs };
     QTest::newRow("midnights of an all-day series")
         << QByteArray("EXDATE;TZID=Asia/Tokyo:20260309T000000\n" + allDay + "EXDATE:20260316T000000Z")
         << QStringList{ u"20260309"_qs, u"20260316"_qs };
@@ -359,10 +376,10 @@ void tst_ICalParser::organizers_data()
 
     QTest::newRow("plain") << QByteArray("ORGANIZER;CN=Jane:mailto:jane@e.org") << u"jane@e.org"_qs << u"Jane"_qs;
     QTest::newRow("quoted name, upper case")
-        << QByteArray("ORGANIZER;CN=\"Doe, Jane\":MAILTO:jane") << u"jane"_qs << u"Doe, Jane"_qs;
+        << QByteArray("ORGANIZER;CN=\"Doe, Jane\":MAILTO:jane") << u"jane"_qs << u"\"Doe, Jane\""_qs;
     QTest::newRow("colon and semicolon in quotes")
         << QByteArray("ORGANIZER;SENT-BY=\"mailto:x@e.org\";CN=\"a;CN=b:c\":mailto:jane") << u"jane"_qs
-        << u"a;CN=b:c"_qs;
+        << u"\"a;CN=b:c\""_qs;
     QTest::newRow("quote never closed") << QByteArray("ORGANIZER;CN=\"Jane:mailto:jane") << u"jane"_qs << u"\"Jane"_qs;
     QTest::newRow("last of two names") << QByteArray("ORGANIZER;CN=a;cn=b:mailto:jane") << u"jane"_qs << u"b"_qs;
     QTest::newRow("no name, no scheme") << QByteArray("ORGANIZER:jane@e.org") << u"jane@e.org"_qs << QString();
@@ -486,6 +503,45 @@ void tst_ICalParser::countsWhatItSkips()
     QCOMPARE(reader.skipped(), (ICalParser::Skipped{ .withoutUid = 2, .withoutStart = 1 }));
     QVERIFY(reader.atEnd());
     QCOMPARE(reader.bytesRead(), reader.size());
+}
+
+void tst_ICalParser::keepsALimitOnAbsurdEvents()
+{
+    const QByteArray attendee = "ATTENDEE:mailto:a@e.org\r\n";
+    const QByteArray alarm = "BEGIN:VALARM\r\nTRIGGER:-PT5M\r\nEND:VALARM\r\n";
+    const QByteArray text = "DTSTART:20260302T090000Z\r\n" + attendee.repeated(1001) + alarm.repeated(101)
+        + "EXDATE:" + QByteArray("20260303T090000Z,").repeated(9000)
+        + "\r\nEXDATE:" + QByteArray("20260304T090000Z,").repeated(1001);
+    const Event event = eventOf(text);
+    QCOMPARE(event.attendees.size(), 1000);
+    QCOMPARE(event.reminders.size(), 100);
+    QCOMPARE(exceptionsOf(event).size(), 10'000);
+    QVERIFY(event.rawIcalendar.contains(QString::fromLatin1(text)));
+}
+
+void tst_ICalParser::leavesOutWhatIsTooLarge_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<int>("times");
+    QTest::addColumn<bool>("isKept");
+
+    constexpr int limit = 16 * 1024 * 1024;
+    const QByteArray line = "X-LINE:" + QByteArray(1015, 'x') + "\r\n"; // 1 KiB
+    QTest::newRow("one line") << QByteArray("X-LINE:" + QByteArray(limit, 'x') + "\r\n") << 1 << false;
+    QTest::newRow("many lines") << line << limit / 1024 << false;
+    QTest::newRow("many lines, not too many") << line << limit / 1024 - 1 << true;
+}
+
+void tst_ICalParser::leavesOutWhatIsTooLarge()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(int, times);
+    QFETCH(bool, isKept);
+    const QByteArray text = vevent("UID:a\r\n" + line.repeated(times) + "DTSTART:20260315") + vevent("UID:b");
+    ICalParser::EventReader reader(text);
+    QCOMPARE(uidsOf(reader.read(10, text.size())), isKept ? QStringList({ u"a"_qs, u"b"_qs }) : QStringList{ u"b"_qs });
+    QCOMPARE(reader.skipped().tooLarge, isKept ? 0 : 1);
+    QCOMPARE(reader.skipped().withoutUid, 0);
 }
 
 void tst_ICalParser::readsTheSameInSlices_data()

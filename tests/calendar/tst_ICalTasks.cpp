@@ -27,7 +27,7 @@ private slots:
     void readsReminders();
     void privateProperties_data();
     void privateProperties();
-    void leavesOverridesOut();
+    void keepsOverridesInTheTextOfTheirSeries();
     void writesPropertiesInOrder();
     void whatWasWrittenReadsBackEqual();
     void aTaskWithoutDatesIsWrittenWithoutAlarms();
@@ -107,15 +107,21 @@ void tst_ICalTasks::privateProperties()
     QTEST(task.sortOrder, "sortOrder");
 }
 
-void tst_ICalTasks::leavesOverridesOut()
+void tst_ICalTasks::keepsOverridesInTheTextOfTheirSeries()
 {
-    const QByteArray text = "BEGIN:VTODO\nUID:a\nRRULE:FREQ=DAILY\nEND:VTODO\n"
-                            "BEGIN:VTODO\nUID:a\nRECURRENCE-ID:20260315T090000Z\nSUMMARY:moved\nEND:VTODO\n"
-                            "BEGIN:VTODO\nUID:b\nEND:VTODO\n";
-    const QList<Task> tasks = ICalParser::parseTasks(text);
+    const QByteArray series = "BEGIN:VTODO\r\nUID:a\r\nRRULE:FREQ=DAILY\r\nEND:VTODO\r\n";
+    const QByteArray first = "BEGIN:VTODO\r\nUID:a\r\nRECURRENCE-ID:20260315T090000Z\r\nSUMMARY:1\r\nEND:VTODO\r\n";
+    const QByteArray second = "BEGIN:VTODO\r\nRECURRENCE-ID:20260316T090000Z\r\nUID:a\r\nEND:VTODO\r\n";
+    const QByteArray orphan = "BEGIN:VTODO\r\nUID:c\r\nRECURRENCE-ID:20260315T090000Z\r\nEND:VTODO\r\n";
+    const QByteArray other = "BEGIN:VTODO\r\nUID:b\r\nEND:VTODO\r\n";
+    const QList<Task> tasks = ICalParser::parseTasks(first + other + series + orphan + second);
     QCOMPARE(tasks.size(), 2);
-    QCOMPARE(tasks[0].recurrenceRule, u"FREQ=DAILY"_qs);
-    QCOMPARE(tasks[1].uid, u"b"_qs);
+    QCOMPARE(tasks[0].uid, u"b"_qs);
+    QCOMPARE(tasks[0].rawIcalendar.toUtf8(), other);
+    QCOMPARE(tasks[1].recurrenceRule, u"FREQ=DAILY"_qs);
+    QCOMPARE(tasks[1].title, QString());
+    QCOMPARE(tasks[1].rawIcalendar.toUtf8(), series + first + second);
+    QCOMPARE(ICalParser::parseTasks(tasks[1].rawIcalendar), QList<Task>{ tasks[1] });
 }
 
 void tst_ICalTasks::writesPropertiesInOrder()

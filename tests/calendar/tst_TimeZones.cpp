@@ -8,6 +8,7 @@ class tst_TimeZones : public QObject {
 private slots:
     void find_data();
     void find();
+    void takesStrictNamesOnlyAsIana();
     void findsAnAnswerForEveryOfManyOddNames();
 };
 
@@ -45,6 +46,8 @@ void tst_TimeZones::find_data()
     QTest::newRow("an area's folder") << u"America/Argentina"_qs << none;
     QTest::newRow("no such city") << u"Europe/Atlantis"_qs << none;
     QTest::newRow("out of the zone folder") << u"Europe/../../../../etc/passwd"_qs << none;
+    QTest::newRow("out of the zone folder, offset") << u"UTC+/../Europe/Berlin.."_qs << none;
+    QTest::newRow("absolute path") << u"/dev/stdin"_qs << none;
     QTest::newRow("very long") << QString(u"x/"_qs.repeated(100'000) + u"Europe/Paris"_qs) << none;
 }
 
@@ -56,6 +59,16 @@ void tst_TimeZones::find()
     QCOMPARE(zone.isValid(), !expected.isEmpty());
     QCOMPARE(zone.id(), expected);
     QCOMPARE(TimeZones::find(tzid), zone); // from the cache
+}
+
+void tst_TimeZones::takesStrictNamesOnlyAsIana()
+{
+    for (const auto *id : { "Europe/Paris", "Japan", "UTC", "Etc/GMT+5", "UTC+05:30" })
+        QCOMPARE(TimeZones::ianaZone(QString::fromLatin1(id)).id(), QByteArray(id));
+    // What find() makes sense of, and what only QTimeZone would.
+    for (const auto *id : { "\"Europe/Paris\"", "Eastern Standard Time", "/example.com/Europe/Paris", "Foo",
+                            "../zoneinfo/Europe/Paris", "Europe/../Asia/Tokyo", "UTC+x", "" })
+        QVERIFY2(!TimeZones::ianaZone(QString::fromLatin1(id)).isValid(), id);
 }
 
 void tst_TimeZones::findsAnAnswerForEveryOfManyOddNames()

@@ -127,10 +127,14 @@ class tst_SystemColorScheme : public QObject {
     Q_OBJECT
 
 private slots:
-    void qtDecides()
+    void qtDecidesOrElseThePalette()
     {
+        QPalette dark;
+        dark.setColor(QPalette::Window, QColor(20, 20, 20));
+        dark.setColor(QPalette::WindowText, QColor(240, 240, 240));
+        QGuiApplication::setPalette(dark);
         SystemColorScheme scheme;
-        QCOMPARE(scheme.isDark(), QGuiApplication::styleHints()->colorScheme() == Qt::ColorScheme::Dark);
+        QCOMPARE(scheme.isDark(), QGuiApplication::styleHints()->colorScheme() != Qt::ColorScheme::Light);
     }
 };
 

@@ -4,6 +4,7 @@
 
 #include <QRegularExpression>
 #include <QSignalSpy>
+#include <QSqlQuery>
 #include <QTest>
 #include <QTimeZone>
 
@@ -60,6 +61,7 @@ private slots:
     void fillsInWhatTheRecordLeavesOpen();
     void readsStampsOfSqlite();
     void refusesAnEventWithoutStart();
+    void refusesWritesWithoutASavepoint();
     void refusesASecondRowWithTheSameIdentity();
     void looksUpOverridesApartFromTheirSeries();
     void removalLeavesATombstone();
@@ -258,6 +260,30 @@ void tst_EventRepository::refusesAnEventWithoutStart()
 {
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(lit("^EventRepository::insert failed: .*start_time")));
     QVERIFY(!m_events->insert(meeting(lit("e"), QDateTime())));
+}
+
+void tst_EventRepository::refusesWritesWithoutASavepoint()
+{
+    Event stored = meeting(lit("stored"), utc(1));
+    stored.reminders = { reminder(5) };
+    QVERIFY(m_events->insert(stored));
+    const Event before = *m_events->getById(stored.id);
+
+    // As long as a statement that writes is not at its end, SQLite opens no savepoint.
+    QSqlQuery writing((*m_database)->db());
+    QVERIFY(writing.exec(lit("UPDATE calendars SET name = name RETURNING id")));
+    const QRegularExpression refusal(lit("Savepoint open failed:.*in progress"));
+    for (int i = 0; i < 3; ++i)
+        QTest::ignoreMessage(QtWarningMsg, refusal);
+    QVERIFY(!m_events->insert(meeting(lit("new"), utc(2))));
+    stored.title = lit("changed");
+    stored.reminders.clear();
+    QVERIFY(!m_events->update(stored));
+    QVERIFY(!m_events->hardDelete(stored.id));
+    writing.finish();
+
+    QVERIFY(!m_events->getById(lit("new")));
+    QCOMPARE(m_events->getById(stored.id), before);
 }
 
 void tst_EventRepository::refusesASecondRowWithTheSameIdentity()

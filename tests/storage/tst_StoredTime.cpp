@@ -15,6 +15,8 @@ private slots:
     void storesInvalidAsNull();
     void wholeDaysKeepTheirDate();
     void showsInKnownZonesOnly();
+    void keepsTheClockOfAnUnknownZone_data();
+    void keepsTheClockOfAnUnknownZone();
 };
 
 void tst_StoredTime::readsAsQtDoes_data()
@@ -98,6 +100,11 @@ void tst_StoredTime::keepsInstantsAndForms_data()
                             << QStringLiteral("2026-07-04T09:05:01-03:30");
     QTest::newRow("zone") << QDateTime(date, time, QTimeZone("Europe/Berlin"))
                           << QStringLiteral("2026-07-04T09:05:01+02:00");
+    // Local mean time, 53 minutes and 28 seconds ahead.
+    QTest::newRow("zone with seconds") << QDateTime(QDate(1890, 1, 2), QTime(9, 0), QTimeZone("Europe/Berlin"))
+                                       << QStringLiteral("1890-01-02T08:06:32Z");
+    QTest::newRow("offset with seconds") << QDateTime(date, time, Qt::OffsetFromUTC, -30)
+                                         << QStringLiteral("2026-07-04T09:05:31Z");
     QTest::newRow("local") << QDateTime(date, time) << QStringLiteral("2026-07-04T09:05:01");
 }
 
@@ -133,6 +140,26 @@ void tst_StoredTime::showsInKnownZonesOnly()
     QCOMPARE(shown, utc);
     for (const auto *id : { "", "UTC", "Nowhere/Atall" })
         QCOMPARE(StoredTime::inZone(utc, QString::fromLatin1(id)).timeSpec(), Qt::UTC);
+}
+
+void tst_StoredTime::keepsTheClockOfAnUnknownZone_data()
+{
+    QTest::addColumn<QString>("id");
+    // QTimeZone takes the words for POSIX rules and follows the paths.
+    for (const auto *id : { "Foo", "Mars", "Eastern", "ABC5", "../zoneinfo/America/New_York", "../../../etc/localtime",
+                            "/usr/share/zoneinfo/America/New_York", "Europe/../America/New_York", "Europe//Paris" })
+        QTest::newRow(id) << QString::fromLatin1(id);
+}
+
+void tst_StoredTime::keepsTheClockOfAnUnknownZone()
+{
+    QFETCH(QString, id);
+    const QDate date(2026, 3, 25); // four days before the clock change
+    const QDateTime berlin(date, QTime(9, 0), QTimeZone("Europe/Berlin"));
+    const QDateTime shown = StoredTime::inZone(berlin, id);
+    QCOMPARE(shown.toUTC(), QDateTime(date, QTime(8, 0), Qt::UTC));
+    QCOMPARE(shown.addDays(7).toUTC(), QDateTime(date.addDays(7), QTime(7, 0), Qt::UTC));
+    QCOMPARE(StoredTime::inZone(QDateTime(date, QTime(9, 0)), id).timeSpec(), Qt::LocalTime);
 }
 
 QTEST_GUILESS_MAIN(tst_StoredTime)

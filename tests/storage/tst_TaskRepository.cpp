@@ -6,6 +6,8 @@
 #include <QTest>
 #include <QTimeZone>
 
+#include <limits>
+
 namespace {
 
 QString lit(const char *text)
@@ -269,6 +271,11 @@ void tst_TaskRepository::completesAndReopens()
     QCOMPARE(task.percentComplete, 0);
     QCOMPARE(task.sequence, 2);
     QVERIFY(!m_tasks->setCompleted(lit("none"), true));
+
+    task.sequence = std::numeric_limits<int>::max();
+    QVERIFY(m_tasks->update(task));
+    QVERIFY(m_tasks->setCompleted(lit("t"), true));
+    QCOMPARE(m_tasks->getById(lit("t"))->sequence, std::numeric_limits<int>::max());
 }
 
 void tst_TaskRepository::advancesRepeatingTasks_data()

@@ -1,4 +1,5 @@
 #include "storage/CalendarRepository.h"
+#include "storage/Database.h"
 #include "storage/EventRepository.h"
 #include "support/ScratchState.h"
 #include "ui/IcsDrop.h"
@@ -9,6 +10,7 @@
 #include <QFile>
 #include <QMimeData>
 #include <QSignalSpy>
+#include <QSqlQuery>
 #include <QTest>
 #include <QUrl>
 #include <QWidget>
@@ -33,13 +35,16 @@ ImportDialog *openDialog(const QWidget &window)
     return nullptr;
 }
 
-IcsImporter::Result counts(int imported, int updated, int withoutUid = 0, int withoutStart = 0, int failed = 0)
+IcsImporter::Result counts(int imported, int updated, int withoutUid = 0, int withoutStart = 0, int failed = 0,
+                           int tooLarge = 0)
 {
     IcsImporter::Result result;
     result.imported = imported;
     result.updated = updated;
     result.failed = failed;
-    result.skipped = { withoutUid, withoutStart };
+    result.skipped.withoutUid = withoutUid;
+    result.skipped.withoutStart = withoutStart;
+    result.skipped.tooLarge = tooLarge;
     return result;
 }
 
@@ -56,6 +61,9 @@ private slots:
     void cancellingStoresNothing();
     void namesWhatItCannotRead();
     void needsAWritableCalendar();
+    void tellsWhatTheDatabaseRefused();
+    void tellsThatTheCalendarIsGone();
+    void tellsWhatWasSkippedOfAnEmptyFile();
     void aSecondImportWaits();
     void findsDroppedFiles();
 
@@ -83,6 +91,10 @@ void tst_IcsImportFlow::reports_data()
     QTest::newRow("both, even of one each") << counts(1, 1) << "Imported 1 and updated 1 in Work & %1.";
     QTest::newRow("skipped") << counts(
         2, 0, 1, 2) << "Imported 2 events into Work & %1. Skipped 3 event(s) without an identifier or a start.";
+    QTest::newRow("too large")
+        << counts(1, 0, 1, 0, 0, 2)
+        << "Imported 1 event into Work & %1. Skipped 1 event(s) without an identifier or a start."
+           " Skipped 2 event(s) that are too large.";
     QTest::newRow("refused") << counts(0, 0, 0, 0, 4)
                              << "Imported 0 events into Work & %1. 4 event(s) could not be stored.";
 }
@@ -184,11 +196,62 @@ void tst_IcsImportFlow::needsAWritableCalendar()
     QWidget window;
     Prompt::ScopedAnswers answers;
     IcsImportFlow flow(state.state(), &window);
-    flow.start({ write(state, QStringLiteral("a.ics"), vevent("a", "A")) });
+    flow.start({ write(state, QStringLiteral("a.ics"), vevent("a", "A")), write(state, QStringLiteral("b.ics"), "") });
     QTRY_VERIFY(!flow.isRunning());
+    const Prompt::ScopedAnswers::Asked empty{ QStringLiteral("warning"), QStringLiteral("Nothing to import"),
+                                              QStringLiteral("No events found in \"b.ics\".") };
     const Prompt::ScopedAnswers::Asked expected{ QStringLiteral("warning"), QStringLiteral("No calendars configured"),
                                                  QStringLiteral(
                                                      "Add a writable calendar first; then re-import \"a.ics\".") };
+    QCOMPARE(answers.asked, (QList<Prompt::ScopedAnswers::Asked>{ expected, empty }));
+}
+
+void tst_IcsImportFlow::tellsWhatTheDatabaseRefused()
+{
+    ScratchState state;
+    QVERIFY(QSqlQuery(state->database()->db())
+                .exec(QStringLiteral("CREATE TRIGGER refuse BEFORE INSERT ON events WHEN NEW.title = 'Bad'"
+                                     " BEGIN SELECT RAISE(ABORT, 'refused'); END")));
+    QWidget window;
+    Prompt::ScopedAnswers answers;
+    IcsImportFlow flow(state.state(), &window);
+    flow.start({ write(state, QStringLiteral("a.ics"), vevent("a", "Good") + vevent("b", "Bad")) });
+    QTRY_VERIFY(openDialog(window));
+    openDialog(window)->accept();
+    QTRY_VERIFY(!flow.isRunning());
+    const Prompt::ScopedAnswers::Asked expected{ QStringLiteral("warning"), QStringLiteral("Import incomplete"),
+                                                 QStringLiteral("Imported 1 event into Personal."
+                                                                " 1 event(s) could not be stored.") };
+    QCOMPARE(answers.asked, QList<Prompt::ScopedAnswers::Asked>{ expected });
+}
+
+void tst_IcsImportFlow::tellsThatTheCalendarIsGone()
+{
+    ScratchState state;
+    QWidget window;
+    Prompt::ScopedAnswers answers;
+    IcsImportFlow flow(state.state(), &window);
+    flow.start({ write(state, QStringLiteral("a.ics"), vevent("a", "A")) });
+    QTRY_VERIFY(openDialog(window));
+    QVERIFY(state->calendars()->removeDeep(ScratchState::calendarId()));
+    openDialog(window)->accept();
+    QVERIFY(!flow.isRunning());
+    const Prompt::ScopedAnswers::Asked expected{ QStringLiteral("warning"), QStringLiteral("Import failed"),
+                                                 QStringLiteral("The chosen calendar was deleted in the meantime.") };
+    QCOMPARE(answers.asked, QList<Prompt::ScopedAnswers::Asked>{ expected });
+}
+
+void tst_IcsImportFlow::tellsWhatWasSkippedOfAnEmptyFile()
+{
+    ScratchState state;
+    QWidget window;
+    Prompt::ScopedAnswers answers;
+    IcsImportFlow flow(state.state(), &window);
+    flow.start({ write(state, QStringLiteral("a.ics"), vevent("", "Nameless") + vevent("a", "Never", "")) });
+    QTRY_VERIFY(!flow.isRunning());
+    const Prompt::ScopedAnswers::Asked expected{ QStringLiteral("warning"), QStringLiteral("Nothing to import"),
+                                                 QStringLiteral("No events found in \"a.ics\". Skipped 2 event(s)"
+                                                                " without an identifier or a start.") };
     QCOMPARE(answers.asked, QList<Prompt::ScopedAnswers::Asked>{ expected });
 }
 

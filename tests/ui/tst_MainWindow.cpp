@@ -7,6 +7,7 @@
 #include "ui/CalendarListWidget.h"
 #include "ui/MainWindow.h"
 #include "ui/NoAccountsPage.h"
+#include "ui/PlainKeyGuard.h"
 #include "ui/Sidebar.h"
 #include "ui/ViewArea.h"
 #include "ui/dialogs/CalendarFormDialog.h"
@@ -16,6 +17,7 @@
 #include <QApplication>
 #include <QDropEvent>
 #include <QFile>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMimeData>
@@ -41,6 +43,8 @@ private slots:
     void fallbackKeysAreThere();
     void keysNavigate_data();
     void keysNavigate();
+    void plainKeys_data();
+    void plainKeys();
     void plainKeysBelongToWhoUsesThem();
     void keysActivateGroups();
     void mouseButtonsWalkTheHistory();
@@ -154,6 +158,36 @@ void tst_MainWindow::keysNavigate()
     QTEST(state->weekHorizon(), "horizon");
 }
 
+void tst_MainWindow::plainKeys_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isPlain");
+    const auto row = [](const char *name, int key, Qt::KeyboardModifiers modifiers, const QString &text, bool isPlain) {
+        QTest::newRow(name) << key << modifiers << text << isPlain;
+    };
+    row("Latin", Qt::Key_J, {}, QStringLiteral("j"), true);
+    row("Cyrillic", 0x041E, {}, QStringLiteral("о"), true);
+    row("Greek capital", 0x039E, Qt::ShiftModifier, QStringLiteral("Ξ"), true);
+    row("outside the BMP", 0x1F600, {}, QStringLiteral("😀"), true);
+    row("digit of the keypad", Qt::Key_1, Qt::KeypadModifier, QStringLiteral("1"), true);
+    row("space", Qt::Key_Space, {}, QStringLiteral(" "), true);
+    row("Ctrl+letter", Qt::Key_J, Qt::ControlModifier, QStringLiteral("\n"), false);
+    row("Alt+Cyrillic", 0x041E, Qt::AltModifier, QStringLiteral("о"), false);
+    row("Return", Qt::Key_Return, {}, QStringLiteral("\r"), false);
+    row("Delete", Qt::Key_Delete, {}, QStringLiteral("\x7f"), false);
+    row("F1", Qt::Key_F1, {}, {}, false);
+}
+
+void tst_MainWindow::plainKeys()
+{
+    QFETCH(int, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    QFETCH(QString, text);
+    QTEST(PlainKeyGuard::isPlainKey(QKeyEvent(QEvent::ShortcutOverride, key, modifiers, text)), "isPlain");
+}
+
 void tst_MainWindow::plainKeysBelongToWhoUsesThem()
 {
     ScratchState state;
@@ -170,6 +204,10 @@ void tst_MainWindow::plainKeysBelongToWhoUsesThem()
     QCOMPARE(state->currentDate(), Wednesday);
 
     CalendarListWidget *list = window.sidebar()->calendarList();
+    window.menuBar()->setFocus();
+    QTest::keyClick(window.menuBar(), Qt::Key_J);
+    QCOMPARE(state->currentDate(), Wednesday);
+
     list->setFocus();
     QTest::keyClick(list, Qt::Key_J);
     QCOMPARE(state->currentDate(), Wednesday);

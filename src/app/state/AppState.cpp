@@ -100,9 +100,15 @@ void AppState::onPreferenceChanged(const QString &key)
 
 void AppState::setSelectedEventId(const QString &id)
 {
-    if (id == m_selectedEventId)
+    setSelectedOccurrence(id, {});
+}
+
+void AppState::setSelectedOccurrence(const QString &id, const QDateTime &occurrenceStart)
+{
+    if (id == m_selectedEventId && occurrenceStart == m_selectedOccurrence)
         return;
     m_selectedEventId = id;
+    m_selectedOccurrence = occurrenceStart;
     emit selectedEventChanged(id);
 }
 

@@ -71,6 +71,8 @@ public:
 
     [[nodiscard]] QString activeViewId() const { return m_activeViewId; }
     [[nodiscard]] QString selectedEventId() const { return m_selectedEventId; }
+    /// When the selected occurrence of a series begins; invalid stands for the first one on show.
+    [[nodiscard]] QDateTime selectedOccurrence() const { return m_selectedOccurrence; }
     [[nodiscard]] QDate currentDate() const { return m_currentDate; }
     [[nodiscard]] QString viewMode() const { return m_viewMode; } ///< "day", "week", "days", "grid", "month", "year"
     [[nodiscard]] int hourHeight() const { return m_hourHeight; } ///< pixels
@@ -82,9 +84,12 @@ public:
     [[nodiscard]] QString lastSyncErrorCalendar() const { return m_lastSyncErrorCalendar; }
 
     void setActiveViewId(const QString &id);
-    void setSelectedEventId(const QString &id);
+    void setSelectedEventId(const QString &id); ///< whichever occurrence comes first
+    void setSelectedOccurrence(const QString &id, const QDateTime &occurrenceStart);
     void setCurrentDate(QDate date);
     void setViewMode(const QString &mode);
+    /// setViewMode() that leaves no step in the history: for a mode nobody could go back to.
+    void replaceViewMode(const QString &mode);
     void setViewModeAndDate(const QString &mode, QDate date); ///< one step of history
     void setWeekHorizon(int days);
     void setHourHeight(int pixels);
@@ -118,7 +123,7 @@ public:
 signals:
     void databaseReady();
     void activeViewChanged(const QString &id);
-    void selectedEventChanged(const QString &id);
+    void selectedEventChanged(const QString &id); ///< another event, or another occurrence of it
     void currentDateChanged(QDate date);
     void viewModeChanged(const QString &mode);
     void hourHeightChanged(int pixels);
@@ -160,6 +165,7 @@ private:
     VisibleEvents *m_visibleEvents = nullptr;
     QString m_activeViewId;
     QString m_selectedEventId;
+    QDateTime m_selectedOccurrence;
     QDate m_currentDate;
     QDate m_today;
     QString m_viewMode;

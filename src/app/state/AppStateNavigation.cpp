@@ -43,9 +43,12 @@ void AppState::restoreViewState()
     }
     watchToday();
     m_currentDate = m_today; // always opens on today; the stored date is for other devices
-    m_viewMode = normalizedMode(m_preferences->get(ViewModeKey, QStringLiteral("week")));
+    const QString storedMode = m_preferences->get(ViewModeKey, QStringLiteral("week"));
+    m_viewMode = normalizedMode(storedMode);
     if (!isKnownMode(m_viewMode)) // of a newer version, say
         m_viewMode = QStringLiteral("week");
+    if (m_viewMode != storedMode)
+        storeSoon(ViewModeKey, m_viewMode);
     m_hourHeight = std::clamp(m_preferences->getInt(HourHeightKey, MinHourHeight), MinHourHeight, MaxHourHeight);
     m_weekHorizon =
         std::clamp(m_preferences->getInt(WeekHorizonKey, DefaultWeekHorizon), MinWeekHorizon, MaxWeekHorizon);
@@ -86,6 +89,14 @@ void AppState::setViewMode(const QString &mode)
     if (wanted == m_viewMode)
         return;
     recordNavigation();
+    replaceViewMode(wanted);
+}
+
+void AppState::replaceViewMode(const QString &mode)
+{
+    const QString wanted = normalizedMode(mode);
+    if (wanted == m_viewMode)
+        return;
     m_viewMode = wanted;
     storeSoon(ViewModeKey, wanted);
     emit viewModeChanged(wanted);

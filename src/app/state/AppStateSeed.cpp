@@ -2,6 +2,7 @@
 
 #include "app/state/AppState.h"
 
+#include "app/state/LocalAccount.h"
 #include "models/Constants.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
@@ -14,22 +15,10 @@ namespace {
 const QString AccountsDedupedKey = QStringLiteral("sync/accountsDedupedV3");
 const QString SyncEnabledKey = QStringLiteral("migrations/quillonSyncEnabledDefaultV1");
 const QString AccountRenamedKey = QStringLiteral("migrations/quillonAccountRenamedV1");
-const QString LocalAccountName = QStringLiteral("Quillon");
 
-Account localAccount(const QDateTime &now)
+Calendar personalCalendar()
 {
-    Account account;
-    account.id = LocalDefaults::LocalAccountId;
-    account.name = LocalAccountName;
-    account.type = AccountType::Quillon;
-    account.color = QStringLiteral("#4CAF50");
-    account.createdAt = now;
-    account.updatedAt = now;
-    return account;
-}
-
-Calendar personalCalendar(const QDateTime &now)
-{
+    const QDateTime now = QDateTime::currentDateTimeUtc();
     Calendar calendar;
     calendar.id = LocalDefaults::PersonalCalendarId;
     calendar.accountId = LocalDefaults::LocalAccountId;
@@ -69,12 +58,11 @@ void AppState::seedDefaultCalendarIfMissing()
     }
     if (ownsCalendar(m_accounts, m_calendars, AccountType::Quillon))
         return;
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    if (!hasAccount && !m_accounts->insert(localAccount(now))) {
+    if (!LocalAccount::ensure(this)) {
         qWarning() << "[AppState] Failed to seed local account";
         return;
     }
-    if (!hasCalendar && !m_calendars->insert(personalCalendar(now)))
+    if (!hasCalendar && !m_calendars->insert(personalCalendar()))
         qWarning() << "[AppState] Failed to seed Personal calendar";
 }
 
@@ -127,7 +115,7 @@ void AppState::renameQuillonAccount()
     static const QStringList oldNames{ QStringLiteral("On This Device"), QStringLiteral("On this device"),
                                        QStringLiteral("Personal") };
     if (account->type == AccountType::Quillon && oldNames.contains(account->name)) {
-        const QString oldName = std::exchange(account->name, LocalAccountName);
+        const QString oldName = std::exchange(account->name, QString(LocalAccount::Name));
         if (m_accounts->update(*account))
             qInfo() << "[AppState] renamed" << oldName << "account to Quillon";
     }

@@ -24,8 +24,6 @@ constexpr int SliceMs = 8;
 constexpr qint64 FileChunkBytes = 512 * 1024;
 constexpr qsizetype ParseChunkBytes = 64 * 1024;
 constexpr int ParseChunkEvents = 100;
-// A calendar is not larger; what is, would only fill the memory.
-constexpr qint64 MaxFileBytes = 1024 * 1024 * 1024;
 
 int percentOf(qint64 done, qint64 total)
 {
@@ -42,10 +40,7 @@ public:
     {
         run(QStringLiteral("PRAGMA synchronous=NORMAL"));
     }
-    ~BulkWrites()
-    {
-        run(QStringLiteral("PRAGMA synchronous=FULL"));
-    }
+    ~BulkWrites() { run(QStringLiteral("PRAGMA synchronous=FULL")); }
     Q_DISABLE_COPY_MOVE(BulkWrites)
 
 private:
@@ -92,19 +87,20 @@ private:
         m_bytes.clear();
         m_file = std::make_unique<QFile>(file.path);
         // A pipe or a device might never come to an end.
-        if (!QFileInfo(*m_file).isFile() || m_file->size() > MaxFileBytes || !m_file->open(QIODevice::ReadOnly))
-            giveUp(file);
-        else
-            m_bytes.reserve(m_file->size());
+        if (!QFileInfo(*m_file).isFile() || !m_file->open(QIODevice::ReadOnly))
+            giveUp(file, FileError::Unreadable);
+        else if (m_file->size() > MaxFileBytes)
+            giveUp(file, FileError::TooLarge);
     }
 
     void readBytes(File &file)
     {
         const QByteArray chunk = m_file->read(FileChunkBytes);
-        if (m_file->error() != QFileDevice::NoError || m_bytes.size() + chunk.size() > MaxFileBytes) {
-            giveUp(file);
-            return;
-        }
+        if (m_file->error() != QFileDevice::NoError)
+            return giveUp(file, FileError::Unreadable);
+        // The size was no promise: the file may have grown, and some file systems name none.
+        if (m_bytes.size() + chunk.size() > MaxFileBytes)
+            return giveUp(file, FileError::TooLarge);
         m_bytes.append(chunk);
         m_doneBytes += chunk.size();
         if (!chunk.isEmpty())
@@ -126,9 +122,9 @@ private:
         m_reader.reset();
     }
 
-    void giveUp(File &file)
+    void giveUp(File &file, FileError error)
     {
-        file.error = FileError::Unreadable;
+        file.error = error;
         m_file.reset();
         m_bytes.clear();
     }
@@ -154,6 +150,7 @@ public:
             m_total += file.events.size();
             m_result.skipped.withoutUid += file.skipped.withoutUid;
             m_result.skipped.withoutStart += file.skipped.withoutStart;
+            m_result.skipped.tooLarge += file.skipped.tooLarge;
         }
     }
 

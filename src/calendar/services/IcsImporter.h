@@ -17,7 +17,10 @@ class IcsImporter : public QObject {
     Q_OBJECT
 
 public:
-    enum class FileError { None, Unreadable, NoEvents };
+    enum class FileError { None, Unreadable, TooLarge, NoEvents };
+
+    /// A calendar is not larger; what is, would only fill the memory.
+    static constexpr qint64 MaxFileBytes = 256LL * 1024 * 1024;
 
     struct File {
         QString path;

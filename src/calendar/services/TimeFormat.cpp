@@ -4,7 +4,6 @@
 #include "storage/PreferencesRepository.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 
 namespace {
 
@@ -43,11 +42,12 @@ QString TimeFormat::formatTime(AppState *state, QTime value)
     return QLocale().toString(value, eventTimeFormatString(state));
 }
 
-void TimeFormat::initializeFromLocale(AppState *state)
+void TimeFormat::initializeFromLocale(AppState *state, const QLocale &system)
 {
     PreferencesRepository *preferences = preferencesOf(state);
     if (!preferences || preferences->get(SettingKey))
         return;
-    const bool hasHalfDays = QLocale().timeFormat(QLocale::ShortFormat).contains(u"ap", Qt::CaseInsensitive);
+    const QLocale locale = system.language() == QLocale::C ? QLocale() : system;
+    const bool hasHalfDays = locale.timeFormat(QLocale::ShortFormat).contains(u"ap", Qt::CaseInsensitive);
     preferences->set(SettingKey, hasHalfDays ? Hours12 : Hours24);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QLocale>
 #include <QString>
 
 class AppState;
@@ -13,7 +14,8 @@ bool use24Hour(AppState *state);
 QString eventTimeFormatString(AppState *state); ///< "HH:mm" or "h:mm AP"
 QString formatTime(AppState *state, const QDateTime &value);
 QString formatTime(AppState *state, QTime value);
-/// Writes the setting from the chosen language's habit if it has never been written.
-void initializeFromLocale(AppState *state);
+/// Writes the setting if it has never been written: the clock that \p system shows. One without a language
+/// ("C") has no habit of its own, and the default locale decides.
+void initializeFromLocale(AppState *state, const QLocale &system = QLocale::system());
 
 } // namespace TimeFormat

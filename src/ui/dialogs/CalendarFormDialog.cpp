@@ -1,8 +1,7 @@
 #include "ui/dialogs/CalendarFormDialog.h"
 
 #include "app/state/AppState.h"
-#include "models/Account.h"
-#include "storage/AccountRepository.h"
+#include "app/state/LocalAccount.h"
 #include "storage/CalendarRepository.h"
 #include "ui/dialogs/ColorButton.h"
 
@@ -36,7 +35,7 @@ CalendarFormDialog::CalendarFormDialog(AppState *state, const Calendar &calendar
     , m_editing(true)
 {
     build();
-    m_name->setText(calendar.name);
+    showName(m_name, calendar.name);
     m_name->selectAll();
     m_color->setColor(calendar.color);
     m_description->setPlainText(calendar.description);
@@ -51,6 +50,7 @@ CalendarFormDialog::CalendarFormDialog(AppState *state, const Calendar &calendar
 void CalendarFormDialog::build()
 {
     m_name = new QLineEdit(this);
+    m_name->setMaxLength(MaxNameLength);
     m_name->setPlaceholderText(tr("Calendar name"));
     m_color = new ColorButton(this);
     m_description = new QPlainTextEdit(this);
@@ -61,26 +61,6 @@ void CalendarFormDialog::build()
     form->addRow(tr("&Color"), m_color);
     form->addRow(tr("&Description"), m_description);
     m_name->setFocus();
-}
-
-bool CalendarFormDialog::ensureLocalAccount()
-{
-    const QString id = LocalDefaults::LocalAccountId;
-    const QList<Account> accounts = m_state->accounts()->getAllIncludingDeleted();
-    const auto found = std::find_if(accounts.begin(), accounts.end(), [&id](const Account &a) { return a.id == id; });
-    if (found != accounts.end()) {
-        if (!found->deletedAt)
-            return true;
-        m_state->accounts()->reapTombstone(id); // it would be in the way of the new row
-    }
-    Account account;
-    account.id = id;
-    account.name = QStringLiteral("Quillon");
-    account.type = AccountType::Quillon;
-    account.color = QStringLiteral("#4CAF50");
-    account.createdAt = QDateTime::currentDateTimeUtc();
-    account.updatedAt = account.createdAt;
-    return m_state->accounts()->insert(account);
 }
 
 Calendar CalendarFormDialog::newCalendar() const
@@ -119,7 +99,7 @@ bool CalendarFormDialog::save()
         calendar->description = m_description->toPlainText();
     calendar->updatedAt = QDateTime::currentDateTimeUtc();
     const bool stored = m_editing ? m_state->calendars()->update(*calendar)
-                                  : ensureLocalAccount() && m_state->calendars()->insert(*calendar);
+                                  : LocalAccount::ensure(m_state) && m_state->calendars()->insert(*calendar);
     if (!stored) {
         showProblem(tr("The calendar could not be saved."), nullptr);
         return false;

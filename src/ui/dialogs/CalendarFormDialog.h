@@ -23,7 +23,6 @@ protected:
 
 private:
     void build();
-    bool ensureLocalAccount();
     [[nodiscard]] Calendar newCalendar() const;
 
     AppState *m_state;

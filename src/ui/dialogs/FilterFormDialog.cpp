@@ -66,6 +66,7 @@ void FilterFormDialog::build()
     setMinimumWidth(MinWidth);
     m_form = addForm();
     m_name = new QLineEdit(this);
+    m_name->setMaxLength(MaxNameLength);
     m_name->setObjectName(QStringLiteral("name"));
     m_form->addRow(tr("&Name"), m_name);
     buildConditions();
@@ -140,7 +141,7 @@ void FilterFormDialog::watchEdits()
 
 void FilterFormDialog::load(const FilterRule &rule)
 {
-    m_name->setText(rule.name);
+    showName(m_name, rule.name);
     m_action->setCurrentIndex(rule.action == FilterAction::Dim ? 1 : 0);
     m_suppress->setChecked(rule.suppressReminders);
     m_enabled->setChecked(rule.enabled);
@@ -281,7 +282,7 @@ bool FilterFormDialog::save()
         return false;
     FilterRule stored = rule();
     if (stored.name.isEmpty())
-        stored.name = m_name->placeholderText();
+        stored.name = m_name->placeholderText().left(MaxNameLength);
     stored.syncStatus = SyncStatus::Pending;
     stored.updatedAt = QDateTime::currentDateTimeUtc();
     if (m_editing) {

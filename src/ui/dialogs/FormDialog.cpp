@@ -7,12 +7,15 @@
 #include <QEvent>
 #include <QFormLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShowEvent>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -151,6 +154,12 @@ QLabel *FormDialog::addSection(const QString &title)
     label->setFont(font);
     m_body->addWidget(label);
     return label;
+}
+
+void FormDialog::showName(QLineEdit *field, const QString &name)
+{
+    field->setMaxLength(std::max(MaxNameLength, int(name.size())));
+    field->setText(name);
 }
 
 QLabel *FormDialog::makeHint(const QString &text)

@@ -7,6 +7,7 @@ class InlineMessage;
 class QDialogButtonBox;
 class QFormLayout;
 class QLabel;
+class QLineEdit;
 class QPushButton;
 class QVBoxLayout;
 
@@ -24,6 +25,8 @@ public:
     /// The layout of every form: labels left, fields as wide as the dialog allows.
     static void styleForm(QFormLayout *form);
 
+    static constexpr int MaxNameLength = 200; ///< of what the user names in a form
+
 protected:
     FormDialog(const QString &title, QWidget *parent);
 
@@ -31,6 +34,8 @@ protected:
     [[nodiscard]] QDialogButtonBox *buttons() const { return m_buttons; }
     QFormLayout *addForm(); ///< below what the body holds already
     QLabel *addSection(const QString &title);
+    /// Limits the field to MaxNameLength, or to a stored \p name that is longer.
+    static void showName(QLineEdit *field, const QString &name);
     static QLabel *makeHint(const QString &text); ///< muted, wrapped, plain
 
     /// Cancel, and the button that accepts.

@@ -6,6 +6,7 @@
 #include "storage/CalendarRepository.h"
 #include "storage/ViewRepository.h"
 #include "ui/dialogs/CalendarChecklist.h"
+#include "ui/dialogs/GroupName.h"
 #include "ui/dialogs/Prompt.h"
 #include "ui/dialogs/ViewFormDialog.h"
 #include "ui/theme/Theme.h"
@@ -21,7 +22,8 @@ ManageViewsDialog::ManageViewsDialog(AppState *state, QWidget *parent)
 
 void ManageViewsDialog::askToDelete(AppState *state, const ViewDef &view, QWidget *parent)
 {
-    Prompt::question(parent, tr("Delete group?"), tr("Delete \"%1\"? You can recreate it later.").arg(view.name), state,
+    Prompt::question(parent, tr("Delete group?"),
+                     tr("Delete \"%1\"? You can recreate it later.").arg(groupDisplayName(view)), state,
                      [state, id = view.id] {
                          if (state->views()->softDelete(id) && state->activeViewId() == id)
                              state->setActiveViewId(ViewDefaults::AllCalendarsId);
@@ -45,7 +47,7 @@ QList<OrderedListDialog::Row> ManageViewsDialog::rows()
                 members.append(names.value(id));
         }
         rows.append({ .id = view.id,
-                      .title = view.name.simplified(),
+                      .title = groupDisplayName(view).simplified(),
                       .detail = members.isEmpty() ? tr("All visible calendars") : members.join(QStringLiteral(", ")),
                       .icon = Theme::calendarDotIcon(view.color),
                       .pinned = view.id == ViewDefaults::AllCalendarsId });

@@ -232,11 +232,8 @@ void PreferencesDialog::fillDefaultCalendar(QComboBox *combo)
     const QString key = DefaultCalendar::defaultKey(false);
     combo->setCurrentIndex(qMax(0, combo->findData(m_state->preferences()->get(key, QString()))));
     connect(combo, &QComboBox::activated, this, [this, combo, key] {
-        const QString id = combo->currentData().toString();
-        if (id.isEmpty())
-            m_state->preferences()->remove(key);
-        else
-            m_state->preferences()->set(key, id);
+        // Also the empty text of "Automatic" is stored: taking the key away would signal no change.
+        m_state->preferences()->set(key, combo->currentData().toString());
     });
 }
 
@@ -249,7 +246,6 @@ QWidget *PreferencesDialog::buildGeneralPage()
     form->addRow(tr("&Language"), language);
     form->addRow(QString(), makeHint(tr("A new language takes effect at the next launch.")));
     form->addRow(QString(), makeSwitch(m_state, tr("Start &minimized"), QStringLiteral("ui/startMinimized"), false));
-    form->addRow(QString(), makeSwitch(m_state, tr("Close to tra&y"), QStringLiteral("ui/closeToTray"), true));
     return page;
 }
 

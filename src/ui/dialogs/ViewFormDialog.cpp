@@ -42,7 +42,8 @@ ViewFormDialog::ViewFormDialog(AppState *state, const ViewDef &view, QWidget *pa
 
 void ViewFormDialog::build()
 {
-    m_name = new QLineEdit(m_original.name, this);
+    m_name = new QLineEdit(this);
+    showName(m_name, m_original.name);
     m_name->setPlaceholderText(tr("Group name"));
     m_name->selectAll();
     m_color = new ColorButton(this);

@@ -6,10 +6,12 @@
 #include "ui/theme/Theme.h"
 
 #include <QFontMetrics>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -19,6 +21,8 @@ namespace {
 constexpr int GutterMarginPx = 8;
 constexpr int TextInsetPx = 6;
 constexpr int ChipRadiusPx = 4;
+constexpr int NarrowChipInsetPx = 2;
+constexpr int MaxToolTipTitles = 10;
 constexpr int StripeWidthPx = 3;
 constexpr int StripeDarkness = 180; // per cent
 constexpr int BodyAlpha = 90;
@@ -53,6 +57,9 @@ void AllDayStrip::setData(int gutterPx, QDate first, int days, const QList<Event
     setFocusPolicy(m_bars.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
     relayout();
     updateGeometry();
+    // Nothing here answers keys any more; the parent's focus proxy is the timeline.
+    if (m_bars.isEmpty() && hasFocus() && parentWidget())
+        parentWidget()->setFocus(Qt::OtherFocusReason);
 }
 
 void AllDayStrip::setGutterPx(int pixels)
@@ -188,6 +195,41 @@ int AllDayStrip::overflowChipAt(QPoint point) const
     return column >= 0 && overflowChipRect(column).contains(point) ? column : -1;
 }
 
+QString AllDayStrip::overflowChipText(int column) const
+{
+    const int hidden = m_hiddenPerColumn.value(column, 0);
+    const QString text = tr("+%1 more").arg(hidden);
+    const int room = overflowChipRect(column).width() - 2 * TextInsetPx;
+    //: the short form of "+%1 more"
+    return QFontMetrics(smallFont()).horizontalAdvance(text) <= room ? text : tr("+%1").arg(hidden);
+}
+
+QStringList AllDayStrip::hiddenTitles(int column) const
+{
+    QStringList titles;
+    const AllDayMetrics where = metrics();
+    for (const AllDayBar &bar : m_bars) {
+        if (bar.covers(column) && !where.isShown(bar, m_bars))
+            titles.append(EventText::title(events().at(bar.eventIndex)));
+    }
+    return titles;
+}
+
+QString AllDayStrip::chipToolTip(int column) const
+{
+    QStringList lines = hiddenTitles(column);
+    if (const qsizetype beyond = lines.size() - MaxToolTipTitles; beyond > 0) {
+        lines = lines.mid(0, MaxToolTipTitles);
+        lines.append(tr("+%1 more").arg(beyond));
+    }
+    return lines.join(u'\n');
+}
+
+int AllDayStrip::controlAt(QPoint point) const
+{
+    return chevronRect().contains(point) ? Chevron : overflowChipAt(point);
+}
+
 QRect AllDayStrip::chevronRect() const
 {
     const AllDayMetrics where = metrics();
@@ -253,10 +295,10 @@ void AllDayStrip::paintChips(QPainter &painter) const
         painter.setBrush(EventColors::withAlpha(palette().color(QPalette::Mid), 80));
         painter.drawRoundedRect(chip, ChipRadiusPx, ChipRadiusPx);
         painter.setPen(palette().color(QPalette::WindowText));
-        const QRect text = chip.adjusted(TextInsetPx, 0, -TextInsetPx, 0);
-        const QString label = tr("+%1 more").arg(m_hiddenPerColumn.at(column));
-        painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter,
-                         fontMetrics.elidedText(label, Qt::ElideRight, text.width()));
+        const QString label = overflowChipText(column);
+        const bool fits = fontMetrics.horizontalAdvance(label) <= chip.width() - 2 * TextInsetPx;
+        const int inset = fits ? TextInsetPx : NarrowChipInsetPx;
+        painter.drawText(chip.adjusted(inset, 0, -inset, 0), Qt::AlignLeft | Qt::AlignVCenter, label);
     }
 }
 
@@ -272,28 +314,74 @@ void AllDayStrip::paintChevron(QPainter &painter) const
     painter.drawLine(top, top + QPoint(5, 5));
 }
 
+bool AllDayStrip::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        if (const int column = overflowChipAt(help->pos()); column >= 0) {
+            QToolTip::showText(help->globalPos(), Theme::plainToolTip(chipToolTip(column)), this,
+                               overflowChipRect(column));
+            return true;
+        }
+    }
+    return EventCanvas::event(event);
+}
+
 void AllDayStrip::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Escape && selection().isEmpty() && metrics().overflows() && m_isExpanded)
+    const bool isPlain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    if (!isPlain || !metrics().overflows())
+        return EventCanvas::keyPressEvent(event);
+    switch (event->key()) {
+    case Qt::Key_Plus:
+        return setExpanded(true);
+    case Qt::Key_Minus:
         return setExpanded(false);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!findEvent(selection()))
+            return setExpanded(!m_isExpanded);
+        break;
+    case Qt::Key_Escape:
+        if (m_isExpanded && selection().isEmpty())
+            return setExpanded(false);
+        break;
+    default:
+        break;
+    }
     EventCanvas::keyPressEvent(event);
+}
+
+void AllDayStrip::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return EventCanvas::mousePressEvent(event);
+    m_pressedControl = controlAt(event->position().toPoint());
+    m_lastPressOnControl = m_pressedControl != NoControl;
+    if (!m_lastPressOnControl)
+        EventCanvas::mousePressEvent(event);
+}
+
+void AllDayStrip::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // After a click on a chip an event lies where the chip was: the second click was not meant for it.
+    if (event->button() == Qt::LeftButton && m_lastPressOnControl)
+        m_pressedControl = controlAt(event->position().toPoint());
+    else
+        EventCanvas::mouseDoubleClickEvent(event);
 }
 
 void AllDayStrip::mouseReleaseEvent(QMouseEvent *event)
 {
-    const QPoint point = event->position().toPoint();
-    const bool isOnControl = chevronRect().contains(point) || overflowChipAt(point) >= 0;
-    if (event->button() == Qt::LeftButton && isOnControl)
-        return setExpanded(!m_isExpanded);
-    EventCanvas::mouseReleaseEvent(event);
+    if (event->button() != Qt::LeftButton || m_pressedControl == NoControl)
+        return EventCanvas::mouseReleaseEvent(event);
+    if (std::exchange(m_pressedControl, NoControl) == controlAt(event->position().toPoint()))
+        setExpanded(!m_isExpanded);
 }
 
-void AllDayStrip::mouseMoveEvent(QMouseEvent *event)
+Qt::CursorShape AllDayStrip::cursorAt(QPoint point) const
 {
-    EventCanvas::mouseMoveEvent(event);
-    const QPoint point = event->position().toPoint();
-    if (chevronRect().contains(point) || overflowChipAt(point) >= 0)
-        setCursor(Qt::PointingHandCursor);
+    return controlAt(point) != NoControl ? Qt::PointingHandCursor : EventCanvas::cursorAt(point);
 }
 
 void AllDayStrip::wheelEvent(QWheelEvent *event)

@@ -6,7 +6,8 @@
 class QScrollBar;
 
 /// The band above a timeline with all-day events as bars across its columns. More than three lanes collapse
-/// to three rows with chips that count the rest, until the user opens the strip.
+/// to three rows with chips that count the rest, until the user opens the strip: by a click, by the keys plus and
+/// minus, or by Return while no event is selected.
 class AllDayStrip : public EventCanvas {
     Q_OBJECT
 
@@ -26,6 +27,9 @@ public:
     [[nodiscard]] int laneCount() const { return laneCountOf(m_bars); }
     [[nodiscard]] int overflowChipAt(QPoint point) const; ///< its column, or -1
     [[nodiscard]] QRect overflowChipRect(int column) const; ///< empty if the column has none
+    [[nodiscard]] QString overflowChipText(int column) const; ///< as long as the chip is wide
+    /// The titles of the events that a chip stands for.
+    [[nodiscard]] QStringList hiddenTitles(int column) const;
     [[nodiscard]] QRect chevronRect() const; ///< empty unless expanded
     [[nodiscard]] int neededGutterPx() const;
     [[nodiscard]] AllDayMetrics metrics() const;
@@ -37,20 +41,28 @@ protected:
     void relayout() override;
     [[nodiscard]] QList<EventKey> walkOrder() const override;
     void reveal(const EventKey &key) override;
+    [[nodiscard]] Qt::CursorShape cursorAt(QPoint point) const override;
 
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
     [[nodiscard]] QFont barFont() const;
     [[nodiscard]] QFont smallFont() const;
+    [[nodiscard]] int controlAt(QPoint point) const; // a chip's column, Chevron or NoControl
+    [[nodiscard]] QString chipToolTip(int column) const;
     void updateScrollBar();
     void paintBar(QPainter &painter, const EventBlock &block, const AllDayBar &bar) const;
     void paintChips(QPainter &painter) const;
     void paintChevron(QPainter &painter) const;
+
+    static constexpr int NoControl = -1;
+    static constexpr int Chevron = -2;
 
     QScrollBar *m_scrollBar;
     DayColumns m_columns;
@@ -59,6 +71,8 @@ private:
     QList<AllDayBar> m_shownBars; // beside blocks()
     QList<int> m_hiddenPerColumn;
     bool m_isExpanded = false;
+    int m_pressedControl = NoControl;
+    bool m_lastPressOnControl = false;
     int m_heightLimit = QWIDGETSIZE_MAX;
     WheelNotches m_wheelNotches;
 };

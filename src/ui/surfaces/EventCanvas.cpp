@@ -16,6 +16,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <utility>
 
 EventCanvas::EventCanvas(AppState *state, QWidget *parent)
     : QWidget(parent)
@@ -26,33 +27,38 @@ EventCanvas::EventCanvas(AppState *state, QWidget *parent)
     setMouseTracking(true);
 }
 
-void EventCanvas::setSelectedEventId(const QString &id)
+void EventCanvas::setSelectedOccurrence(const QString &id, const QDateTime &occurrenceStart)
 {
-    if (id != m_selection.id)
-        setSelection({ id, {} });
+    setSelection({ id, occurrenceStart });
 }
 
 bool EventCanvas::isSelected(const EventBlock &block) const
 {
-    return !m_selection.isEmpty() && m_selection.matches(block.key());
+    if (m_selection.isEmpty() || m_selection.id != block.eventId)
+        return false;
+    const Event *selected = findEvent(m_selection);
+    return selected && selected->startTime == block.occurrenceStart;
 }
 
 QString EventCanvas::eventIdAt(QPoint point) const
 {
-    const int index = blockIndexAt(m_blocks, point);
+    const int index = blockIndexAt(blocks(), point);
     return index < 0 ? QString() : m_blocks.at(index).eventId;
 }
 
 const Event *EventCanvas::findEvent(const EventKey &key) const
 {
-    const auto found = std::find_if(m_events.begin(), m_events.end(), [&key](const Event &event) {
-        return key.matches({ event.id, event.startTime });
-    });
-    return found == m_events.end() ? nullptr : &*found;
+    const Event *found = nullptr;
+    for (const Event &event : m_events) {
+        if (key.matches({ event.id, event.startTime }) && (!found || event.startTime < found->startTime))
+            found = &event;
+    }
+    return found;
 }
 
 int EventCanvas::blockIndexOf(const EventKey &key) const
 {
+    layOutIfDirty();
     const auto found = std::find_if(m_blocks.begin(), m_blocks.end(),
                                     [&key](const EventBlock &block) { return key.matches(block.key()); });
     return key.isEmpty() || found == m_blocks.end() ? -1 : static_cast<int>(found - m_blocks.begin());
@@ -79,7 +85,8 @@ void EventCanvas::paintShape(QPainter &painter, const EventBlock &block, const B
     painter.setBrush(colors.body);
     painter.drawRoundedRect(block.rect, RadiusPx, RadiusPx);
     painter.setBrush(colors.stripe);
-    painter.drawRoundedRect(QRect(block.rect.topLeft(), QSize(stripeWidthPx, block.rect.height())), RadiusPx, RadiusPx);
+    const int stripePx = std::min(stripeWidthPx, std::max(1, block.rect.width() / 2)); // the body stays to be seen
+    painter.drawRoundedRect(QRect(block.rect.topLeft(), QSize(stripePx, block.rect.height())), RadiusPx, RadiusPx);
     if (!isSelected(block))
         return;
     painter.setBrush(Qt::NoBrush);
@@ -93,7 +100,7 @@ void EventCanvas::paintShape(QPainter &painter, const EventBlock &block, const B
 
 void EventCanvas::paintFocusMark(QPainter &painter, int gutterPx) const
 {
-    if (hasFocus() && blockIndexOf(m_selection) < 0)
+    if (hasFocus() && m_showsFocus && blockIndexOf(m_selection) < 0)
         painter.fillRect(QRect(gutterPx - 2, 0, 2, height()), Theme::accent());
 }
 
@@ -108,12 +115,52 @@ void EventCanvas::setEvents(const QList<Event> &events, const QHash<QString, QSt
     m_events = events;
     m_calendarColors = calendarColors;
     m_dimmedIds = dimmedIds;
+    markDirty();
 }
 
 void EventCanvas::setBlocks(QList<EventBlock> blocks)
 {
     m_blocks = std::move(blocks);
+    m_isDirty = false;
     update();
+}
+
+void EventCanvas::markDirty()
+{
+    m_isDirty = true;
+    update();
+    settleSoon();
+}
+
+void EventCanvas::layOutIfDirty() const
+{
+    if (!m_isDirty)
+        return;
+    auto *self = const_cast<EventCanvas *>(this); // the blocks are a cache of what is known already
+    self->m_isDirty = false;
+    self->relayout();
+}
+
+void EventCanvas::settleSoon()
+{
+    if (!std::exchange(m_isSettling, true))
+        QMetaObject::invokeMethod(
+            this, [this] { settle(); }, Qt::QueuedConnection);
+}
+
+void EventCanvas::settle()
+{
+    if (std::exchange(m_haveFontsChanged, false))
+        emit fontMetricsChanged();
+    if (isVisible())
+        layOutIfDirty();
+    m_isSettling = false;
+}
+
+void EventCanvas::setShowsFocus(bool shows)
+{
+    if (std::exchange(m_showsFocus, shows) != shows)
+        update();
 }
 
 Qt::CursorShape EventCanvas::cursorOver(const EventBlock &) const
@@ -121,11 +168,18 @@ Qt::CursorShape EventCanvas::cursorOver(const EventBlock &) const
     return Qt::PointingHandCursor;
 }
 
+Qt::CursorShape EventCanvas::cursorAt(QPoint point) const
+{
+    const int index = blockIndexAt(blocks(), point);
+    return index < 0 ? Qt::ArrowCursor : cursorOver(m_blocks.at(index));
+}
+
 void EventCanvas::setSelection(const EventKey &key)
 {
     if (m_selection == key)
         return;
     m_selection = key;
+    m_isSelectedByMouse = false;
     update();
 }
 
@@ -137,7 +191,7 @@ void EventCanvas::clearSelection()
 
 void EventCanvas::selectAndOpen(int blockIndex)
 {
-    const EventBlock block = m_blocks.at(blockIndex);
+    const EventBlock block = blocks().at(blockIndex);
     setSelection(block.key());
     emit eventSelected(block.eventId, block.occurrenceStart, globalRect(block.rect));
 }
@@ -166,14 +220,23 @@ bool EventCanvas::walk(int step, bool wrap)
         return false;
     const EventKey key = order.at(next);
     setSelection(key);
+    m_isSelectedByMouse = false;
+    setShowsFocus(true);
     reveal(key);
     if (const int block = blockIndexOf(key); block >= 0) {
         QAccessibleEvent focused(this, QAccessible::Focus);
         focused.setChild(block);
         QAccessible::updateAccessibility(&focused);
     }
-    emit eventFocused(key.id);
+    emit eventFocused(key.id, key.occurrenceStart);
     return true;
+}
+
+void EventCanvas::enterAtNearEnd(int step)
+{
+    const EventKey before = std::exchange(m_selection, {});
+    if (!walk(step, false))
+        m_selection = before; // of another surface
 }
 
 bool EventCanvas::event(QEvent *event)
@@ -191,7 +254,7 @@ bool EventCanvas::event(QEvent *event)
 
 bool EventCanvas::showToolTip(QPoint globalPos, QPoint pos)
 {
-    const int index = blockIndexAt(m_blocks, pos);
+    const int index = blockIndexAt(blocks(), pos);
     if (index < 0)
         return false;
     const EventBlock &block = m_blocks.at(index);
@@ -208,13 +271,17 @@ bool EventCanvas::focusNextPrevChild(bool next)
 void EventCanvas::focusInEvent(QFocusEvent *event)
 {
     QWidget::focusInEvent(event);
-    const bool isByTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    const Qt::FocusReason reason = event->reason();
+    const bool isByTab = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+    const bool isReturning = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+    if (!isReturning)
+        setShowsFocus(isByTab || reason == Qt::ShortcutFocusReason);
     if (!isByTab)
         return;
-    if (findEvent(m_selection))
+    if (m_isSelectedByMouse && findEvent(m_selection))
         reveal(m_selection);
     else
-        walk(event->reason() == Qt::TabFocusReason ? 1 : -1, false);
+        enterAtNearEnd(reason == Qt::TabFocusReason ? 1 : -1);
 }
 
 void EventCanvas::changeEvent(QEvent *event)
@@ -225,12 +292,12 @@ void EventCanvas::changeEvent(QEvent *event)
     case QEvent::StyleChange:
     case QEvent::LanguageChange:
     case QEvent::LocaleChange:
-        relayout();
+        m_haveFontsChanged = true;
+        markDirty();
         updateGeometry();
-        emit fontMetricsChanged();
         break;
     case QEvent::PaletteChange:
-        relayout();
+        onPaletteChanged();
         break;
     default:
         break;
@@ -245,45 +312,50 @@ void EventCanvas::resizeEvent(QResizeEvent *event)
 
 void EventCanvas::keyPressEvent(QKeyEvent *event)
 {
-    bool isHandled = false;
-    switch (event->key()) {
+    if (!handleKey(event->key()))
+        QWidget::keyPressEvent(event);
+}
+
+bool EventCanvas::handleKey(int key)
+{
+    switch (key) {
     case Qt::Key_Down:
-        isHandled = walk(1, true);
-        break;
     case Qt::Key_Up:
-        isHandled = walk(-1, true);
-        break;
+        setShowsFocus(true); // also where there is nothing to walk to
+        return walk(key == Qt::Key_Down ? 1 : -1, true);
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        isHandled = findEvent(m_selection) != nullptr;
-        if (isHandled)
-            openSelected();
-        break;
+        setShowsFocus(true);
+        if (!findEvent(m_selection))
+            return false;
+        openSelected();
+        return true;
     case Qt::Key_Escape:
-        isHandled = !m_selection.isEmpty();
-        if (isHandled)
-            clearSelection();
-        break;
+        setShowsFocus(true);
+        if (m_selection.isEmpty())
+            return false;
+        clearSelection();
+        return true;
     default:
-        break;
+        return false;
     }
-    if (!isHandled)
-        QWidget::keyPressEvent(event);
 }
 
 void EventCanvas::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return QWidget::mousePressEvent(event);
-    const int index = blockIndexAt(m_blocks, event->position().toPoint());
+    setShowsFocus(false);
+    const int index = blockIndexAt(blocks(), event->position().toPoint());
     m_pressed = index < 0 ? EventKey() : m_blocks.at(index).key();
     event->accept();
 }
 
 void EventCanvas::mouseMoveEvent(QMouseEvent *event)
 {
-    const int index = blockIndexAt(m_blocks, event->position().toPoint());
-    setCursor(index < 0 ? Qt::ArrowCursor : cursorOver(m_blocks.at(index)));
+    const Qt::CursorShape shape = cursorAt(event->position().toPoint());
+    if (shape != cursor().shape())
+        setCursor(shape);
     QWidget::mouseMoveEvent(event);
 }
 
@@ -292,11 +364,14 @@ void EventCanvas::mouseReleaseEvent(QMouseEvent *event)
     if (event->button() != Qt::LeftButton || !m_pressed)
         return QWidget::mouseReleaseEvent(event);
     const EventKey pressed = *std::exchange(m_pressed, std::nullopt);
-    const int index = blockIndexAt(m_blocks, event->position().toPoint());
+    const int index = blockIndexAt(blocks(), event->position().toPoint());
     if (index < 0 && pressed.isEmpty())
-        clearSelection();
-    else if (index >= 0 && m_blocks.at(index).key() == pressed)
-        selectAndOpen(index);
+        return clearSelection();
+    if (index < 0 || m_blocks.at(index).key() != pressed)
+        return;
+    setSelection(pressed);
+    m_isSelectedByMouse = true;
+    selectAndOpen(index);
 }
 
 void EventCanvas::mouseDoubleClickEvent(QMouseEvent *event)
@@ -311,7 +386,7 @@ void EventCanvas::mouseDoubleClickEvent(QMouseEvent *event)
 void EventCanvas::contextMenuEvent(QContextMenuEvent *event)
 {
     const bool isByKeyboard = event->reason() == QContextMenuEvent::Keyboard;
-    const int index = isByKeyboard ? blockIndexOf(m_selection) : blockIndexAt(m_blocks, event->pos());
+    const int index = isByKeyboard ? blockIndexOf(m_selection) : blockIndexAt(blocks(), event->pos());
     if (index < 0)
         return QWidget::contextMenuEvent(event);
     const EventBlock block = m_blocks.at(index);
@@ -319,5 +394,6 @@ void EventCanvas::contextMenuEvent(QContextMenuEvent *event)
     const QPoint globalPos =
         isByKeyboard ? mapToGlobal((onScreen.isEmpty() ? block.rect : onScreen).center()) : event->globalPos();
     setSelection(block.key());
+    m_isSelectedByMouse |= !isByKeyboard;
     emit eventContextRequested(block.eventId, globalPos);
 }

@@ -27,15 +27,19 @@ class EventCanvas : public QWidget {
 public:
     EventCanvas(AppState *state, QWidget *parent);
 
-    /// The selection as the program knows it. The occurrence stays if the id is the same.
-    void setSelectedEventId(const QString &id);
+    /// The selection as the program knows it. An invalid start stands for the first occurrence on show.
+    void setSelectedOccurrence(const QString &id, const QDateTime &occurrenceStart);
     [[nodiscard]] const EventKey &selection() const { return m_selection; }
     [[nodiscard]] bool isSelected(const EventBlock &block) const;
 
-    [[nodiscard]] const QList<EventBlock> &blocks() const { return m_blocks; }
+    [[nodiscard]] const QList<EventBlock> &blocks() const ///< lays out what has changed
+    {
+        layOutIfDirty();
+        return m_blocks;
+    }
     [[nodiscard]] QString eventIdAt(QPoint point) const; ///< empty if there is none
     [[nodiscard]] const Event &eventOf(const EventBlock &block) const { return m_events.at(block.eventIndex); }
-    /// The instance shown for \p key, or null.
+    /// The instance shown for \p key, the first one if it names no occurrence; or null.
     [[nodiscard]] const Event *findEvent(const EventKey &key) const;
     /// The topmost block of \p key that is on show, or -1.
     [[nodiscard]] int blockIndexOf(const EventKey &key) const;
@@ -48,10 +52,10 @@ public:
 signals:
     /// \p id is empty after a click beside all events.
     void eventSelected(const QString &id, const QDateTime &occurrenceStart, const QRect &globalRect);
-    void eventFocused(const QString &id); ///< by keyboard
+    void eventFocused(const QString &id, const QDateTime &occurrenceStart); ///< by keyboard
     void eventActivated(const QString &id);
     void eventContextRequested(const QString &id, const QPoint &globalPos);
-    void fontMetricsChanged(); ///< the gutter may need another width
+    void fontMetricsChanged(); ///< gutter and hours may need another size; once for many changes
 
 protected:
     [[nodiscard]] AppState *state() const { return m_state; }
@@ -66,16 +70,21 @@ protected:
 
     /// Body, stripe and, for the selected block, the selection with the mark of the keyboard's focus.
     void paintShape(QPainter &painter, const EventBlock &block, const BlockColors &colors, int stripeWidthPx) const;
-    /// Shows in the gutter that the keyboard is here, while no block with the focus says so.
+    /// Shows in the gutter that the keyboard is here, while no block with the focus says so. Only to those
+    /// who use the keyboard: one who clicked knows where he is.
     void paintFocusMark(QPainter &painter, int gutterPx) const;
 
-    /// Computes the blocks anew; called when the font, the size or the palette has changed.
+    /// The blocks are computed anew before they are next painted or asked for, once for all changes.
+    void markDirty();
+    /// Computes the blocks anew, and hands them to setBlocks().
     virtual void relayout() = 0;
+    virtual void onPaletteChanged() { update(); }
     /// All events in the order in which the keyboard walks them.
     [[nodiscard]] virtual QList<EventKey> walkOrder() const = 0;
     /// Brings the event into view, after a step of the keyboard.
     virtual void reveal(const EventKey &key) = 0;
     [[nodiscard]] virtual Qt::CursorShape cursorOver(const EventBlock &block) const;
+    [[nodiscard]] virtual Qt::CursorShape cursorAt(QPoint point) const;
 
     bool event(QEvent *event) override;
     bool focusNextPrevChild(bool next) override;
@@ -91,6 +100,12 @@ protected:
 
 private:
     bool walk(int step, bool wrap);
+    void enterAtNearEnd(int step);
+    void layOutIfDirty() const;
+    void settleSoon();
+    void settle();
+    void setShowsFocus(bool shows);
+    [[nodiscard]] bool handleKey(int key);
     void setSelection(const EventKey &key);
     void openSelected();
     void clearSelection();
@@ -102,5 +117,10 @@ private:
     QSet<QString> m_dimmedIds;
     QList<EventBlock> m_blocks;
     EventKey m_selection;
+    bool m_isSelectedByMouse = false;
+    bool m_showsFocus = false;
+    bool m_isDirty = false;
+    bool m_isSettling = false;
+    bool m_haveFontsChanged = false;
     std::optional<EventKey> m_pressed; // an empty key: beside all blocks
 };

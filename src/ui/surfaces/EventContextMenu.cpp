@@ -3,6 +3,7 @@
 #include "app/state/AppState.h"
 #include "calendar/FilterEngine.h"
 #include "storage/FilterRuleRepository.h"
+#include "ui/surfaces/EventText.h"
 #include "ui/theme/Theme.h"
 
 EventContextMenu::EventContextMenu(AppState *state, const Event &event, QWidget *parent)
@@ -10,7 +11,7 @@ EventContextMenu::EventContextMenu(AppState *state, const Event &event, QWidget 
 {
     setAttribute(Qt::WA_DeleteOnClose);
     if (const auto rule = FilterEngine::firstMatchingRule(event, state->filterRules()->getAll())) {
-        addAction(tr("Edit filter \"%1\"…").arg(Theme::plainLabel(rule->name)), this,
+        addAction(tr("Edit filter \"%1\"…").arg(Theme::plainLabel(EventText::shortName(rule->name))), this,
                   [this, rule = *rule] { emit filterEditRequested(rule); });
     }
     addAction(tr("Create Filter from Event…"), this, [this, event] { emit filterFromEventRequested(event); });

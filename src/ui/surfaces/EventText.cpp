@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int MaxShownChars = 300; // a title of megabytes would take seconds to measure
+constexpr int MaxNameChars = 40;
 
 class Tr {
     Q_DECLARE_TR_FUNCTIONS(EventText)
@@ -74,6 +75,17 @@ QString EventText::title(const Event &event)
 QString EventText::location(const Event &event)
 {
     return oneLine(event.location);
+}
+
+QString EventText::shortName(const QString &name)
+{
+    const QString line = oneLine(name);
+    if (line.size() <= MaxNameChars)
+        return line;
+    QString start = line.left(MaxNameChars - 1);
+    if (start.back().isHighSurrogate())
+        start.chop(1);
+    return start.trimmed() + u'…';
 }
 
 QString EventText::startTime(const Event &event, const QString &timePattern)

@@ -12,6 +12,8 @@ namespace EventText {
 
 QString title(const Event &event); ///< "(Untitled)" if it has none
 QString location(const Event &event);
+/// A name of any kind for a menu or a button: one line of at most 40 characters.
+QString shortName(const QString &name);
 /// "9:00 AM – 10:00 AM"; with weekdays for a timed event that spans dates. Not for all-day events.
 /// \p timePattern is TimeFormat::eventTimeFormatString(), which painters keep: reading it is a query.
 QString timeLine(const Event &event, const QString &timePattern);

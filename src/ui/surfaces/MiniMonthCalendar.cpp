@@ -6,6 +6,7 @@
 #include "storage/CalendarRepository.h"
 #include "storage/EventRepository.h"
 #include "storage/FilterRuleRepository.h"
+#include "storage/ViewRepository.h"
 #include "ui/theme/Theme.h"
 #include "ui/theme/ThemeManager.h"
 
@@ -20,13 +21,13 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
 constexpr int GridDays = MiniMonthGeometry::Rows * MiniMonthGeometry::Columns;
 constexpr int PreferredWidthPx = 240;
 constexpr int WheelPauseMs = 150; // a flick of a touchpad sends dozens of steps
-constexpr qreal DotRadius = 2.0;
 constexpr qreal OutlineWidth = 1.4;
 
 QFont sizedFont(const QFont &base, int offsetPt, int leastPt, bool isBold)
@@ -52,11 +53,17 @@ QFont dayFont(const QFont &base)
     return sizedFont(base, 0, 9, false);
 }
 
+QString shortTitlePattern(const QString &pattern)
+{
+    QString shorter = pattern;
+    return shorter.replace(QLatin1StringView("MMMM"), QLatin1StringView("MMM"));
+}
+
 void drawDot(QPainter &painter, QPointF center, const QColor &color)
 {
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
-    painter.drawEllipse(center, DotRadius, DotRadius);
+    painter.drawEllipse(center, MiniMonthGeometry::DotRadiusPx, MiniMonthGeometry::DotRadiusPx);
 }
 
 }
@@ -69,6 +76,8 @@ MiniMonthCalendar::MiniMonthCalendar(AppState *state, QWidget *parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
+    m_reloadTimer.setSingleShot(true);
+    connect(&m_reloadTimer, &QTimer::timeout, this, &MiniMonthCalendar::onReloadTimer);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setAccessibleName(tr("Month to pick a day from"));
     updateLayout();
@@ -80,11 +89,12 @@ MiniMonthCalendar::MiniMonthCalendar(AppState *state, QWidget *parent)
 
 void MiniMonthCalendar::connectSources()
 {
-    const auto reload = [this] { reloadOrMarkStale(); };
+    const auto reload = [this] { reloadSoon(); };
     connect(m_state, &AppState::currentDateChanged, this, &MiniMonthCalendar::onCurrentDateChanged);
     connect(m_state, &AppState::activeViewChanged, this, reload);
     connect(m_state, &AppState::firstDayOfWeekChanged, this, reload);
     connect(m_state, &AppState::todayChanged, this, [this] { update(); });
+    connect(m_state->views(), &ViewRepository::viewsChanged, this, reload);
     connect(m_state->events(), &EventRepository::eventsChanged, this, reload);
     connect(m_state->calendars(), &CalendarRepository::calendarsChanged, this, reload);
     connect(m_state->filterRules(), &FilterRuleRepository::filterRulesChanged, this, reload);
@@ -148,7 +158,8 @@ void MiniMonthCalendar::stepMonth(int months)
     if (!target.isValid())
         return;
     m_month = target;
-    reloadOrMarkStale();
+    reloadSoon();
+    update();
 }
 
 void MiniMonthCalendar::onCurrentDateChanged(QDate date)
@@ -157,7 +168,7 @@ void MiniMonthCalendar::onCurrentDateChanged(QDate date)
     const QDate month(date.year(), date.month(), 1);
     if (month != m_month) {
         m_month = month;
-        reloadOrMarkStale();
+        reloadSoon();
     }
     update();
 }
@@ -173,10 +184,21 @@ QDate MiniMonthCalendar::currentDate() const
     return date.isValid() ? date : QDate::currentDate();
 }
 
-void MiniMonthCalendar::reloadOrMarkStale()
+void MiniMonthCalendar::reloadSoon()
 {
     m_isStale = true;
-    if (isVisible())
+    m_turnsToWait = 1;
+    m_reloadTimer.start(0);
+}
+
+void MiniMonthCalendar::onReloadTimer()
+{
+    if (!m_isStale || !isVisible())
+        return;
+    // The timeline's timer fires in the same turn; its load and this one together would be felt.
+    if (m_turnsToWait-- > 0)
+        m_reloadTimer.start(0);
+    else
         reloadEvents();
 }
 
@@ -208,16 +230,49 @@ void MiniMonthCalendar::updateLayout()
     m_geometry.weekdayHeightPx = std::max(least.weekdayHeightPx, weekday.height() + 4);
     m_geometry.rowHeightPx = std::max(least.rowHeightPx, day.height() + 14);
 
-    const int cellWidth = day.horizontalAdvance(QLocale().toString(28)) + 8;
-    m_minimumWidthPx = MiniMonthGeometry::Columns * cellWidth + 2 * MiniMonthGeometry::MarginPx;
-
+    m_numberWidthPx = day.horizontalAdvance(QLocale().toString(28));
     const QRect header = m_geometry.headerRect();
     const int side = header.height() - 4;
+    const int gridWidth = MiniMonthGeometry::Columns * (m_numberWidthPx + 8) + 2 * MiniMonthGeometry::MarginPx;
+    const int headerWidth = widestShortTitle(title) + 2 * side + 5 * MiniMonthGeometry::MarginPx;
+    m_minimumWidthPx = std::max(gridWidth, headerWidth);
+
     m_next->setGeometry(header.right() + 1 - side, header.top() + 2, side, side);
     m_previous->setGeometry(header.right() + 1 - 2 * side - 4, header.top() + 2, side, side);
     const int icon = std::max(12, title.height() * 3 / 4);
     for (QToolButton *button : { m_previous, m_next })
         button->setIconSize({ icon, icon });
+}
+
+int MiniMonthCalendar::widestShortTitle(const QFontMetrics &metrics)
+{
+    const QString pattern = shortTitlePattern(titlePattern());
+    int widest = 0;
+    for (int month = 1; month <= 12; ++month)
+        widest = std::max(widest, metrics.horizontalAdvance(QLocale().toString(QDate(2000, month, 1), pattern)));
+    return widest;
+}
+
+QString MiniMonthCalendar::titlePattern()
+{
+    //: Title of the small month in the sidebar: a date pattern, M is for month and y for year.
+    return tr("MMMM yyyy");
+}
+
+QString MiniMonthCalendar::title() const
+{
+    const QString full = QLocale().toString(m_month, titlePattern());
+    if (QFontMetrics(titleFont(font())).horizontalAdvance(full) <= titleRect().width())
+        return full;
+    return QLocale().toString(m_month, shortTitlePattern(titlePattern()));
+}
+
+QRect MiniMonthCalendar::titleRect() const
+{
+    QRect rect = m_geometry.headerRect();
+    rect.setLeft(rect.left() + MiniMonthGeometry::MarginPx);
+    rect.setRight(m_previous->x() - MiniMonthGeometry::MarginPx);
+    return rect;
 }
 
 void MiniMonthCalendar::updateIcons()
@@ -287,16 +342,14 @@ void MiniMonthCalendar::mousePressEvent(QMouseEvent *event)
 
 void MiniMonthCalendar::mouseMoveEvent(QMouseEvent *event)
 {
-    const QDate date = dateAt(event->position().toPoint());
-    if (date == m_hovered)
-        return;
-    m_hovered = date;
-    update();
+    const QPoint before = std::exchange(m_pointer, event->position().toPoint());
+    if (m_geometry.cellAt(before) != m_geometry.cellAt(m_pointer))
+        update();
 }
 
 void MiniMonthCalendar::leaveEvent(QEvent *)
 {
-    m_hovered = {};
+    m_pointer = { -1, -1 };
     update();
 }
 
@@ -322,7 +375,7 @@ void MiniMonthCalendar::resizeEvent(QResizeEvent *)
 void MiniMonthCalendar::showEvent(QShowEvent *)
 {
     if (m_isStale)
-        reloadEvents();
+        reloadSoon();
 }
 
 void MiniMonthCalendar::changeEvent(QEvent *event)
@@ -349,20 +402,15 @@ void MiniMonthCalendar::paintEvent(QPaintEvent *)
 
 void MiniMonthCalendar::paintHeader(QPainter &painter) const
 {
-    QRect rect = m_geometry.headerRect();
-    rect.setRight(m_previous->x() - MiniMonthGeometry::MarginPx);
+    const QRect text = titleRect();
     if (hasFocus() && dateRect(currentDate()).isEmpty()) {
         painter.setPen(QPen(Theme::accent(), OutlineWidth));
         painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(rect, 4, 4);
+        painter.drawRoundedRect(text.adjusted(-MiniMonthGeometry::MarginPx, 0, 0, 0), 4, 4);
     }
-    rect.setLeft(rect.left() + MiniMonthGeometry::MarginPx);
     painter.setFont(titleFont(font()));
     painter.setPen(Theme::textPrimary());
-    //: Title of the small month in the sidebar: a date pattern, M is for month and y for year.
-    const QString title = QLocale().toString(m_month, tr("MMMM yyyy"));
-    painter.drawText(rect, Qt::AlignLeft | Qt::AlignVCenter,
-                     painter.fontMetrics().elidedText(title, Qt::ElideRight, rect.width()));
+    painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter, title());
 }
 
 void MiniMonthCalendar::paintWeekdays(QPainter &painter) const
@@ -382,19 +430,22 @@ void MiniMonthCalendar::paintDay(QPainter &painter, QDate date, const QRect &cel
     const bool isToday = date == QDate::currentDate();
     const bool isOutside = date.month() != m_month.month();
     const QPointF center = QRectF(cell).center();
-    const qreal radius = MiniMonthGeometry::dayRadius(cell);
+    const qreal radius = MiniMonthGeometry::dayRadius(cell, m_numberWidthPx);
     QColor text = isOutside ? Theme::textDisabled() : Theme::textPrimary();
     QColor dot = isOutside ? Theme::textDisabled() : Theme::accent();
-    QPointF dotCenter(center.x(), cell.bottom() - 4);
+    const QFontMetrics metrics = painter.fontMetrics();
+    const qreal digitsBelowCentre = metrics.ascent() - metrics.height() / 2.0;
+    const qreal dotY = MiniMonthGeometry::dotCentreY(cell, digitsBelowCentre, radius, isSelected);
 
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::NoBrush);
     if (isSelected) {
-        text = dot = Theme::textOn(Theme::accent());
-        dotCenter.setY(center.y() + radius - 2 * DotRadius); // inside the circle, where its colour shows
+        text = Theme::textOn(Theme::accent());
+        if (dotY < center.y() + radius)
+            dot = text; // inside the circle
         painter.setBrush(Theme::accent());
     } else {
-        if (date == m_hovered)
+        if (cell.contains(m_pointer))
             painter.setBrush(Theme::accentMuted());
         if (isToday) {
             text = Theme::accentText();
@@ -411,5 +462,5 @@ void MiniMonthCalendar::paintDay(QPainter &painter, QDate date, const QRect &cel
     painter.setPen(text);
     painter.drawText(cell, Qt::AlignCenter, QLocale().toString(date.day()));
     if (m_busyDays.contains(date))
-        drawDot(painter, dotCenter, dot);
+        drawDot(painter, { center.x(), dotY }, dot);
 }

@@ -5,6 +5,7 @@
 #include <QDate>
 #include <QElapsedTimer>
 #include <QSet>
+#include <QTimer>
 #include <QWidget>
 
 class AppState;
@@ -25,6 +26,7 @@ public:
     [[nodiscard]] QDate gridStart() const;
     [[nodiscard]] QDate dateAt(QPoint point) const; ///< invalid outside the days
     [[nodiscard]] QRect dateRect(QDate date) const; ///< empty for a day that is not on show
+    [[nodiscard]] QString title() const; ///< the month and its year, short if the header is narrow
     [[nodiscard]] bool isBusy(QDate date) const { return m_busyDays.contains(date); }
 
 public slots:
@@ -45,13 +47,17 @@ protected:
 private:
     void connectSources();
     void onCurrentDateChanged(QDate date);
-    void reloadOrMarkStale();
+    void reloadSoon(); // once for all that changes meanwhile, and in a turn of the event loop of its own
+    void onReloadTimer();
     void reloadEvents();
     void updateLayout();
+    [[nodiscard]] static QString titlePattern();
+    [[nodiscard]] static int widestShortTitle(const QFontMetrics &metrics);
     void updateIcons();
     [[nodiscard]] Qt::DayOfWeek firstDayOfWeek() const;
     [[nodiscard]] QDate currentDate() const;
     [[nodiscard]] QDate dateForKey(const QKeyEvent &event) const; ///< invalid for other keys
+    [[nodiscard]] QRect titleRect() const;
     [[nodiscard]] QToolButton *makeStepButton(const QString &name, int months);
     void paintHeader(QPainter &painter) const;
     void paintWeekdays(QPainter &painter) const;
@@ -62,9 +68,12 @@ private:
     QToolButton *m_next;
     MiniMonthGeometry m_geometry;
     int m_minimumWidthPx = 0;
+    int m_numberWidthPx = 0;
     QDate m_month;
-    QDate m_hovered;
+    QPoint m_pointer{ -1, -1 }; // beside all days while the mouse is elsewhere
     QSet<QDate> m_busyDays;
     QElapsedTimer m_sinceWheelStep;
+    QTimer m_reloadTimer;
+    int m_turnsToWait = 0;
     bool m_isStale = true;
 };

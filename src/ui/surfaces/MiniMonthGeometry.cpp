@@ -60,9 +60,22 @@ int MiniMonthGeometry::cellAt(QPoint point) const
     return -1;
 }
 
-qreal MiniMonthGeometry::dayRadius(const QRect &cell)
+qreal MiniMonthGeometry::dayRadius(const QRect &cell, int numberWidthPx)
 {
-    return std::max(2.0, std::min(cell.width(), cell.height()) / 2.0 - 4.0);
+    const qreal half = std::min(cell.width(), cell.height()) / 2.0;
+    return std::max(2.0, std::min(half - 1.0, std::max(half - 4.0, numberWidthPx / 2.0 + 3.0)));
+}
+
+qreal MiniMonthGeometry::dotCentreY(const QRect &cell, qreal digitsBelowCentrePx, qreal radius, bool isFilled)
+{
+    const qreal centre = QRectF(cell).center().y();
+    const qreal ordinary = cell.bottom() - 4;
+    if (!isFilled)
+        return ordinary;
+    const qreal inside = centre + std::max(radius - 2 * DotRadiusPx, digitsBelowCentrePx + DotRadiusPx + 1);
+    if (inside + DotRadiusPx <= centre + radius)
+        return inside;
+    return std::min(std::max(ordinary, centre + radius + DotRadiusPx + 1), cell.bottom() + 1 - DotRadiusPx);
 }
 
 int monthStepForWheel(QPoint angleDelta)

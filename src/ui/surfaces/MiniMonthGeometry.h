@@ -10,6 +10,7 @@ struct MiniMonthGeometry {
     static constexpr int Columns = 7;
     static constexpr int Rows = 6;
     static constexpr int MarginPx = 4;
+    static constexpr qreal DotRadiusPx = 2.0;
 
     int widthPx = 240;
     int headerHeightPx = 32;
@@ -28,8 +29,11 @@ struct MiniMonthGeometry {
     /// The index of the cell at \p point, 0 to 41, or -1.
     [[nodiscard]] int cellAt(QPoint point) const;
 
-    /// Radius in pixels of the circle behind a day's number.
-    static qreal dayRadius(const QRect &cell);
+    /// Radius in pixels of the circle behind a day's number: wider than the number where the cell allows it.
+    static qreal dayRadius(const QRect &cell, int numberWidthPx = 0);
+    /// The vertical centre of the dot under a number whose digits end \p digitsBelowCentrePx under the centre of
+    /// the cell. Of a filled circle it lies inside if there is room under the number, else below the circle.
+    static qreal dotCentreY(const QRect &cell, qreal digitsBelowCentrePx, qreal radius, bool isFilled);
 };
 
 /// Months that a turn of the wheel steps, by its angle delta: -1, 0 or 1.

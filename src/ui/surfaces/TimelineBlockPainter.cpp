@@ -108,7 +108,7 @@ BlockContent TimelineBlockPainter::fit(const Event &event, QSize block, bool wai
     content.title = elided(EventText::title(event), content.isCancelled ? m_cancelledFont : m_titleFont,
                            width - iconsWidth(content.icons));
     const int room = block.height() - 2 * m_insets.paddingPx;
-    if (room < m_titleHeight + m_smallHeight + 2 * m_insets.paddingPx + 1)
+    if (block.height() < heightWithTimePx())
         return content;
     content.time = fittingTimeLine(event, width);
     const QString place = EventText::location(event);

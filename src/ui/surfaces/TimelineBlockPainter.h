@@ -32,6 +32,9 @@ public:
 
     [[nodiscard]] int minBlockHeightPx() const { return m_titleHeight + 2 * m_insets.paddingPx; }
 
+    /// The smallest block that shows its time under the title.
+    [[nodiscard]] int heightWithTimePx() const { return m_titleHeight + m_smallHeight + 4 * m_insets.paddingPx + 1; }
+
     /// \p waitsForUpload asks for the mark of a change that has not reached its server.
     [[nodiscard]] BlockContent fit(const Event &event, QSize block, bool waitsForUpload) const;
     void paint(QPainter &painter, const QRect &block, const BlockContent &content, const QColor &color) const;

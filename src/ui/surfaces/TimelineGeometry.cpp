@@ -1,6 +1,5 @@
 #include "ui/surfaces/TimelineGeometry.h"
 
-#include "calendar/EventDays.h"
 #include "calendar/EventLayout.h"
 
 #include <algorithm>
@@ -54,8 +53,9 @@ QList<QList<Slice>> sliceByColumn(const QList<Event> &events, QDate firstDay, co
         QDateTime end = event.endTime.value_or(event.startTime).toLocalTime();
         if (!end.isValid() || end < start)
             end = start;
-        const QDate first = EventDays::firstDay(event);
-        const QDate last = std::max(first, EventDays::lastDay(event));
+        const QDate first = start.date();
+        // An end at midnight does not touch the day that begins there.
+        const QDate last = end.date() > first ? std::max(first, end.addMSecs(-1).date()) : first;
         const qint64 from = std::max<qint64>(0, firstDay.daysTo(first));
         const qint64 to = std::min<qint64>(columns.size() - 1, firstDay.daysTo(last));
         for (qint64 column = from; column <= to; ++column)
@@ -180,6 +180,8 @@ int scrollAfterZoom(int scrollPx, int anchorPx, int oldHourHeightPx, int newHour
 int WheelNotches::add(int angleDelta)
 {
     constexpr int NotchUnits = 120;
+    if (angleDelta == 0) // the end of a touchpad's gesture, or a sideways step
+        return 0;
     if ((angleDelta > 0) != (m_pending > 0))
         m_pending = 0;
     m_pending += angleDelta;

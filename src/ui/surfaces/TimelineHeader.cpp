@@ -16,6 +16,7 @@ namespace {
 
 constexpr int MarginPx = 4;
 constexpr int LineCount = 2;
+constexpr int CellInsetPx = 2;
 
 }
 
@@ -62,10 +63,38 @@ QRect TimelineHeader::columnRect(int column) const
     return { m_columns.left(column), 0, m_columns.columnWidthPx(), height() };
 }
 
-QStringList TimelineHeader::lines(QDate date) const
+QStringList TimelineHeader::linesIn(Form form, QDate date) const
 {
-    //: weekday and date above a column of the week, as a date pattern in two lines
-    return QLocale().toString(date, tr("ddd\nMMM d")).split(u'\n');
+    const QLocale locale;
+    if (form == Form::WithMonth) {
+        //: weekday and date above a column of the week, as a date pattern in two lines
+        return locale.toString(date, tr("ddd\nMMM d")).split(u'\n');
+    }
+    const auto length = form == Form::DayNumber ? QLocale::ShortFormat : QLocale::NarrowFormat;
+    return { locale.standaloneDayName(date.dayOfWeek(), length), locale.toString(date, u"d") };
+}
+
+bool TimelineHeader::fits(Form form) const
+{
+    const int room = m_columns.columnWidthPx() - 2 * CellInsetPx;
+    for (int column = 0; m_first.isValid() && column < m_columns.count; ++column) {
+        const QDate date = m_first.addDays(column);
+        const QFontMetrics fontMetrics(dayFont(date));
+        for (const QString &line : linesIn(form, date)) {
+            if (fontMetrics.horizontalAdvance(line) > room)
+                return false;
+        }
+    }
+    return true;
+}
+
+TimelineHeader::Form TimelineHeader::fittingForm() const
+{
+    for (const Form form : { Form::WithMonth, Form::DayNumber }) {
+        if (fits(form))
+            return form;
+    }
+    return Form::Narrow;
 }
 
 QFont TimelineHeader::dayFont(QDate date) const
@@ -88,9 +117,10 @@ void TimelineHeader::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), palette().color(QPalette::Base));
+    const Form form = fittingForm();
     for (int column = 0; m_first.isValid() && column < m_columns.count; ++column) {
         const QDate date = m_first.addDays(column);
-        const QRect cell = columnRect(column).adjusted(2, 2, -2, -2);
+        const QRect cell = columnRect(column).adjusted(CellInsetPx, CellInsetPx, -CellInsetPx, -CellInsetPx);
         const QFontMetrics fontMetrics(dayFont(date));
         if (date == m_hovered) {
             painter.setPen(Qt::NoPen);
@@ -102,7 +132,7 @@ void TimelineHeader::paintEvent(QPaintEvent *)
         painter.setFont(dayFont(date));
         painter.setPen(date == m_today ? Theme::link() : Theme::textPrimary());
         QRect line(cell.left(), MarginPx, cell.width(), fontMetrics.height());
-        for (const QString &text : lines(date)) {
+        for (const QString &text : linesIn(form, date)) {
             painter.drawText(line, Qt::AlignCenter, fontMetrics.elidedText(text, Qt::ElideRight, line.width()));
             line.translate(0, fontMetrics.height());
         }

@@ -19,7 +19,8 @@ public:
 
     [[nodiscard]] QDate dateAt(QPoint point) const; ///< invalid outside the columns
     [[nodiscard]] QRect columnRect(int column) const;
-    [[nodiscard]] QStringList lines(QDate date) const; ///< as written in its column, before eliding
+    /// As written in its column: in the longest form that all columns have room for.
+    [[nodiscard]] QStringList lines(QDate date) const { return linesIn(fittingForm(), date); }
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -36,6 +37,11 @@ protected:
     void leaveEvent(QEvent *event) override;
 
 private:
+    enum class Form { WithMonth, DayNumber, Narrow };
+
+    [[nodiscard]] QStringList linesIn(Form form, QDate date) const;
+    [[nodiscard]] Form fittingForm() const;
+    [[nodiscard]] bool fits(Form form) const;
     void setHovered(QDate date);
     [[nodiscard]] QFont dayFont(QDate date) const;
 

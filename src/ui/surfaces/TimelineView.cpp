@@ -6,15 +6,18 @@
 #include "storage/EventRepository.h"
 #include "storage/FilterRuleRepository.h"
 #include "storage/PreferencesRepository.h"
+#include "storage/ViewRepository.h"
 #include "ui/surfaces/AllDayStrip.h"
 #include "ui/surfaces/EventContextMenu.h"
 #include "ui/surfaces/TimelineWidget.h"
 #include "ui/theme/ThemeManager.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -24,6 +27,15 @@ constexpr int ZoomStepPx = 8;
 constexpr int RevealMarginPx = 8;
 constexpr int DefaultWorkdayStart = 8;
 constexpr int DefaultWorkdayEnd = 18;
+
+/// Moves only when it is asked to: when the focus leaves, the original scrolls to the middle of its widget.
+class StillScrollArea : public QScrollArea {
+public:
+    using QScrollArea::QScrollArea;
+
+protected:
+    bool focusNextPrevChild(bool next) override { return QAbstractScrollArea::focusNextPrevChild(next); }
+};
 
 int workdayStart(AppState *state)
 {
@@ -44,7 +56,7 @@ TimelineView::TimelineView(AppState *state, TimelineWidget *timeline, const QStr
     , m_mode(mode)
     , m_timeline(timeline)
     , m_strip(new AllDayStrip(state, this))
-    , m_scroll(new QScrollArea(this))
+    , m_scroll(new StillScrollArea(this))
     , m_layout(new QVBoxLayout(this))
     , m_workdayStart(workdayStart(state))
 {
@@ -62,10 +74,14 @@ TimelineView::TimelineView(AppState *state, TimelineWidget *timeline, const QStr
 
     m_timeline->setBaseHourHeight(state->hourHeight());
     m_timeline->setCompact(state->isCompact(mode));
-    m_timeline->setSelectedEventId(state->selectedEventId());
-    m_strip->setSelectedEventId(state->selectedEventId());
+    onSelectionChanged();
     m_nowTimer.setInterval(nowLineIntervalMs);
     connect(&m_nowTimer, &QTimer::timeout, this, &TimelineView::updateNow);
+    m_reloadTimer.setSingleShot(true);
+    connect(&m_reloadTimer, &QTimer::timeout, this, [this] {
+        if (m_isStale) // a step to other days may have loaded them already
+            reloadOrMarkStale();
+    });
     connectState();
     connectCanvas(m_timeline);
     connectCanvas(m_strip);
@@ -73,19 +89,21 @@ TimelineView::TimelineView(AppState *state, TimelineWidget *timeline, const QStr
 
 void TimelineView::connectState()
 {
-    const auto refresh = [this] { reloadOrMarkStale(); };
+    const auto refresh = [this] { reloadSoon(); };
     connect(m_state, &AppState::activeViewChanged, this, refresh);
+    connect(m_state->views(), &ViewRepository::viewsChanged, this, refresh);
     connect(m_state->calendars(), &CalendarRepository::calendarsChanged, this, refresh);
     connect(m_state->events(), &EventRepository::eventsChanged, this, refresh);
     connect(m_state->filterRules(), &FilterRuleRepository::filterRulesChanged, this, refresh);
     connect(m_state, &AppState::hourHeightChanged, this, &TimelineView::onHourHeightChanged);
     connect(m_state, &AppState::workdayHoursChanged, this, &TimelineView::onWorkdayHoursChanged);
-    connect(m_state, &AppState::selectedEventChanged, m_timeline, &EventCanvas::setSelectedEventId);
-    connect(m_state, &AppState::selectedEventChanged, m_strip, &EventCanvas::setSelectedEventId);
+    connect(m_state, &AppState::selectedEventChanged, this, &TimelineView::onSelectionChanged);
     connect(m_state, &AppState::todayChanged, this, &TimelineView::updateNow);
     connect(m_state, &AppState::densityChanged, this, [this](const QString &mode, const QString &density) {
-        if (mode == m_mode)
-            m_timeline->setCompact(density == QLatin1StringView("compact"));
+        if (mode != m_mode)
+            return;
+        m_timeline->setCompact(density == QLatin1StringView("compact"));
+        fitTimeline(0);
     });
     connect(m_state->preferences(), &PreferencesRepository::changed, this, [this](const QString &key) {
         if (key != QLatin1StringView("ui/timeFormat"))
@@ -104,9 +122,9 @@ void TimelineView::connectState()
 void TimelineView::connectCanvas(EventCanvas *canvas)
 {
     connect(canvas, &EventCanvas::eventSelected, this, &TimelineView::onEventSelected);
-    connect(canvas, &EventCanvas::eventFocused, m_state, &AppState::setSelectedEventId);
+    connect(canvas, &EventCanvas::eventFocused, m_state, &AppState::setSelectedOccurrence);
     connect(canvas, &EventCanvas::eventActivated, this, &TimelineView::eventActivated);
-    connect(canvas, &EventCanvas::fontMetricsChanged, this, &TimelineView::updateColumns);
+    connect(canvas, &EventCanvas::fontMetricsChanged, this, &TimelineView::onFontMetricsChanged);
     connect(canvas, &EventCanvas::eventContextRequested, this,
             [this, canvas](const QString &id, const QPoint &globalPos) { onContextRequested(canvas, id, globalPos); });
     if (canvas != m_timeline)
@@ -121,6 +139,12 @@ void TimelineView::reloadOrMarkStale()
     m_isStale = true;
     if (isVisible())
         reload();
+}
+
+void TimelineView::reloadSoon()
+{
+    m_isStale = true;
+    m_reloadTimer.start(0);
 }
 
 void TimelineView::reload()
@@ -163,19 +187,28 @@ void TimelineView::zoomBy(int steps)
 void TimelineView::zoomAt(int steps, int viewportY)
 {
     m_zoomAnchorPx = viewportY;
-    m_state->setHourHeight(m_state->hourHeight() + steps * ZoomStepPx);
+    // A large font may show more than the kept height; the first step larger must be seen.
+    const int from = steps > 0 ? m_timeline->neededHourHeight() : m_state->hourHeight();
+    m_state->setHourHeight(from + steps * ZoomStepPx);
     m_zoomAnchorPx.reset();
 }
 
 void TimelineView::onHourHeightChanged(int pixels)
 {
-    QScrollBar *bar = m_scroll->verticalScrollBar();
-    const int anchor = m_zoomAnchorPx.value_or(m_scroll->viewport()->height() / 2);
-    const int before = m_timeline->hourHeight();
-    const int scrolled = bar->value();
     m_timeline->setBaseHourHeight(pixels);
-    fitTimeline();
-    bar->setValue(scrollAfterZoom(scrolled, anchor, before, m_timeline->hourHeight()));
+    fitTimeline(m_zoomAnchorPx.value_or(m_scroll->viewport()->height() / 2));
+}
+
+void TimelineView::onFontMetricsChanged()
+{
+    updateColumns();
+    fitTimeline(0);
+}
+
+void TimelineView::onSelectionChanged()
+{
+    m_timeline->setSelectedOccurrence(m_state->selectedEventId(), m_state->selectedOccurrence());
+    m_strip->setSelectedOccurrence(m_state->selectedEventId(), m_state->selectedOccurrence());
 }
 
 void TimelineView::onWorkdayHoursChanged(int start, int end)
@@ -187,7 +220,7 @@ void TimelineView::onWorkdayHoursChanged(int start, int end)
 
 void TimelineView::onEventSelected(const QString &id, const QDateTime &occurrenceStart, const QRect &globalRect)
 {
-    m_state->setSelectedEventId(id);
+    m_state->setSelectedOccurrence(id, occurrenceStart);
     if (!id.isEmpty())
         emit eventSelected(id, occurrenceStart, globalRect);
 }
@@ -200,7 +233,7 @@ void TimelineView::onContextRequested(const EventCanvas *canvas, const QString &
     auto *menu = new EventContextMenu(m_state, *shown, this);
     connect(menu, &EventContextMenu::filterEditRequested, this, &TimelineView::filterEditRequested);
     connect(menu, &EventContextMenu::filterFromEventRequested, this, &TimelineView::filterFromEventRequested);
-    m_state->setSelectedEventId(id);
+    m_state->setSelectedOccurrence(id, canvas->selection().occurrenceStart);
     menu->popup(globalPos);
 }
 
@@ -236,14 +269,19 @@ void TimelineView::updateColumns()
     onColumnsChanged(gutter, width);
 }
 
-void TimelineView::fitTimeline()
+void TimelineView::fitTimeline(int anchorPx)
 {
+    QScrollBar *bar = m_scroll->verticalScrollBar();
+    const int before = m_timeline->height() / 24; // it was made to fit its hours
+    const int scrolled = bar->value();
     const QSize viewport = m_scroll->viewport()->size();
-    const int height = std::max(viewport.height(), 24 * m_timeline->baseHourHeight());
+    const int height = std::max(viewport.height(), 24 * m_timeline->neededHourHeight());
     m_timeline->resize(viewport.width(), height);
     // The scroll area would do this later, and a position set before that would be cut to the old range.
-    m_scroll->verticalScrollBar()->setRange(0, height - viewport.height());
-    m_scroll->verticalScrollBar()->setPageStep(viewport.height());
+    bar->setRange(0, height - viewport.height());
+    bar->setPageStep(viewport.height());
+    if (const int now = height / 24; now != before)
+        bar->setValue(scrollAfterZoom(scrolled, anchorPx, before, now));
 }
 
 bool TimelineView::eventFilter(QObject *watched, QEvent *event)
@@ -279,6 +317,14 @@ void TimelineView::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     m_strip->setHeightLimit(height() * 2 / 5);
+}
+
+void TimelineView::wheelEvent(QWheelEvent *event)
+{
+    // What the header and the all-day strip leave over comes here; the hours scroll by it too.
+    event->ignore();
+    if (!event->modifiers().testFlag(Qt::ControlModifier))
+        QCoreApplication::sendEvent(m_scroll->verticalScrollBar(), event);
 }
 
 void TimelineView::keyPressEvent(QKeyEvent *event)

@@ -51,6 +51,7 @@ protected:
     [[nodiscard]] AppState *state() const { return m_state; }
     [[nodiscard]] QVBoxLayout *column() const { return m_layout; }
     void reloadOrMarkStale();
+    void reloadSoon(); ///< once for all that changes before the event loop turns
 
     virtual void showData(const VisibleSpan &span, const QSet<QString> &syncableCalendarIds) = 0;
     virtual void onColumnsChanged(int gutterPx, int contentWidthPx);
@@ -60,6 +61,7 @@ protected:
     void hideEvent(QHideEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
 
 private:
     void connectState();
@@ -68,11 +70,14 @@ private:
     void onWorkdayHoursChanged(int start, int end);
     void onEventSelected(const QString &id, const QDateTime &occurrenceStart, const QRect &globalRect);
     void onContextRequested(const EventCanvas *canvas, const QString &id, const QPoint &globalPos);
+    void onSelectionChanged();
     void zoomAt(int steps, int viewportY);
+    void onFontMetricsChanged();
     void reveal(const QRect &rect);
     void updateNow();
     void updateColumns();
-    void fitTimeline();
+    /// Gives the timeline the size that its hours need, with the same time as before at \p anchorPx of the viewport.
+    void fitTimeline(int anchorPx = 0);
 
     AppState *m_state;
     QString m_mode;
@@ -81,6 +86,7 @@ private:
     QScrollArea *m_scroll;
     QVBoxLayout *m_layout;
     QTimer m_nowTimer;
+    QTimer m_reloadTimer;
     int m_workdayStart; // hours
     bool m_isStale = true;
     bool m_landPending = true;

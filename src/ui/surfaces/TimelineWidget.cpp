@@ -45,20 +45,21 @@ TimelineWidget::TimelineWidget(AppState *state, const Look &look, QWidget *paren
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(tr("Events"));
     readTimeFormat();
-    measureFonts();
 }
 
 void TimelineWidget::setCompact(bool compact)
 {
     m_isCompact = compact;
-    relayout();
+    m_blockPainter.reset();
+    updateGeometry();
+    markDirty();
 }
 
 void TimelineWidget::setBaseHourHeight(int pixels)
 {
     m_baseHourHeight = pixels;
     updateGeometry();
-    relayoutIfNeeded();
+    markDirtyIfMoved();
 }
 
 void TimelineWidget::setWorkdayHours(int start, int end)
@@ -71,7 +72,7 @@ void TimelineWidget::setWorkdayHours(int start, int end)
 void TimelineWidget::setGutterPx(int pixels)
 {
     m_gutterPx = pixels;
-    relayoutIfNeeded();
+    markDirtyIfMoved();
 }
 
 void TimelineWidget::setNow(const QDateTime &now)
@@ -88,13 +89,14 @@ void TimelineWidget::setDays(QDate firstDay, int columnCount)
 {
     m_firstDay = firstDay;
     m_columnCount = std::max(1, columnCount);
-    relayout();
+    markDirty();
 }
 
 void TimelineWidget::readTimeFormat()
 {
     m_timePattern = TimeFormat::eventTimeFormatString(state());
     m_hourPattern = EventText::hourPattern(state());
+    m_blockPainter.reset();
 }
 
 void TimelineWidget::setSpan(const VisibleSpan &span, const QSet<QString> &syncableCalendarIds)
@@ -105,12 +107,16 @@ void TimelineWidget::setSpan(const VisibleSpan &span, const QSet<QString> &synca
     std::copy_if(span.events.begin(), span.events.end(), std::back_inserter(timed),
                  [](const Event &event) { return !event.isAllDay; });
     setEvents(timed, span.calendarColors, span.dimmedIds);
-    relayout();
+}
+
+int TimelineWidget::neededHourHeight() const
+{
+    return std::max(m_baseHourHeight, blockPainter().heightWithTimePx());
 }
 
 int TimelineWidget::hourHeight() const
 {
-    return std::max(m_baseHourHeight, height() / 24);
+    return std::max(neededHourHeight(), height() / 24);
 }
 
 TimelineMetrics TimelineWidget::metrics() const
@@ -119,7 +125,7 @@ TimelineMetrics TimelineWidget::metrics() const
     result.columns = { m_gutterPx, m_columnCount, width() };
     result.hourHeightPx = hourHeight();
     result.blockRightPx = m_look.blockRightPx;
-    result.minBlockHeightPx = m_blockPainter.minBlockHeightPx();
+    result.minBlockHeightPx = blockPainter().minBlockHeightPx();
     return result;
 }
 
@@ -158,39 +164,49 @@ QRect TimelineWidget::nowLineRect() const
 
 QSize TimelineWidget::sizeHint() const
 {
-    return { m_look.widthHintPx, 24 * m_baseHourHeight };
+    return { m_look.widthHintPx, 24 * neededHourHeight() };
 }
 
 void TimelineWidget::relayout()
 {
-    measureFonts();
     m_laidOutFor = metrics();
     setBlocks(layOutBlocks(events(), m_firstDay, m_laidOutFor));
     m_painted = QList<std::optional<Painted>>(blocks().size());
 }
 
-void TimelineWidget::measureFonts()
+void TimelineWidget::onPaletteChanged()
 {
-    BlockInsets insets = m_look.insets;
-    insets.paddingPx = m_isCompact ? 1 : 4;
-    m_blockPainter = TimelineBlockPainter(font(), insets, m_timePattern);
+    m_painted.fill({});
+    update();
 }
 
-void TimelineWidget::relayoutIfNeeded()
+const TimelineBlockPainter &TimelineWidget::blockPainter() const
+{
+    if (!m_blockPainter) {
+        BlockInsets insets = m_look.insets;
+        insets.paddingPx = m_isCompact ? 1 : 4;
+        m_blockPainter.emplace(font(), insets, m_timePattern);
+    }
+    return *m_blockPainter;
+}
+
+void TimelineWidget::markDirtyIfMoved()
 {
     if (metrics() != m_laidOutFor)
-        relayout();
+        markDirty();
 }
 
 void TimelineWidget::resizeEvent(QResizeEvent *)
 {
-    relayoutIfNeeded();
+    markDirtyIfMoved();
 }
 
 void TimelineWidget::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange)
         readTimeFormat();
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        m_blockPainter.reset();
     EventCanvas::changeEvent(event);
 }
 
@@ -238,7 +254,7 @@ TimelineWidget::Painted TimelineWidget::makePainted(const EventBlock &block) con
     const bool waitsForUpload =
         event.syncStatus == SyncStatus::Pending && m_syncableCalendarIds.contains(event.calendarId);
     return { colorsOf(event, BodyAlpha, FaintBodyAlpha, shaded),
-             m_blockPainter.fit(event, block.rect.size(), waitsForUpload) };
+             blockPainter().fit(event, block.rect.size(), waitsForUpload) };
 }
 
 void TimelineWidget::paintEvent(QPaintEvent *event)
@@ -256,18 +272,24 @@ void TimelineWidget::paintEvent(QPaintEvent *event)
     }
 }
 
+QList<QRect> TimelineWidget::shadedRects() const
+{
+    const int hour = hourHeight();
+    QList<QRect> rects;
+    if (m_workdayStart > 0)
+        rects.append({ m_gutterPx, 0, width() - m_gutterPx, m_workdayStart * hour });
+    if (m_workdayEnd < 24)
+        rects.append({ m_gutterPx, m_workdayEnd * hour, width() - m_gutterPx, height() - m_workdayEnd * hour });
+    return rects;
+}
+
 void TimelineWidget::paintBackground(QPainter &painter, const QRect &exposed) const
 {
     const TimelineMetrics where = metrics();
     painter.fillRect(exposed, palette().color(QPalette::Base));
-    const bool hasWorkday = m_workdayStart > 0 || m_workdayEnd < 24;
     const QColor shade = EventColors::withAlpha(palette().color(QPalette::WindowText), ShadeAlpha);
-    if (hasWorkday && m_workdayStart > 0)
-        painter.fillRect(QRect(m_gutterPx, 0, width() - m_gutterPx, m_workdayStart * where.hourHeightPx), shade);
-    if (hasWorkday && m_workdayEnd < 24) {
-        const int top = m_workdayEnd * where.hourHeightPx;
-        painter.fillRect(QRect(m_gutterPx, top, width() - m_gutterPx, height() - top), shade);
-    }
+    for (const QRect &rect : shadedRects())
+        painter.fillRect(rect, shade);
     if (m_look.hasColumnLines && todayColumn() >= 0) {
         const QRect today(where.columns.left(todayColumn()), 0, where.columns.columnWidthPx(), where.dayHeightPx());
         painter.fillRect(today, EventColors::withAlpha(Theme::accent(), TodayTintAlpha));
@@ -281,15 +303,24 @@ void TimelineWidget::paintHours(QPainter &painter, const QRect &exposed) const
     const int labelHeight = std::max(16, QFontMetrics(labelFont).height());
     painter.setFont(labelFont);
     painter.setPen(Theme::textMuted());
+    const QList<QRect> shaded = shadedRects();
     for (int hour = 0; hour <= 24; ++hour) {
         const int y = hour * where.hourHeightPx;
-        painter.fillRect(QRect(m_gutterPx, y, width() - m_gutterPx, 1), Theme::border());
+        const bool isShaded =
+            std::any_of(shaded.begin(), shaded.end(), [y](const QRect &r) { return r.top() <= y && y <= r.bottom(); });
+        // On the shade the plain border could hardly be told from it.
+        painter.fillRect(QRect(m_gutterPx, y, width() - m_gutterPx, 1),
+                         isShaded ? Theme::borderStrong() : Theme::border());
         const QRect label(0, y - labelHeight / 2, m_gutterPx - HourLabelGapPx, labelHeight);
         if (hour > 0 && hour < 24 && label.intersects(exposed))
             painter.drawText(label, Qt::AlignRight | Qt::AlignVCenter, hourLabel(hour));
     }
-    for (int column = 0; m_look.hasColumnLines && column <= m_columnCount; ++column)
-        painter.fillRect(QRect(where.columns.left(column), 0, 1, where.dayHeightPx()), Theme::border());
+    for (int column = 0; m_look.hasColumnLines && column <= m_columnCount; ++column) {
+        const QRect line(where.columns.left(column), 0, 1, where.dayHeightPx());
+        painter.fillRect(line, Theme::border());
+        for (const QRect &rect : shaded)
+            painter.fillRect(line & rect, Theme::borderStrong());
+    }
 }
 
 void TimelineWidget::paintNowLine(QPainter &painter) const
@@ -313,7 +344,7 @@ void TimelineWidget::paintBlock(QPainter &painter, int index)
     if (!painted)
         painted = makePainted(block);
     paintShape(painter, block, painted->colors, StripeWidthPx);
-    m_blockPainter.paint(painter, block.rect, painted->content, painted->colors.text);
+    blockPainter().paint(painter, block.rect, painted->content, painted->colors.text);
 }
 
 void TimelineWidget::wheelEvent(QWheelEvent *event)

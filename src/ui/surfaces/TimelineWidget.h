@@ -38,7 +38,8 @@ public:
 
     [[nodiscard]] QDate firstDay() const { return m_firstDay; }
     [[nodiscard]] int columnCount() const { return m_columnCount; }
-    [[nodiscard]] int baseHourHeight() const { return m_baseHourHeight; }
+    /// Pixels: the base, or more where an hour's block could not show its time in the font.
+    [[nodiscard]] int neededHourHeight() const;
     [[nodiscard]] int hourHeight() const; ///< pixels; grows when the widget is taller than its hours need
     [[nodiscard]] int yForTime(QTime time) const { return metrics().yForTime(time); }
     [[nodiscard]] int yForBoundary(const QDateTime &boundary, QDate date) const;
@@ -61,6 +62,7 @@ protected:
     void setSpan(const VisibleSpan &span, const QSet<QString> &syncableCalendarIds);
 
     void relayout() override;
+    void onPaletteChanged() override;
     [[nodiscard]] QList<EventKey> walkOrder() const override;
     void reveal(const EventKey &key) override;
     [[nodiscard]] Qt::CursorShape cursorOver(const EventBlock &block) const override;
@@ -79,11 +81,12 @@ private:
         BlockContent content;
     };
 
-    void relayoutIfNeeded();
+    void markDirtyIfMoved();
     [[nodiscard]] int todayColumn() const; ///< -1 if today does not show
     [[nodiscard]] QString hourLabel(int hour) const;
     [[nodiscard]] Painted makePainted(const EventBlock &block) const;
-    void measureFonts();
+    [[nodiscard]] const TimelineBlockPainter &blockPainter() const;
+    [[nodiscard]] QList<QRect> shadedRects() const; ///< the hours outside the workday
     void paintBackground(QPainter &painter, const QRect &exposed) const;
     void paintHours(QPainter &painter, const QRect &exposed) const;
     void paintNowLine(QPainter &painter) const;
@@ -101,7 +104,7 @@ private:
     QDateTime m_now;
     QString m_timePattern; // kept, as reading the setting is a query
     QString m_hourPattern;
-    TimelineBlockPainter m_blockPainter;
+    mutable std::optional<TimelineBlockPainter> m_blockPainter; // made anew when the font has changed
     TimelineMetrics m_laidOutFor;
     WheelNotches m_zoomNotches;
     QList<std::optional<Painted>> m_painted; // beside blocks()

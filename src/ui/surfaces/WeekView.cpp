@@ -40,7 +40,10 @@ void WeekView::setAnchorDate(QDate date)
 {
     if (m_anchor == date)
         return;
+    const QDate shownFrom = weekStart();
     m_anchor = date;
+    if (weekStart() == shownFrom)
+        return;
     rebuildHeader();
     reloadOrMarkStale();
 }

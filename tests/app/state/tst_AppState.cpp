@@ -104,7 +104,9 @@ private slots:
         QTEST(state->weekHorizon(), "horizon");
         QCOMPARE(state->currentDate(), QDate::currentDate());
         QCOMPARE(modeChanges.size(), 0);
-        QCOMPARE(state->preferences()->get(key), stored);
+        // A mode that is no more leaves the database too; the other values are only read differently.
+        state->flushViewState();
+        QCOMPARE(state->preferences()->get(key), key == QStringLiteral("ui/viewMode") ? state->viewMode() : stored);
     }
 
     void staleActiveViewFallsBackToTheFirst()
@@ -146,6 +148,23 @@ private slots:
 
         state->setViewMode(QStringLiteral("agenda"));
         QCOMPARE(state->viewMode(), week());
+    }
+
+    void selectionIsAnOccurrence()
+    {
+        AppState state;
+        QSignalSpy changed(&state, &AppState::selectedEventChanged);
+        const QDateTime monday(QDate(2026, 6, 15), QTime(9, 0), Qt::UTC);
+        state.setSelectedOccurrence(QStringLiteral("e"), monday);
+        state.setSelectedOccurrence(QStringLiteral("e"), monday);
+        QCOMPARE(changed.size(), 1);
+        state.setSelectedOccurrence(QStringLiteral("e"), monday.addDays(1));
+        QCOMPARE(changed.size(), 2);
+        QCOMPARE(state.selectedOccurrence(), monday.addDays(1));
+        state.setSelectedEventId(QStringLiteral("e")); // whichever comes first
+        QCOMPARE(changed.size(), 3);
+        QVERIFY(!state.selectedOccurrence().isValid());
+        QCOMPARE(changed.at(2).at(0).toString(), QStringLiteral("e"));
     }
 
     void writesHalfASecondAfterTheLastChange()
@@ -213,6 +232,20 @@ private slots:
         state->setViewMode(day());
         state->navigateForward();
         QCOMPARE(state->viewMode(), day());
+    }
+
+    void replacedModeIsNoStep()
+    {
+        ScratchState state;
+        state->setCurrentDate(QDate(2024, 2, 29));
+        QSignalSpy modeChanges(state.state(), &AppState::viewModeChanged);
+        state->replaceViewMode(day());
+        QCOMPARE(modeChanges.size(), 1);
+        state->flushViewState();
+        QCOMPARE(state->preferences()->get(QStringLiteral("ui/viewMode")), day());
+        state->navigateBack();
+        QCOMPARE(state->currentDate(), QDate::currentDate()); // the step before it
+        QCOMPARE(state->viewMode(), week());
     }
 
     void combinedJumpIsOneStep()

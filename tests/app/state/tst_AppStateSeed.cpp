@@ -54,6 +54,17 @@ private slots:
         QCOMPARE(m_state->calendars()->getAll().size(), 2);
     }
 
+    void deletedLocalAccountIsReplaced()
+    {
+        m_state->seedDefaultCalendarIfMissing();
+        QVERIFY(m_state->accounts()->remove(LocalDefaults::LocalAccountId));
+        QVERIFY(!m_state->accounts()->getById(LocalDefaults::LocalAccountId));
+        m_state->seedDefaultCalendarIfMissing();
+        QVERIFY(m_state->accounts()->getById(LocalDefaults::LocalAccountId));
+        QVERIFY(m_state->calendars()->getById(LocalDefaults::PersonalCalendarId));
+        QCOMPARE(m_state->accounts()->getAllIncludingDeleted().size(), 1);
+    }
+
     void otherQuillonCalendarIsEnough()
     {
         insertAccount(QStringLiteral("cloud"), AccountType::Quillon, QStringLiteral("Cloud"));

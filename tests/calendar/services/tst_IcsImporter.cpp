@@ -35,6 +35,7 @@ private slots:
     void cleanup() { m_state.reset(); }
 
     void readsFilesAndTellsWhatIsWrongWithThem();
+    void refusesAFileThatIsTooLarge();
     void storesEventsAsPending();
     void importingAgainUpdatesTheRows();
     void anOverrideLeavesItsSeriesAlone();
@@ -112,6 +113,20 @@ void tst_IcsImporter::readsFilesAndTellsWhatIsWrongWithThem()
 
     read(importer, {});
     QCOMPARE(importer.eventCount(), 0);
+}
+
+void tst_IcsImporter::refusesAFileThatIsTooLarge()
+{
+    QFile large((*m_state).path(u"large.ics"_qs));
+    QVERIFY(large.open(QIODevice::WriteOnly));
+    large.write(vevent("a", "A"));
+    QVERIFY(large.resize(IcsImporter::MaxFileBytes + 1)); // a hole, which takes no room on the disk
+    large.close();
+    IcsImporter importer(m_state->state());
+    read(importer, { large.fileName(), write(u"good.ics"_qs, vevent("b", "B")) });
+    QCOMPARE(importer.files().at(0).error, IcsImporter::FileError::TooLarge);
+    QCOMPARE(importer.files().at(1).error, IcsImporter::FileError::None);
+    QCOMPARE(importer.eventCount(), 1);
 }
 
 void tst_IcsImporter::storesEventsAsPending()
@@ -212,11 +227,12 @@ void tst_IcsImporter::sameUidInAnotherCalendarIsAnotherEvent()
 
 void tst_IcsImporter::skipsWhatCannotBeShown()
 {
-    const IcsImporter::Result result = import(vevent("a", "A") + vevent("b", "No start", "X:1") + vevent("", "No UID")
-                                              + vevent("c", "Bad", "DTSTART:soon"));
+    const IcsImporter::Result result =
+        import(vevent("a", "A") + vevent("b", "No start", "X:1") + vevent("", "No UID")
+               + vevent("c", "Bad", "DTSTART:soon") + vevent("d", QByteArray(16 * 1024 * 1024, 'x')));
     QCOMPARE(result.imported, 1);
     QCOMPARE(result.failed, 0);
-    QCOMPARE(result.skipped, (ICalParser::Skipped{ .withoutUid = 1, .withoutStart = 2 }));
+    QCOMPARE(result.skipped, (ICalParser::Skipped{ .withoutUid = 1, .withoutStart = 2, .tooLarge = 1 }));
     QCOMPARE(stored().size(), 1);
 }
 

@@ -15,6 +15,7 @@ class tst_TimeFormat : public QObject {
 private slots:
     void formats();
     void withoutState();
+    void theSystemsClockGoesFirst();
     void firstValueFollowsTheLocale_data();
     void firstValueFollowsTheLocale();
 };
@@ -39,6 +40,19 @@ void tst_TimeFormat::withoutState()
     TimeFormat::initializeFromLocale(nullptr);
 }
 
+void tst_TimeFormat::theSystemsClockGoesFirst()
+{
+    const auto restore = qScopeGuard([previous = QLocale()] { QLocale::setDefault(previous); });
+    QLocale::setDefault(QLocale(u"en_US"_s)); // the language of the labels
+    ScratchState german;
+    TimeFormat::initializeFromLocale(german.state(), QLocale(u"de_DE"_s));
+    QCOMPARE(german->preferences()->get(u"ui/timeFormat"_s, QString()), u"24"_s);
+    QLocale::setDefault(QLocale(u"de_DE"_s));
+    ScratchState american;
+    TimeFormat::initializeFromLocale(american.state(), QLocale(u"en_US"_s));
+    QCOMPARE(american->preferences()->get(u"ui/timeFormat"_s, QString()), u"12"_s);
+}
+
 void tst_TimeFormat::firstValueFollowsTheLocale_data()
 {
     QTest::addColumn<QString>("locale");
@@ -58,7 +72,7 @@ void tst_TimeFormat::firstValueFollowsTheLocale()
     const auto restore = qScopeGuard([previous = QLocale()] { QLocale::setDefault(previous); });
     QLocale::setDefault(QLocale(locale));
     ScratchState state;
-    TimeFormat::initializeFromLocale(state.state());
+    TimeFormat::initializeFromLocale(state.state(), QLocale::c()); // which has no habit
     QTEST(state->preferences()->get(u"ui/timeFormat"_s, QString()), "expected");
     // The user's own choice is not touched again.
     QVERIFY(state->preferences()->set(u"ui/timeFormat"_s, u"chosen"_s));

@@ -1,6 +1,7 @@
 #include "storage/FilterRuleRepository.h"
 #include "storage/ViewRepository.h"
 #include "support/ScratchState.h"
+#include "ui/dialogs/GroupName.h"
 #include "ui/dialogs/ManageFiltersDialog.h"
 #include "ui/dialogs/ManageViewsDialog.h"
 #include "ui/dialogs/Prompt.h"
@@ -8,6 +9,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
+#include <QTranslator>
 
 namespace {
 
@@ -53,6 +55,17 @@ void addRule(ScratchState &state, const QString &name, int priority)
     rule.updatedAt = rule.createdAt;
     QVERIFY(state->filterRules()->insert(rule));
 }
+
+/// Translates the names of groups while it lives.
+class Upper : public QTranslator {
+public:
+    Upper() { QCoreApplication::installTranslator(this); }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char *context, const char *text, const char *, int) const override
+    {
+        return qstrcmp(context, "GroupName") == 0 ? QString::fromUtf8(text).toUpper() : QString();
+    }
+};
 
 const QString A = QStringLiteral("A");
 const QString B = QStringLiteral("B");
@@ -129,6 +142,18 @@ private slots:
         QVERIFY(list->model()->moveRow({}, 2, {}, 0)); // dropped above it
         QTRY_COMPARE(titles(dialog).mid(1), QStringList({ A, B }));
         QCOMPARE(state->views()->getAll().constFirst().id, QString(ViewDefaults::AllCalendarsId));
+    }
+
+    void theBuiltInGroupsNameIsTranslated()
+    {
+        ScratchState state;
+        addView(state, QStringLiteral("All Calendars"), 1); // the user's own by that name
+        const Upper translator;
+        ManageViewsDialog dialog(state.state());
+        QCOMPARE(titles(dialog), QStringList({ QStringLiteral("ALL CALENDARS"), QStringLiteral("All Calendars") }));
+        ViewDef builtIn = *state->views()->getById(ViewDefaults::AllCalendarsId);
+        builtIn.name = QStringLiteral("Mine");
+        QCOMPARE(groupDisplayName(builtIn), QStringLiteral("Mine"));
     }
 
     void deletingTheActiveGroupFallsBack()

@@ -56,6 +56,23 @@ private slots:
         QVERIFY(stored == view);
     }
 
+    void namesAreLimited()
+    {
+        ScratchState state;
+        ViewFormDialog form(state.state());
+        auto *name = form.findChild<QLineEdit *>();
+        name->insert(QString(300, u'x'));
+        QCOMPARE(name->text().size(), 200);
+
+        ViewDef view;
+        view.id = QStringLiteral("from elsewhere");
+        view.name = QString(250, u'y');
+        QVERIFY(state->views()->insert(view));
+        ViewFormDialog edit(state.state(), view);
+        edit.accept();
+        QCOMPARE(state->views()->getById(view.id)->name, view.name); // the user has not touched it
+    }
+
     void checksWithTheKeyboard()
     {
         ScratchState state;

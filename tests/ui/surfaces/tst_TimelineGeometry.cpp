@@ -337,6 +337,7 @@ void TestTimelineGeometry::wheelMovementGathers()
     WheelNotches notches;
     QCOMPARE(notches.add(120), 1);
     QCOMPARE(notches.add(50), 0);
+    QCOMPARE(notches.add(0), 0); // keeps what was gathered
     QCOMPARE(notches.add(50), 0);
     QCOMPARE(notches.add(50), 1); // 150, and 30 wait
     QCOMPARE(notches.add(-100), 0); // starts afresh

@@ -1,21 +1,29 @@
 #include "calendar/services/VisibleEvents.h"
 #include "models/FilterRule.h"
+#include "models/ViewDef.h"
+#include "storage/CalendarRepository.h"
 #include "storage/EventRepository.h"
 #include "storage/FilterRuleRepository.h"
 #include "storage/PreferencesRepository.h"
+#include "storage/ViewRepository.h"
 #include "support/ScratchState.h"
 #include "ui/surfaces/AllDayStrip.h"
 #include "ui/surfaces/DayView.h"
+#include "ui/surfaces/EventText.h"
 #include "ui/surfaces/TimelineHeader.h"
 #include "ui/surfaces/TimelineWidget.h"
 #include "ui/surfaces/WeekView.h"
 
 #include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QLocale>
 #include <QMenu>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QVBoxLayout>
+#include <QWheelEvent>
 
 namespace {
 
@@ -27,6 +35,20 @@ void show(TimelineView &view, QSize size = { 900, 600 })
     view.show();
     QVERIFY(QTest::qWaitForWindowExposed(&view));
 }
+
+/// A view that counts how often it is given data.
+template <typename View> class Counting : public View {
+public:
+    using View::View;
+    int loads = 0;
+
+protected:
+    void showData(const VisibleSpan &span, const QSet<QString> &syncableCalendarIds) override
+    {
+        ++loads;
+        View::showData(span, syncableCalendarIds);
+    }
+};
 
 QStringList titles(const TimelineView &view)
 {
@@ -50,16 +72,28 @@ private slots:
     void daysFormBeginsAtTheAnchor();
     void hiddenViewLoadsWhenShown();
     void storedChangesShow();
+    void editsOfTheActiveGroupShow();
+    void oneLoadForManyChanges();
+    void stepWithinTheWeekLoadsNothing();
     void selectionIsShared();
+    void occurrenceIsShared();
     void headerStripAndColumnsAgree();
     void headerDayIsActivated();
+    void headerTakesTheLongestFormThatFits();
+    void wheelAboveTheHoursScrollsThem();
+    void leavingByTabDoesNotScroll();
+    void largeFontKeepsTheHoursOnShow();
     void landsOnTheWorkday();
     void landsAgainOnRequest();
     void zoomKeepsTheTimeUnderThePointer();
     void keysZoom();
     void keyboardScrollsToTheEvent();
     void stripTakesAtMostTwoFifths();
+    void stripOpensOnItsControlsOnly();
+    void stripOpensByKey();
+    void emptyStripPassesTheFocusOn();
     void contextMenuOffersFilters();
+    void longNamesAreCut();
     void timeFormatChangesTheTexts();
 
 private:
@@ -156,6 +190,92 @@ void TestTimelineViews::storedChangesShow()
     QTRY_VERIFY(titles(week).isEmpty());
 }
 
+void TestTimelineViews::editsOfTheActiveGroupShow()
+{
+    QSignalSpy stored(m_state->state()->events(), &EventRepository::eventsChanged);
+    add(QStringLiteral("standup"), Wednesday, QTime(9, 0));
+    const QString other = m_state->addCalendar(QStringLiteral("Other"));
+    QVERIFY(stored.wait()); // only the group may bring the reload below
+    ViewDef group;
+    group.id = group.name = QStringLiteral("office");
+    group.calendarIds = QStringLiteral("[\"%1\"]").arg(ScratchState::calendarId());
+    QVERIFY(m_state->state()->views()->insert(group));
+    m_state->state()->setActiveViewId(group.id);
+    WeekView week(m_state->state(), WeekView::Form::Week);
+    show(week);
+    QCoreApplication::processEvents();
+    QCOMPARE(titles(week).size(), 1);
+    group.calendarIds = QStringLiteral("[\"%1\"]").arg(other);
+    QVERIFY(m_state->state()->views()->update(group));
+    QTRY_VERIFY(titles(week).isEmpty());
+}
+
+void TestTimelineViews::oneLoadForManyChanges()
+{
+    Counting<DayView> day(m_state->state());
+    show(day);
+    QStringList ids;
+    for (int i = 0; i < 5; ++i)
+        ids.append(m_state->addCalendar(QString::number(i)));
+    QCoreApplication::processEvents();
+    day.loads = 0;
+    QSignalSpy changes(m_state->state()->calendars(), &CalendarRepository::calendarsChanged);
+    for (const QString &id : std::as_const(ids))
+        QVERIFY(m_state->state()->calendars()->setVisible(id, false));
+    QCOMPARE(changes.size(), 5);
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    QCOMPARE(day.loads, 1);
+
+    QVERIFY(m_state->state()->calendars()->setVisible(ids.first(), true));
+    day.setDate(Wednesday.addDays(1)); // loads at once, what changed with it
+    QCOMPARE(day.loads, 2);
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    QCOMPARE(day.loads, 2);
+}
+
+void TestTimelineViews::stepWithinTheWeekLoadsNothing()
+{
+    Counting<WeekView> week(m_state->state(), WeekView::Form::Week);
+    show(week);
+    const QDate start = week.weekStart();
+    week.loads = 0;
+    week.setAnchorDate(start.addDays(6));
+    week.setAnchorDate(start);
+    QCOMPARE(week.loads, 0);
+    week.setAnchorDate(start.addDays(7));
+    QCOMPARE(week.loads, 1);
+}
+
+void TestTimelineViews::occurrenceIsShared()
+{
+    const QDateTime from(Wednesday, QTime(9, 0));
+    Event daily = add(QStringLiteral("daily"), Wednesday, QTime(9, 0));
+    daily.recurrenceRule = QStringLiteral("FREQ=DAILY;COUNT=3");
+    QVERIFY(m_state->state()->events()->update(daily));
+    DayView day(m_state->state());
+    day.setDate(Wednesday.addDays(1));
+    show(day);
+    WeekView week(m_state->state(), WeekView::Form::Days);
+    show(week);
+    QTRY_COMPARE(week.timeline()->blocks().size(), 3);
+    QCOMPARE(day.timeline()->blocks().size(), 1);
+    day.timeline()->setFocus();
+    QTest::keyClick(day.timeline(), Qt::Key_Down);
+    const auto selected = [&week] {
+        QList<bool> result;
+        for (const EventBlock &block : week.timeline()->blocks())
+            result.append(week.timeline()->isSelected(block));
+        return result;
+    };
+    QCOMPARE(selected(), (QList<bool>{ false, true, false }));
+    QCOMPARE(m_state->state()->selectedOccurrence(), from.addDays(1));
+    QTest::mouseClick(week.timeline(), Qt::LeftButton, {}, week.timeline()->blocks().at(2).rect.center());
+    QCOMPARE(selected(), (QList<bool>{ false, false, true }));
+    QVERIFY(!day.timeline()->isSelected(day.timeline()->blocks().at(0)));
+}
+
 void TestTimelineViews::selectionIsShared()
 {
     const Event meeting = add(QStringLiteral("meeting"), Wednesday, QTime(9, 0));
@@ -201,6 +321,89 @@ void TestTimelineViews::headerDayIsActivated()
     QCOMPARE(activated.size(), 1);
     QCOMPARE(activated.at(0).at(0).toDate(), week.weekStart().addDays(2));
     QCOMPARE(week.header()->lines(Wednesday), (QStringList{ QStringLiteral("Wed"), QStringLiteral("Jun 17") }));
+}
+
+void TestTimelineViews::headerTakesTheLongestFormThatFits()
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    TimelineHeader header;
+    header.setDays(QDate(2026, 6, 8), 7);
+    header.setGutterPx(0);
+    QFont bold = header.font();
+    bold.setBold(true);
+    header.setToday(QDate(2026, 6, 10));
+    const auto widthOf = [&bold](const QString &text) { return QFontMetrics(bold).horizontalAdvance(text); };
+    const auto linesAt = [&header](int columnWidth) {
+        header.setContentWidth(7 * columnWidth);
+        return header.lines(QDate(2026, 6, 10)).join(u'|');
+    };
+    const int longest = std::max(widthOf(QStringLiteral("Jun 14")), widthOf(QStringLiteral("Wed")));
+    QCOMPARE(linesAt(longest + 4), QStringLiteral("Wed|Jun 10"));
+    // "Jun 8" alone would fit; one form holds for the row.
+    QCOMPARE(linesAt(std::max(widthOf(QStringLiteral("Jun 8")), widthOf(QStringLiteral("Wed"))) + 3),
+             QStringLiteral("Wed|10"));
+    QCOMPARE(linesAt(widthOf(QStringLiteral("Wed")) + 3), QStringLiteral("W|10"));
+    QLocale::setDefault(before);
+}
+
+void TestTimelineViews::wheelAboveTheHoursScrollsThem()
+{
+    WeekView week(m_state->state(), WeekView::Form::Week);
+    show(week);
+    const auto roll = [](QWidget *over, Qt::KeyboardModifiers modifiers = {}) {
+        QWheelEvent event({ 5, 5 }, over->mapToGlobal(QPointF(5, 5)), {}, { 0, -120 }, Qt::NoButton, modifiers,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(over, &event);
+        if (!event.isAccepted()) // what the window system sends goes on to the parent; this has to be carried
+            QCoreApplication::sendEvent(over->parentWidget(), &event);
+    };
+    bar(week)->setValue(0);
+    roll(week.header());
+    const int once = bar(week)->value();
+    QVERIFY(once > 0);
+    roll(week.strip());
+    QCOMPARE(bar(week)->value(), 2 * once);
+    roll(week.header(), Qt::ControlModifier);
+    QCOMPARE(bar(week)->value(), 2 * once);
+}
+
+void TestTimelineViews::leavingByTabDoesNotScroll()
+{
+    add(QStringLiteral("early"), Wednesday, QTime(1, 0));
+    QWidget window;
+    auto *layout = new QVBoxLayout(&window);
+    auto *day = new DayView(m_state->state());
+    auto *after = new QLineEdit;
+    layout->addWidget(day, 1);
+    layout->addWidget(after);
+    window.resize(900, 600);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    day->timeline()->setFocus();
+    QTest::keyClick(day->timeline(), Qt::Key_Down);
+    const int scrolled = bar(*day)->value();
+    QTest::keyClick(day->timeline(), Qt::Key_Tab);
+    QVERIFY(after->hasFocus());
+    QCOMPARE(bar(*day)->value(), scrolled);
+}
+
+void TestTimelineViews::largeFontKeepsTheHoursOnShow()
+{
+    DayView day(m_state->state());
+    day.setDate(QDate(2001, 1, 3));
+    show(day);
+    QCOMPARE(bar(day)->value(), day.timeline()->yForTime(QTime(8, 0)));
+    QFont large = day.font();
+    large.setPointSize(24);
+    day.setFont(large);
+    QTRY_COMPARE(bar(day)->value(), day.timeline()->yForTime(QTime(8, 0)));
+    QVERIFY(day.timeline()->hourHeight() > 56);
+    QCOMPARE(day.timeline()->height(), 24 * day.timeline()->hourHeight());
+    QCOMPARE(m_state->state()->hourHeight(), 56);
+    const int before = day.timeline()->hourHeight();
+    day.zoomBy(1);
+    QCOMPARE(day.timeline()->hourHeight(), before + 8);
 }
 
 void TestTimelineViews::landsOnTheWorkday()
@@ -297,6 +500,77 @@ void TestTimelineViews::stripTakesAtMostTwoFifths()
     QTRY_VERIFY(week.strip()->height() > 100);
     QVERIFY(week.strip()->height() <= 200);
     QVERIFY(week.scrollArea()->height() >= 200);
+}
+
+void TestTimelineViews::stripOpensOnItsControlsOnly()
+{
+    for (int i = 0; i < 5; ++i)
+        m_state->addAllDayEvent(QString::number(i), Wednesday);
+    WeekView week(m_state->state(), WeekView::Form::Week);
+    show(week);
+    AllDayStrip *strip = week.strip();
+    const int column = int(week.weekStart().daysTo(Wednesday));
+    const QStringList hidden{ QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4") };
+    QCOMPARE(strip->hiddenTitles(column), hidden);
+    QVERIFY(strip->hiddenTitles(column + 1).isEmpty());
+    QCOMPARE(strip->overflowChipText(column), QStringLiteral("+3 more"));
+    const QPoint chip = strip->overflowChipRect(column).center();
+    const QPoint event = strip->blocks().at(0).rect.center();
+
+    QTest::mousePress(strip, Qt::LeftButton, {}, chip);
+    QTest::mouseRelease(strip, Qt::LeftButton, {}, event);
+    QTest::mousePress(strip, Qt::LeftButton, {}, event);
+    QTest::mouseRelease(strip, Qt::LeftButton, {}, chip);
+    QVERIFY(!strip->isExpanded());
+    QVERIFY(strip->selection().isEmpty());
+    QSignalSpy activated(strip, &EventCanvas::eventActivated);
+    QTest::mouseClick(strip, Qt::LeftButton, {}, chip);
+    QTest::mouseDClick(strip, Qt::LeftButton, {}, chip);
+    QVERIFY(strip->isExpanded());
+    QVERIFY(activated.isEmpty()); // although an event lies there now
+    strip->setExpanded(false);
+
+    week.resize(260, 600);
+    QTRY_COMPARE(strip->overflowChipText(column), QStringLiteral("+3"));
+}
+
+void TestTimelineViews::stripOpensByKey()
+{
+    for (int i = 0; i < 5; ++i)
+        m_state->addAllDayEvent(QString::number(i), Wednesday);
+    WeekView week(m_state->state(), WeekView::Form::Week);
+    show(week);
+    QTest::keyClick(week.strip(), Qt::Key_Plus);
+    QVERIFY(week.strip()->isExpanded());
+    QTest::keyClick(week.strip(), Qt::Key_Minus);
+    QVERIFY(!week.strip()->isExpanded());
+    QTest::keyClick(week.strip(), Qt::Key_Return);
+    QVERIFY(week.strip()->isExpanded());
+    QTest::keyClick(week.strip(), Qt::Key_Down);
+    QTest::keyClick(week.strip(), Qt::Key_Return); // opens the event
+    QVERIFY(week.strip()->isExpanded());
+}
+
+void TestTimelineViews::emptyStripPassesTheFocusOn()
+{
+    m_state->addAllDayEvent(QStringLiteral("fair"), Wednesday);
+    add(QStringLiteral("next week"), Wednesday.addDays(7), QTime(9, 0));
+    WeekView week(m_state->state(), WeekView::Form::Week);
+    show(week);
+    week.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&week));
+    week.strip()->setFocus();
+    QVERIFY(week.strip()->hasFocus());
+    week.setAnchorDate(Wednesday.addDays(7));
+    QVERIFY(week.timeline()->hasFocus());
+    QVERIFY(week.timeline()->selection().isEmpty());
+}
+
+void TestTimelineViews::longNamesAreCut()
+{
+    QCOMPARE(EventText::shortName(QStringLiteral(" two\nlines ")), QStringLiteral("two lines"));
+    QCOMPARE(EventText::shortName(QString(40, u'x')), QString(40, u'x'));
+    QCOMPARE(EventText::shortName(QString(41, u'x')), QString(39, u'x') + u'…');
 }
 
 void TestTimelineViews::contextMenuOffersFilters()

@@ -9,6 +9,7 @@
 #include <QRawFont>
 #include <QRegularExpression>
 #include <QTextDocument>
+#include <QTimeEdit>
 #include <QtTest>
 
 #include <cmath>
@@ -309,6 +310,30 @@ private slots:
         QDateEdit plain;
         Theme::applyCalendarLocale(&plain, Qt::Saturday);
         QVERIFY(!plain.calendarWidget());
+    }
+
+    void arrowsOfSpinBoxesLieOneOverTheOther()
+    {
+        QTimeEdit edit;
+        edit.setTime(QTime(12, 0)); // else one arrow is drawn as not possible
+        edit.setStyleSheet(Theme::stylesheet());
+        edit.resize(140, 60);
+        const QImage image = edit.grab().toImage();
+        const auto inkIn = [&image](int top, int bottom) {
+            QRegion ink;
+            for (int y = top; y < bottom; ++y) {
+                for (int x = image.width() - 30; x < image.width() - 2; ++x) {
+                    if (qGray(image.pixel(x, y)) < 200)
+                        ink += QRect(x, y, 1, 1);
+                }
+            }
+            return ink.boundingRect();
+        };
+        const QRect up = inkIn(4, 30);
+        const QRect down = inkIn(30, 56);
+        QVERIFY(!up.isEmpty());
+        QCOMPARE(down.left(), up.left());
+        QCOMPARE(down.right(), up.right());
     }
 
     void foreignTextStaysPlain()
