@@ -57,14 +57,12 @@ TimelineBlockPainter::TimelineBlockPainter(const QFont &font, const BlockInsets 
     : m_insets(insets)
     , m_timePattern(timePattern)
     , m_titleFont(SurfaceFonts::bold(font))
-    , m_cancelledFont(m_titleFont)
     , m_smallFont(SurfaceFonts::resized(font, -1))
     , m_iconFont(iconFont())
     , m_titleHeight(QFontMetrics(m_titleFont).height())
     , m_smallHeight(QFontMetrics(m_smallFont).height())
     , m_canDrawIcons(QFontMetrics(m_iconFont).inFont(BellGlyph)) // else the icon font is missing
 {
-    m_cancelledFont.setStrikeOut(true);
 }
 
 int TimelineBlockPainter::iconsWidth(const QString &icons) const
@@ -105,8 +103,7 @@ BlockContent TimelineBlockPainter::fit(const Event &event, QSize block, bool wai
     if (width <= 0)
         return content;
     content.icons = fittingIcons(event, width, waitsForUpload);
-    content.title = elided(EventText::title(event), content.isCancelled ? m_cancelledFont : m_titleFont,
-                           width - iconsWidth(content.icons));
+    content.title = elided(EventText::title(event), m_titleFont, width - iconsWidth(content.icons));
     const int room = block.height() - 2 * m_insets.paddingPx;
     if (block.height() < heightWithTimePx())
         return content;
@@ -122,14 +119,25 @@ void TimelineBlockPainter::paint(QPainter &painter, const QRect &block, const Bl
 {
     const QPoint text = block.topLeft() + QPoint(m_insets.textLeftPx, m_insets.paddingPx);
     painter.setPen(color);
-    painter.setFont(content.isCancelled ? m_cancelledFont : m_titleFont);
+    painter.setFont(m_titleFont);
     painter.drawStaticText(text, content.title);
+    if (content.isCancelled)
+        strikeOut(painter, text, content.title);
     if (!content.time.text().isEmpty()) {
         painter.setFont(m_smallFont);
         painter.drawStaticText(text + QPoint(0, m_titleHeight), content.time);
         painter.drawStaticText(text + QPoint(0, m_titleHeight + m_smallHeight), content.location);
     }
     paintIcons(painter, block, content, color);
+}
+
+// A static text in a font that strikes out draws its line somewhere else on the widget.
+void TimelineBlockPainter::strikeOut(QPainter &painter, const QPoint &topLeft, const QStaticText &text) const
+{
+    const QFontMetrics metrics(m_titleFont);
+    const QRectF line(topLeft.x(), topLeft.y() + metrics.ascent() - metrics.strikeOutPos(), text.size().width(),
+                      metrics.lineWidth());
+    painter.fillRect(line, painter.pen().color());
 }
 
 void TimelineBlockPainter::paintIcons(QPainter &painter, const QRect &block, const BlockContent &content,

@@ -43,12 +43,12 @@ private:
     [[nodiscard]] QString fittingIcons(const Event &event, int width, bool waitsForUpload) const;
     [[nodiscard]] int iconsWidth(const QString &icons) const;
     [[nodiscard]] QStaticText fittingTimeLine(const Event &event, int width) const;
+    void strikeOut(QPainter &painter, const QPoint &topLeft, const QStaticText &text) const;
     void paintIcons(QPainter &painter, const QRect &block, const BlockContent &content, const QColor &color) const;
 
     BlockInsets m_insets;
     QString m_timePattern;
     QFont m_titleFont;
-    QFont m_cancelledFont;
     QFont m_smallFont;
     QFont m_iconFont;
     int m_titleHeight = 0;
