@@ -3,7 +3,6 @@
 #include "calendar/CivilDate.h"
 #include "calendar/RecurrenceRule.h"
 #include "calendar/TimeZones.h"
-#include "calendar/WallClock.h"
 
 #include <algorithm>
 #include <array>
@@ -32,11 +31,6 @@ std::optional<CompactTime> compactTime(QByteArrayView text)
     for (qsizetype i = 0; i < text.size(); ++i)
         wide[static_cast<size_t>(i)] = static_cast<uchar>(text[i]);
     return CompactTime::parse(QStringView(wide.data(), text.size()));
-}
-
-qint64 offsetMs(const QTimeZone &zone, qint64 utcMs)
-{
-    return qint64(zone.offsetFromUtc(QDateTime::fromMSecsSinceEpoch(utcMs, Qt::UTC))) * 1000;
 }
 
 qint64 secondsOfUnit(char unit, bool isInTimePart)
@@ -70,7 +64,9 @@ DateTimeReader::Zone &DateTimeReader::zoneOf(QByteArrayView tzid)
     if (it == m_zones.end()) {
         const QString name = QString::fromUtf8(tzid);
         const QTimeZone zone = TimeZones::find(name);
-        it = m_zones.insert(m_lastTzid, { .zone = zone, .name = zone.isValid() ? QString::fromUtf8(zone.id()) : name });
+        it = m_zones.insert(m_lastTzid, { .zone = zone,
+                                          .name = zone.isValid() ? QString::fromUtf8(zone.id()) : name,
+                                          .clock = WallClock(zone) });
     }
     m_lastZone = &*it;
     return *m_lastZone;
@@ -79,23 +75,6 @@ DateTimeReader::Zone &DateTimeReader::zoneOf(QByteArrayView tzid)
 const QString &DateTimeReader::zoneName(QByteArrayView tzid)
 {
     return zoneOf(tzid).name;
-}
-
-/// QDateTime has no answer for a time within a clock change, so that is left to WallClock. Asking it
-/// for every value would be slow, as the events of a file lie years apart.
-QDateTime DateTimeReader::inZone(Zone &zone, qint64 day, int msOfDay)
-{
-    if (zone.steadyDay != day) {
-        const qint64 before = offsetMs(zone.zone, (day - 1) * Civil::MsPerDay);
-        const qint64 after = offsetMs(zone.zone, (day + 2) * Civil::MsPerDay);
-        if (before != after) {
-            const WallClock clock(zone.zone);
-            return clock.at(clock.toUtcMs(day, msOfDay));
-        }
-        zone.steadyDay = day;
-        zone.steadyOffsetMs = before;
-    }
-    return QDateTime::fromMSecsSinceEpoch(day * Civil::MsPerDay + msOfDay - zone.steadyOffsetMs, zone.zone);
 }
 
 ICalParser::DateTimeValue DateTimeReader::read(QByteArrayView value, QByteArrayView tzid)
@@ -111,8 +90,8 @@ ICalParser::DateTimeValue DateTimeReader::read(QByteArrayView value, QByteArrayV
         return { .value = QDateTime::fromMSecsSinceEpoch(ms, Qt::UTC), .isDate = isDate };
     }
     if (!tzid.isEmpty()) {
-        if (Zone &zone = zoneOf(tzid); zone.zone.isValid())
-            return { .value = inZone(zone, time->day, time->msOfDay), .isDate = false };
+        const WallClock &clock = zoneOf(tzid).clock; // the machine's own if the zone is not known
+        return { .value = clock.at(clock.toUtcMs(time->day, time->msOfDay)), .isDate = false };
     }
     const WallClock local{ QTimeZone() };
     return { .value = local.at(local.toUtcMs(time->day, time->msOfDay)), .isDate = false };

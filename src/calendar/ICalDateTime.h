@@ -1,14 +1,13 @@
 #pragma once
 
 #include "calendar/ICalParser.h"
+#include "calendar/WallClock.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QHash>
 #include <QString>
 #include <QTimeZone>
-
-#include <limits>
 
 namespace ICal {
 
@@ -29,13 +28,10 @@ private:
     struct Zone {
         QTimeZone zone; // invalid: the machine's own
         QString name;
-        // The offset that holds on a day and on both its neighbours.
-        qint64 steadyDay = std::numeric_limits<qint64>::min();
-        qint64 steadyOffsetMs = 0;
+        WallClock clock;
     };
 
     Zone &zoneOf(QByteArrayView tzid);
-    static QDateTime inZone(Zone &zone, qint64 day, int msOfDay);
 
     QHash<QByteArray, Zone> m_zones;
     QByteArray m_lastTzid;

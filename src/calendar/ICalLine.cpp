@@ -1,6 +1,7 @@
 #include "calendar/ICalLine.h"
 
 #include <cstring>
+#include <string>
 
 using namespace ICal;
 
@@ -131,17 +132,17 @@ QString ICal::unescapedText(QByteArrayView value)
     qsizetype backslash = value.indexOf('\\');
     if (backslash < 0)
         return QString::fromUtf8(value);
-    QByteArray plain;
-    plain.reserve(value.size());
+    thread_local std::string plain; // kept: most values need one
+    plain.clear();
     qsizetype copied = 0;
     for (; backslash >= 0 && backslash + 1 < value.size(); backslash = value.indexOf('\\', copied)) {
         const char escaped = value[backslash + 1];
-        plain.append(value.sliced(copied, backslash - copied));
+        plain.append(value.data() + copied, size_t(backslash - copied));
         const bool isBreak = escaped == 'n' || escaped == 'N';
         const bool isEscape = isBreak || escaped == ',' || escaped == ';' || escaped == '\\';
-        plain.append(isBreak ? '\n' : isEscape ? escaped : '\\');
+        plain.push_back(isBreak ? '\n' : isEscape ? escaped : '\\');
         copied = backslash + (isEscape ? 2 : 1);
     }
-    plain.append(value.sliced(copied));
-    return QString::fromUtf8(plain);
+    plain.append(value.data() + copied, size_t(value.size() - copied));
+    return QString::fromStdString(plain);
 }
