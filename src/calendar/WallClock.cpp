@@ -13,7 +13,7 @@ constexpr qint64 MsPerSecond = 1000;
 constexpr qint64 EpochJulianDay = 2'440'588;
 // A table reaches this far around the instant asked for: surfaces ask for one span at a time, but the
 // events of a file lie years apart.
-constexpr qint64 TableReachMs = 4000 * Civil::MsPerDay;
+constexpr qint64 TableReachMs = 2000 * Civil::MsPerDay;
 // Zone names come from files: a file full of odd ones must not fill the memory.
 constexpr qsizetype MaxTables = 64;
 // No zone is further from UTC than this.
