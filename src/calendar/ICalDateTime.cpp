@@ -64,8 +64,7 @@ DateTimeReader::Zone &DateTimeReader::zoneOf(QByteArrayView tzid)
     if (it == m_zones.end()) {
         const QString name = QString::fromUtf8(tzid);
         const QTimeZone zone = TimeZones::find(name);
-        it = m_zones.insert(m_lastTzid, { .zone = zone,
-                                          .name = zone.isValid() ? QString::fromUtf8(zone.id()) : name,
+        it = m_zones.insert(m_lastTzid, { .name = zone.isValid() ? QString::fromUtf8(zone.id()) : name,
                                           .clock = WallClock(zone) });
     }
     m_lastZone = &*it;
@@ -90,7 +89,7 @@ ICalParser::DateTimeValue DateTimeReader::read(QByteArrayView value, QByteArrayV
         return { .value = QDateTime::fromMSecsSinceEpoch(ms, Qt::UTC), .isDate = isDate };
     }
     if (!tzid.isEmpty()) {
-        const WallClock &clock = zoneOf(tzid).clock; // the machine's own if the zone is not known
+        const WallClock &clock = zoneOf(tzid).clock;
         return { .value = clock.at(clock.toUtcMs(time->day, time->msOfDay)), .isDate = false };
     }
     const WallClock local{ QTimeZone() };

@@ -7,7 +7,6 @@
 #include <QByteArrayView>
 #include <QHash>
 #include <QString>
-#include <QTimeZone>
 
 namespace ICal {
 
@@ -26,9 +25,8 @@ public:
 
 private:
     struct Zone {
-        QTimeZone zone; // invalid: the machine's own
         QString name;
-        WallClock clock;
+        WallClock clock; // the machine's own if no zone was found
     };
 
     Zone &zoneOf(QByteArrayView tzid);

@@ -134,8 +134,7 @@ private slots:
     void socketAdmitsTheOwnerOnly()
     {
         const QFileInfo socket(QDir::tempPath() + QLatin1Char('/') + SingleInstance::socketName());
-        if (!socket.exists())
-            QSKIP("no socket in the file system here");
+        QVERIFY2(socket.exists(), "the socket is not where Qt puts it on Unix");
         QVERIFY(
             !(socket.permissions() & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther)));
     }
