@@ -121,6 +121,20 @@ bool EventRepository::insert(const Event &event)
     return true;
 }
 
+QString EventRepository::insertOrRevive(Event event)
+{
+    event.syncStatus = SyncStatus::Pending;
+    const auto stored = getByUidAndRecurrenceId(event.uid, event.calendarId, event.recurrenceId);
+    if (!stored || !stored->deletedAt)
+        return insert(event) ? event.id : QString();
+    event.id = stored->id;
+    event.providerEventId = stored->providerEventId;
+    event.href = stored->href;
+    event.etag = stored->etag;
+    event.deletedAt.reset();
+    return update(event) ? event.id : QString();
+}
+
 bool EventRepository::update(const Event &event)
 {
     Event row = event;
@@ -191,7 +205,7 @@ bool EventRepository::restoreDeleted(const Event &event)
     row.syncStatus = SyncStatus::Pending;
     if (getById(row.id)) {
         const bool ok = update(row);
-        qDebug().noquote() << "[Undo] cleared tombstone on existing row" << row.id << "ok=" << ok;
+        qInfo().noquote() << "[Undo] cleared tombstone on existing row" << row.id << "ok=" << ok;
         return ok;
     }
     // A sync has purged the row: to the server it is a new resource.
@@ -199,7 +213,7 @@ bool EventRepository::restoreDeleted(const Event &event)
     row.etag.clear();
     row.providerEventId.clear();
     const bool ok = insert(row);
-    qDebug().noquote() << "[Undo] re-inserted row" << row.id << "title=" << row.title << "ok=" << ok;
+    qInfo().noquote() << "[Undo] re-inserted row" << row.id << "title=" << row.title << "ok=" << ok;
     return ok;
 }
 

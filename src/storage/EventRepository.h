@@ -47,6 +47,10 @@ public:
 
     /// Fails if the calendar has this UID and recurrence id already.
     bool insert(const Event &event);
+    /// insert() for an event that was made here. Where a tombstone holds this UID and recurrence id in the
+    /// calendar, that row comes back with the new content and keeps its id, address and etag, pending.
+    /// The id of the row; empty on failure.
+    QString insertOrRevive(Event event);
     /// Replaces the row and all its children; lastModified becomes now. When the start moved, the
     /// reminders that hang on it get new trigger times and are due again; else both stay.
     bool update(const Event &event);

@@ -1,6 +1,7 @@
 #include "app/state/AppState.h"
 
 #include "app/state/FirstDayOfWeek.h"
+#include "app/state/UndoStack.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
 #include "storage/Database.h"
@@ -38,6 +39,7 @@ AppState::AppState(QObject *parent)
     : QObject(parent)
     , m_storeTimer(new QTimer(this))
     , m_todayTimer(new QTimer(this))
+    , m_undoStack(new UndoStack(this))
 {
     m_storeTimer->setSingleShot(true);
     m_storeTimer->setInterval(StoreDelayMs);

@@ -18,6 +18,7 @@ class QTimer;
 class TaskRepository;
 class TemplateRepository;
 class ThemeManager;
+class UndoStack;
 class ViewRepository;
 class VisibleEvents;
 
@@ -65,6 +66,7 @@ public:
     [[nodiscard]] FilterRuleRepository *filterRules() const { return m_filterRules; }
     [[nodiscard]] TemplateRepository *templates() const { return m_templates; }
     [[nodiscard]] ThemeManager *theme() const { return m_theme; }
+    [[nodiscard]] UndoStack *undoStack() const { return m_undoStack; }
     /// The display pipeline with its cache; there from initialize() or setVisibleEvents() on.
     [[nodiscard]] VisibleEvents *visibleEvents() const { return m_visibleEvents; }
     void setVisibleEvents(VisibleEvents *service) { m_visibleEvents = service; }
@@ -162,6 +164,7 @@ private:
     FilterRuleRepository *m_filterRules = nullptr;
     TemplateRepository *m_templates = nullptr;
     ThemeManager *m_theme = nullptr;
+    UndoStack *m_undoStack;
     VisibleEvents *m_visibleEvents = nullptr;
     QString m_activeViewId;
     QString m_selectedEventId;

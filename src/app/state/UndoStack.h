@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+#include <functional>
+
+/// The changes of events that can be taken back, twenty at most; the oldest goes first. Not stored: a
+/// restart forgets them. There is no redo.
+class UndoStack : public QObject {
+    Q_OBJECT
+
+public:
+    struct Action {
+        QString summary; ///< what the user sees, translated: "Moved "Standup""
+        std::function<void()> undo; ///< holds its own snapshot; called once
+    };
+
+    static constexpr int MaxActions = 20;
+
+    using QObject::QObject;
+
+    /// An action without an undo is ignored.
+    void push(Action action);
+    [[nodiscard]] bool canUndo() const { return !m_actions.isEmpty(); }
+    [[nodiscard]] QString topSummary() const; ///< of the change that undo() takes back next
+    /// Takes the last change back; does nothing if there is none.
+    void undo();
+    void clear();
+
+signals:
+    void changed();
+    void undone(const QString &summary);
+
+private:
+    QList<Action> m_actions; // oldest first
+};

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+/// Makes an event's notes fit to be shown; what is stored stays as it is.
+namespace DescriptionFormat {
+
+bool looksLikeHtml(const QString &text);
+/// Without the boilerplate of Microsoft Teams. The link to join becomes an anchor, or goes if
+/// \p meetingLink is shown elsewhere. Text without "Microsoft Teams" comes back unchanged.
+QString clean(const QString &text, const QString &meetingLink);
+/// URLs become anchors, but not those that are in a tag or an anchor already.
+QString linkifyUrls(const QString &text, const QString &linkColor);
+
+} // namespace DescriptionFormat

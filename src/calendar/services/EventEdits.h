@@ -1,0 +1,56 @@
+#pragma once
+
+#include "calendar/services/RecurringEdits.h"
+#include "models/Event.h"
+
+#include <QDateTime>
+#include <QString>
+
+class AppState;
+
+/// The writes that a person asks of an event, whichever surface asked. Each starts from the row as it is
+/// stored now, changes only what the person changed, marks it pending, and pushes what takes it back onto
+/// AppState::undoStack(). Each is one transaction.
+namespace EventEdits {
+
+using Scope = RecurringEdits::Scope;
+
+/// What came of it. \c why is a translated sentence for the user, empty on success and where there was
+/// nothing to do.
+struct Outcome {
+    bool ok = false;
+    QString id; ///< of the row that now holds the event
+    QString why;
+};
+
+/// True for an event of a calendar that takes no writes, or of none.
+bool isReadOnly(AppState *state, const Event &event);
+/// "Team" is read-only: what a surface says when it refuses.
+QString readOnlyText(AppState *state, const Event &event);
+
+/// A copy of \p stored to show: of a series, the occurrence that begins at \p occurrenceStart (with
+/// its recurrenceId, and the duration kept); else the event itself. Never to be written back.
+Event shownAt(const Event &stored, const QDateTime &occurrenceStart);
+
+/// Stores a new event. \p event carries start and end as the pickers gave them (local time, or dates at
+/// 00:00 for all-day); fills id, uid, zone, times stamps and stored text.
+Outcome create(AppState *state, const Event &event);
+
+/// Stores what differs between \p shown (as the form was filled) and \p edited. Of a series the times are a
+/// difference on the wall clock, so that editing a late occurrence does not move the series there. Another
+/// calendarId moves the event with its overrides. A row that has gone meanwhile comes back.
+Outcome save(AppState *state, const Event &shown, const Event &edited);
+
+/// Moves by whole days, then minutes, on the local clock; keeps the duration. The scope matters to series only.
+Outcome move(AppState *state, const QString &id, const QDateTime &occurrenceStart, int days, int minutes,
+             Scope scope = Scope::All);
+
+/// Makes the event end \p minutes later or earlier, but not before 15 minutes have passed.
+Outcome resize(AppState *state, const QString &id, const QDateTime &occurrenceStart, int minutes,
+               Scope scope = Scope::All);
+
+/// Deletes a single event, one override (the series then shows its own instance again), or a whole series
+/// with its overrides.
+Outcome remove(AppState *state, const QString &id);
+
+} // namespace EventEdits
