@@ -248,17 +248,6 @@ private slots:
         QCOMPARE((*shown)->scrollArea()->horizontalScrollBar()->maximum(), 0);
     }
 
-    void densityFollowsTheMode()
-    {
-        open();
-        action("compactDensity")->trigger();
-        QVERIFY(state()->isCompact(u"week"_qs));
-        state()->setViewMode(u"day"_qs);
-        QVERIFY(!action("compactDensity")->isChecked());
-        state()->setViewMode(u"week"_qs);
-        QVERIFY(action("compactDensity")->isChecked());
-    }
-
     void droppedFileIsImported()
     {
         QFile file(m_scratch->path(u"a.ics"_qs));

@@ -17,9 +17,6 @@ using MakeDialog = std::function<QDialog *(AppState *)>;
 FilterRule ruleWith(const QString &conditions)
 {
     FilterRule rule;
-    rule.id = QStringLiteral("r");
-    rule.name = QStringLiteral("A rule");
-    rule.type = FilterType::Pattern;
     rule.conditions = conditions;
     rule.calendarIds = QStringLiteral("[\"%1\"]").arg(ScratchState::calendarId());
     return rule;

@@ -57,18 +57,6 @@ private slots:
         QCOMPARE(m_calls, 0);
     }
 
-    void openFilesOffersSeveralExistingFiles()
-    {
-        int calls = 0;
-        Prompt::openFiles(nullptr, u"Import"_qs, u"Calendars (*.ics)"_qs, this, [&](const QStringList &) { ++calls; });
-        auto *dialog = shownDialog<QFileDialog>();
-        QVERIFY(dialog);
-        QCOMPARE(dialog->fileMode(), QFileDialog::ExistingFiles);
-        dialog->reject();
-        QTRY_VERIFY(!shownDialog<QFileDialog>());
-        QCOMPARE(calls, 0);
-    }
-
     void scopedAnswersRecordInsteadOfShowing()
     {
         int yes = 0;

@@ -202,15 +202,6 @@ private slots:
         QVERIFY(layOutBlocks({ badEnd }, QDate(), weekMetrics()).isEmpty());
     }
 
-    void topmostBlockIsHit()
-    {
-        const QList<EventBlock> blocks{ { u"under"_qs, { 0, 0, 50, 50 }, {}, 0 },
-                                        { u"over"_qs, { 25, 25, 50, 50 }, {}, 1 } };
-        QCOMPARE(blockIndexAt(blocks, { 10, 10 }), 0);
-        QCOMPARE(blockIndexAt(blocks, { 30, 30 }), 1);
-        QCOMPARE(blockIndexAt(blocks, { 75, 75 }), -1); // one past the last pixel
-    }
-
     void landing()
     {
         // Workday from 8 to 18, a pixel a minute, a viewport of 600.
