@@ -78,6 +78,7 @@ private:
 private slots:
     void init()
     {
+        m_window.reset();
         m_state = std::make_unique<ScratchState>();
         m_window = std::make_unique<QWidget>();
         auto *layout = new QVBoxLayout(m_window.get());
@@ -95,42 +96,28 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
 
-    void cleanup()
-    {
-        m_window.reset();
-        m_state.reset();
-    }
-
     void clickSelectsOrClears()
     {
         QSignalSpy selected(m_week, &EventCanvas::eventSelected);
+        QSignalSpy activated(m_week, &EventCanvas::eventActivated);
         const EventBlock block = m_week->blocks().at(1);
         click(middleOf(1));
         QCOMPARE(selected.size(), 1);
         QCOMPARE(selected.takeFirst(), (QVariantList{ block.eventId, block.occurrenceStart, globalRectOf(1) }));
         QVERIFY(m_week->isSelected(block));
         QVERIFY(!m_week->isSelected(m_week->blocks().at(0)));
+        QTest::mouseDClick(m_week, Qt::LeftButton, {}, middleOf(1));
+        QTest::mouseRelease(m_week, Qt::LeftButton, {}, middleOf(1));
+        QCOMPARE(QList<QVariantList>(activated), QList<QVariantList>{ { block.eventId } });
         for (const QPoint elsewhere : { middleOf(0), Beside }) {
             QTest::mousePress(m_week, Qt::LeftButton, {}, middleOf(2));
             QTest::mouseRelease(m_week, Qt::LeftButton, {}, elsewhere);
         }
-        QVERIFY(selected.isEmpty());
+        QVERIFY(selected.isEmpty()); // neither of these is a click
         click(Beside);
         QCOMPARE(selected.size(), 1);
         QCOMPARE(selected.at(0).at(0).toString(), QString());
         QVERIFY(m_week->selection().isEmpty());
-    }
-
-    void doubleClickActivatesOnce()
-    {
-        QSignalSpy selected(m_week, &EventCanvas::eventSelected);
-        QSignalSpy activated(m_week, &EventCanvas::eventActivated);
-        click(middleOf(0));
-        QTest::mouseDClick(m_week, Qt::LeftButton, {}, middleOf(0));
-        QTest::mouseRelease(m_week, Qt::LeftButton, {}, middleOf(0));
-        QCOMPARE(activated.size(), 1);
-        QCOMPARE(activated.at(0).at(0).toString(), m_week->blocks().at(0).eventId);
-        QCOMPARE(selected.size(), 1); // by the first click alone
     }
 
     void contextMenuComesFromMouseAndKeyboard()
@@ -288,10 +275,7 @@ private slots:
         QVERIFY2(name.startsWith(u"breakfast, Mon, Jun 15, 8:00 AM – 9:00 AM"), qPrintable(name));
         QCOMPARE(list->childAt(entry->rect().center().x(), entry->rect().center().y()), entry);
         QCOMPARE(list->indexOfChild(entry), 0);
-
-        QSignalSpy selected(m_week, &EventCanvas::eventSelected);
         entry->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-        QCOMPARE(selected.size(), 1);
         QVERIFY(entry->state().selected);
         m_week->setFocus();
         QCOMPARE(list->focusChild(), entry);
