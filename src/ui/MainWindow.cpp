@@ -8,7 +8,7 @@
 #include "ui/ActionTable.h"
 #include "ui/FiltersPill.h"
 #include "ui/GroupButton.h"
-#include "ui/IcsDrop.h"
+#include "ui/dialogs/IcsDrop.h"
 #include "ui/IcsImportFlow.h"
 #include "ui/MainMenus.h"
 #include "ui/NoAccountsPage.h"

@@ -1,6 +1,7 @@
 #include "ui/dialogs/FormDialog.h"
 
 #include "ui/dialogs/InlineMessage.h"
+#include "ui/dialogs/Prompt.h"
 #include "ui/theme/Theme.h"
 
 #include <QDialogButtonBox>
@@ -110,6 +111,14 @@ void FormDialog::accept()
     clearProblem();
     if (save())
         QDialog::accept();
+}
+
+void FormDialog::reject()
+{
+    if (!hasUnsavedChanges())
+        return QDialog::reject();
+    Prompt::question(this, tr("Discard changes?"), tr("Your changes have not been saved."), this,
+                     [this] { QDialog::reject(); });
 }
 
 QString FormDialog::problemText() const

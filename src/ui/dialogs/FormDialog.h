@@ -20,6 +20,8 @@ public:
     /// Shows the dialog over its parent's window; it deletes itself once closed.
     void open() override;
     void accept() override;
+    /// Cancel, Escape and the close button: asks first where changes would be lost.
+    void reject() override;
     [[nodiscard]] QString problemText() const; ///< of the error on show; empty if there is none
 
     /// The layout of every form: labels left, fields as wide as the dialog allows.
@@ -45,6 +47,8 @@ protected:
 
     /// Stores the form. On refusal it has called showProblem() and returns false.
     virtual bool save() { return true; }
+    /// True if closing the form would lose what the user entered.
+    [[nodiscard]] virtual bool hasUnsavedChanges() const { return false; }
     void showEvent(QShowEvent *event) override;
     void showProblem(const QString &text, QWidget *at); ///< and puts the focus on \p at
     void clearProblem();
