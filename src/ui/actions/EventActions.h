@@ -35,7 +35,7 @@ public:
     void createNow(); ///< the form with its own defaults
     void move(const QString &id, const QDateTime &occurrenceStart, int days, int minutes);
     void resize(const QString &id, const QDateTime &occurrenceStart, int minutes);
-    void remove(const QString &id, const QDateTime &occurrenceStart = {}); ///< asks first
+    void remove(const QString &id); ///< asks first
     void showContextMenu(const Event &shown, const QPoint &globalPos);
 
 signals:
@@ -44,8 +44,8 @@ signals:
     void filterFromEventRequested(const Event &event);
 
 private:
-    void changeTimes(const QString &id, const QDateTime &occurrenceStart,
-                     std::function<EventEdits::Outcome(EventEdits::Scope)> write);
+    /// Asks for the scope where it matters.
+    void changeTimes(const QString &id, std::function<EventEdits::Outcome(EventEdits::Scope)> write);
     void report(const EventEdits::Outcome &outcome);
 
     AppState *m_state;

@@ -1,9 +1,7 @@
 #pragma once
 
 #include "calendar/services/TaskEdits.h"
-#include "models/Event.h"
 
-#include <QDateTime>
 #include <QObject>
 #include <QPoint>
 #include <QRect>
@@ -20,6 +18,7 @@ public:
     TaskActions(AppState *state, QWidget *window);
 
     void open(const QString &id, const QRect &globalRect); ///< its details
+    void openByUid(const QString &uid); ///< in the middle of the window
     void edit(const QString &id);
     void create();
     void createSubtask(const QString &parentId);
@@ -28,14 +27,9 @@ public:
     void place(const QString &uid, const QString &targetUid, TaskEdits::DropZone zone);
     void showContextMenu(const QString &id, const QPoint &globalPos);
 
-    /// After a task was dropped on a calendar at \p when (local): does what "ui/taskDropAction" says, or asks
-    /// with a menu at \p globalPos.
-    void handleDrop(const QString &taskId, const QDateTime &when, bool allDay, const QPoint &globalPos);
-
 signals:
     void message(const QString &text); ///< for the status bar
     void eventRequested(const QString &eventId); ///< a linked event is to be shown
-    void eventDraftRequested(const Event &draft); ///< an event is to be made from a task
 
 private:
     void report(const TaskEdits::Outcome &outcome);
