@@ -192,9 +192,8 @@ void Application::connectCommands()
     connect(m_singleInstance, &SingleInstance::focusRequested, m_mainWindow, &MainWindow::focusWindow);
     connect(m_singleInstance, &SingleInstance::showTodayRequested, m_mainWindow, &MainWindow::showToday);
     connect(m_singleInstance, &SingleInstance::openIcsRequested, m_mainWindow, &MainWindow::importIcsFromCommand);
-    // Until the event form and quick add are there, the window is the next best answer.
-    connect(m_singleInstance, &SingleInstance::newEventRequested, m_mainWindow, &MainWindow::focusWindow);
-    connect(m_singleInstance, &SingleInstance::quickAddRequested, m_mainWindow, &MainWindow::focusWindow);
+    connect(m_singleInstance, &SingleInstance::newEventRequested, m_mainWindow, &MainWindow::openNewEventDialog);
+    connect(m_singleInstance, &SingleInstance::quickAddRequested, m_mainWindow, &MainWindow::quickAddFromCommand);
 }
 
 void Application::replayInitialCommand()

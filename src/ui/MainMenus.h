@@ -30,6 +30,7 @@ private:
     void addZoom(QMenu *menu);
     void buildToolsMenu();
     void buildHelpMenu();
+    void showUndo();
     void followViewState();
     void showViewState();
 
@@ -38,5 +39,7 @@ private:
     ViewArea *m_viewArea;
     ActionTable *m_table;
     QAction *m_sidebar = nullptr;
+    QAction *m_tasksPane = nullptr;
     QAction *m_compact = nullptr;
+    QAction *m_undo = nullptr;
 };

@@ -9,7 +9,7 @@
 #include "ui/dialogs/Prompt.h"
 #include "ui/forms/EventFormDialog.h"
 #include "ui/forms/RecurringEditScopeDialog.h"
-#include "ui/surfaces/EventContextMenu.h"
+#include "ui/actions/EventContextMenu.h"
 
 #include <QKeySequence>
 #include <QWidget>

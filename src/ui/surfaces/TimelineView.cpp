@@ -8,7 +8,6 @@
 #include "storage/PreferencesRepository.h"
 #include "storage/ViewRepository.h"
 #include "ui/surfaces/AllDayStrip.h"
-#include "ui/surfaces/EventContextMenu.h"
 #include "ui/surfaces/TimelineWidget.h"
 #include "ui/theme/ThemeManager.h"
 
@@ -123,10 +122,11 @@ void TimelineView::connectCanvas(EventCanvas *canvas)
 {
     connect(canvas, &EventCanvas::eventSelected, this, &TimelineView::onEventSelected);
     connect(canvas, &EventCanvas::eventFocused, m_state, &AppState::setSelectedOccurrence);
-    connect(canvas, &EventCanvas::eventActivated, this, &TimelineView::eventActivated);
+    connect(canvas, &EventCanvas::eventActivated, this,
+            [this, canvas](const QString &id) { emit eventActivated(id, canvas->selection().occurrenceStart); });
     connect(canvas, &EventCanvas::fontMetricsChanged, this, &TimelineView::onFontMetricsChanged);
     connect(canvas, &EventCanvas::eventContextRequested, this,
-            [this, canvas](const QString &id, const QPoint &globalPos) { onContextRequested(canvas, id, globalPos); });
+            [this, canvas](const QString &, const QPoint &globalPos) { onContextRequested(canvas, globalPos); });
     if (canvas != m_timeline)
         return;
     connect(m_timeline, &TimelineWidget::revealRequested, this, &TimelineView::reveal);
@@ -225,16 +225,10 @@ void TimelineView::onEventSelected(const QString &id, const QDateTime &occurrenc
         emit eventSelected(id, occurrenceStart, globalRect);
 }
 
-void TimelineView::onContextRequested(const EventCanvas *canvas, const QString &id, const QPoint &globalPos)
+void TimelineView::onContextRequested(const EventCanvas *canvas, const QPoint &globalPos)
 {
-    const Event *shown = canvas->findEvent(canvas->selection());
-    if (!shown || !m_state->events()->getById(id))
-        return;
-    auto *menu = new EventContextMenu(m_state, *shown, this);
-    connect(menu, &EventContextMenu::filterEditRequested, this, &TimelineView::filterEditRequested);
-    connect(menu, &EventContextMenu::filterFromEventRequested, this, &TimelineView::filterFromEventRequested);
-    m_state->setSelectedOccurrence(id, canvas->selection().occurrenceStart);
-    menu->popup(globalPos);
+    if (const Event *shown = canvas->findEvent(canvas->selection()))
+        emit contextMenuRequested(*shown, globalPos);
 }
 
 void TimelineView::reveal(const QRect &rect)

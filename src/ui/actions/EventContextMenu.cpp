@@ -1,4 +1,4 @@
-#include "ui/surfaces/EventContextMenu.h"
+#include "ui/actions/EventContextMenu.h"
 
 #include "app/state/AppState.h"
 #include "calendar/FilterEngine.h"
