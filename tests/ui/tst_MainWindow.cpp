@@ -12,6 +12,8 @@
 #include "ui/ViewArea.h"
 #include "ui/dialogs/CalendarFormDialog.h"
 #include "ui/dialogs/ImportDialog.h"
+#include "ui/dialogs/Prompt.h"
+#include "ui/dialogs/WelcomeDialog.h"
 #include "ui/surfaces/WeekView.h"
 
 #include <QApplication>
@@ -55,6 +57,7 @@ private slots:
     void sidebarToggleIsKept();
     void densityFollowsTheMode();
     void droppedFileIsImported();
+    void greetsOnce();
     void quittingIsKnown();
 
 private:
@@ -384,6 +387,25 @@ void tst_MainWindow::droppedFileIsImported()
     QVERIFY(drop.isAccepted());
     QTRY_VERIFY(window.findChild<ImportDialog *>());
     window.findChild<ImportDialog *>()->reject();
+}
+
+void tst_MainWindow::greetsOnce()
+{
+    ScratchState state;
+    MainWindow window(state.state());
+    window.welcomeOnFirstLaunch();
+    QVERIFY(!window.findChild<WelcomeDialog *>()); // nobody would see it
+    window.show();
+    window.welcomeOnFirstLaunch();
+    auto *welcome = window.findChild<WelcomeDialog *>();
+    QVERIFY(welcome && welcome->isVisible());
+    const Prompt::ScopedAnswers answers;
+    emit welcome->importRequested();
+    QCOMPARE(answers.asked.size(), 1);
+    QCOMPARE(answers.asked.constFirst().kind, QStringLiteral("openFiles"));
+    welcome->reject();
+    window.welcomeOnFirstLaunch();
+    QVERIFY(!QApplication::activeModalWidget());
 }
 
 void tst_MainWindow::quittingIsKnown()
