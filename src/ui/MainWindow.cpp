@@ -12,7 +12,6 @@
 #include "ui/ActionTable.h"
 #include "ui/FiltersPill.h"
 #include "ui/GroupButton.h"
-#include "ui/dialogs/IcsDrop.h"
 #include "ui/IcsImportFlow.h"
 #include "ui/MainMenus.h"
 #include "ui/NoAccountsPage.h"
@@ -25,6 +24,7 @@
 #include "ui/dialogs/AboutBox.h"
 #include "ui/dialogs/CalendarFormDialog.h"
 #include "ui/dialogs/FilterFormDialog.h"
+#include "ui/dialogs/IcsDrop.h"
 #include "ui/dialogs/KeyboardHelpDialog.h"
 #include "ui/dialogs/ManageFiltersDialog.h"
 #include "ui/dialogs/ManageViewsDialog.h"
@@ -255,9 +255,9 @@ void MainWindow::focusEvent(const QString &id, QDate date)
         return;
     QDateTime occurrence = event->startTime;
     if (event->isRecurring() && !event->isOverride() && date.isValid())
-        occurrence = event->isAllDay ? QDateTime(date, QTime(0, 0), Qt::UTC)
-                                     : WallClockShift{ event->startTime.toLocalTime().date().daysTo(date), 0 }.applied(
-                                           event->startTime);
+        occurrence = event->isAllDay
+            ? QDateTime(date, QTime(0, 0), Qt::UTC)
+            : WallClockShift{ event->startTime.toLocalTime().date().daysTo(date), 0 }.applied(event->startTime);
     m_eventActions->open(id, occurrence, {});
 }
 
