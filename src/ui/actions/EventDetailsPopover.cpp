@@ -4,13 +4,13 @@
 #include "calendar/DescriptionFormat.h"
 #include "calendar/RruleFormat.h"
 #include "calendar/services/EventEdits.h"
+#include "calendar/services/EventText.h"
 #include "calendar/services/TimeFormat.h"
 #include "models/Constants.h"
 #include "storage/CalendarRepository.h"
 #include "storage/EventRepository.h"
 #include "storage/TaskRepository.h"
 #include "ui/actions/DetailGlyphs.h"
-#include "ui/surfaces/EventText.h"
 #include "ui/theme/Theme.h"
 
 #include <QPushButton>

@@ -3,6 +3,7 @@
 #include "app/state/AppState.h"
 #include "calendar/DescriptionFormat.h"
 #include "calendar/RruleFormat.h"
+#include "calendar/services/EventText.h"
 #include "calendar/services/TaskEdits.h"
 #include "calendar/services/TaskText.h"
 #include "models/Constants.h"
@@ -10,7 +11,6 @@
 #include "storage/EventRepository.h"
 #include "storage/TaskRepository.h"
 #include "ui/actions/DetailGlyphs.h"
-#include "ui/surfaces/EventText.h"
 #include "ui/theme/Theme.h"
 
 #include <QPushButton>

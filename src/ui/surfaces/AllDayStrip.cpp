@@ -1,7 +1,7 @@
 #include "ui/surfaces/AllDayStrip.h"
 
+#include "calendar/services/EventText.h"
 #include "ui/surfaces/EventColors.h"
-#include "ui/surfaces/EventText.h"
 #include "ui/surfaces/SurfaceFonts.h"
 #include "ui/theme/Theme.h"
 

@@ -1,11 +1,11 @@
 #include "ui/surfaces/EventCanvas.h"
 
+#include "calendar/services/EventText.h"
 #include "models/Constants.h"
 #include "ui/dialogs/IcsDrop.h"
 #include "ui/dialogs/TaskDragMime.h"
 #include "ui/surfaces/EventCanvasAccessible.h"
 #include "ui/surfaces/EventColors.h"
-#include "ui/surfaces/EventText.h"
 #include "ui/surfaces/TimelineGeometry.h"
 #include "ui/theme/Theme.h"
 

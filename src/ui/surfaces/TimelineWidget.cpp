@@ -1,10 +1,10 @@
 #include "ui/surfaces/TimelineWidget.h"
 
 #include "app/state/AppState.h"
+#include "calendar/services/EventText.h"
 #include "calendar/services/TimeFormat.h"
 #include "calendar/services/VisibleEvents.h"
 #include "models/Constants.h"
-#include "ui/surfaces/EventText.h"
 #include "ui/surfaces/SurfaceFonts.h"
 #include "ui/theme/Theme.h"
 
