@@ -12,4 +12,7 @@ QString clean(const QString &text, const QString &meetingLink);
 /// URLs become anchors, but not those that are in a tag or an anchor already.
 QString linkifyUrls(const QString &text, const QString &linkColor);
 
+/// \p description of anyone as HTML that can be shown: cleaned, links clickable, nothing that runs or loads.
+QString toSafeHtml(const QString &description, const QString &meetingLink, const QString &linkColor);
+
 } // namespace DescriptionFormat

@@ -3,13 +3,13 @@
 #include "app/state/AppState.h"
 #include "storage/CalendarRepository.h"
 #include "storage/EventRepository.h"
+#include "ui/actions/EventContextMenu.h"
 #include "ui/actions/EventDetailsPopover.h"
 #include "ui/actions/Later.h"
 #include "ui/actions/TaskActions.h"
 #include "ui/dialogs/Prompt.h"
 #include "ui/forms/EventFormDialog.h"
 #include "ui/forms/RecurringEditScopeDialog.h"
-#include "ui/actions/EventContextMenu.h"
 
 #include <QKeySequence>
 #include <QWidget>
@@ -41,9 +41,8 @@ void EventActions::open(const QString &id, const QDateTime &occurrenceStart, con
     if (!stored)
         return;
     auto *popover = new EventDetailsPopover(m_state, EventEdits::shownAt(*stored, occurrenceStart), m_window);
-    connect(popover, &EventDetailsPopover::editRequested, this, [this, id, occurrenceStart] {
-        edit(id, occurrenceStart);
-    });
+    connect(popover, &EventDetailsPopover::editRequested, this,
+            [this, id, occurrenceStart] { edit(id, occurrenceStart); });
     connect(popover, &EventDetailsPopover::deleteRequested, this, [this, id] { remove(id); });
     if (m_tasks)
         connect(popover, &EventDetailsPopover::taskRequested, m_tasks, &TaskActions::openByUid);
@@ -131,10 +130,8 @@ void EventActions::changeTimes(const QString &id, std::function<EventEdits::Outc
         return;
     }
     later(this, [this, title = stored->title, write = std::move(write)]() mutable {
-        RecurringEditScopeDialog::ask(title, m_window, this,
-                                      [this, write = std::move(write)](EventEdits::Scope scope) {
-                                          report(write(scope));
-                                      });
+        RecurringEditScopeDialog::ask(
+            title, m_window, this, [this, write = std::move(write)](EventEdits::Scope scope) { report(write(scope)); });
     });
 }
 

@@ -2,8 +2,8 @@
 
 #include "app/state/AppState.h"
 #include "calendar/FilterEngine.h"
+#include "calendar/services/EventText.h"
 #include "storage/FilterRuleRepository.h"
-#include "ui/surfaces/EventText.h"
 #include "ui/theme/Theme.h"
 
 EventContextMenu::EventContextMenu(AppState *state, const Event &event, QWidget *parent)

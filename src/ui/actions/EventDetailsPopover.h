@@ -5,7 +5,7 @@
 
 class AppState;
 
-/// Tells of an event, or of one occurrence of a series.
+/// Tells of an event, or of one occurrence of a series. Follows the stored row while it is on show.
 class EventDetailsPopover : public DetailsPopover {
     Q_OBJECT
 
@@ -16,11 +16,19 @@ public:
     [[nodiscard]] const Event &shownEvent() const { return m_event; }
 
 signals:
-    void editRequested(const Event &shown);
-    void deleteRequested(const Event &shown);
+    void editRequested();
+    void deleteRequested();
     void taskRequested(const QString &uid); ///< the linked task
 
 private:
+    void populate();
+    void addPlace();
+    void addPeople();
+    void addLinkedTask();
+    void addActions();
+    void onEventsChanged();
+
     AppState *m_state;
     Event m_event;
+    Event m_stored;
 };

@@ -5,7 +5,7 @@
 
 class AppState;
 
-/// Tells of a task.
+/// Tells of a task. Follows the stored row while it is on show.
 class TaskDetailsPopover : public DetailsPopover {
     Q_OBJECT
 
@@ -21,6 +21,13 @@ signals:
     void eventRequested(const QString &eventId); ///< a linked event
 
 private:
+    void populate();
+    void addDates();
+    void addState();
+    void addLinkedEvents();
+    void addActions();
+    void onTasksChanged();
+
     AppState *m_state;
     Task m_task;
 };

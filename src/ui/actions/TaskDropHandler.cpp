@@ -96,8 +96,7 @@ void TaskDropHandler::handleDrop(AppState *state, const QString &taskId, const Q
     if (!task || task->deletedAt)
         return;
     const Drop drop{ state, *task, when, allDay, parent };
-    const QString action =
-        state->preferences()->get(QStringLiteral("ui/taskDropAction"), QStringLiteral("ask"));
+    const QString action = state->preferences()->get(QStringLiteral("ui/taskDropAction"), QStringLiteral("ask"));
     later(parent, [drop, action, globalPos] {
         if (action == QLatin1StringView("event"))
             drop.makeEvent();

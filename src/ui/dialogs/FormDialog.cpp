@@ -15,6 +15,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
@@ -217,6 +218,8 @@ QPushButton *FormDialog::addSaveButtons(const QString &acceptText)
     QPushButton *button = m_buttons->addButton(acceptText, QDialogButtonBox::AcceptRole);
     button->setDefault(true);
     m_buttons->addButton(QDialogButtonBox::Cancel);
+    // Return alone belongs to the fields of several lines.
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Return, this), &QShortcut::activated, this, &FormDialog::accept);
     return button;
 }
 

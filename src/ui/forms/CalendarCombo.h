@@ -17,4 +17,7 @@ public:
     [[nodiscard]] QString calendarId() const; ///< empty if there is none
     [[nodiscard]] QString calendarColor() const;
     bool select(const QString &calendarId); ///< false if it is not among them
+
+private:
+    static constexpr int ColorRole = Qt::UserRole + 1;
 };

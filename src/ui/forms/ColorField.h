@@ -11,7 +11,8 @@ class ColorField : public QWidget {
     Q_OBJECT
 
 public:
-    explicit ColorField(QWidget *parent = nullptr);
+    /// \p dialogTitle is that of the dialog for a colour of one's own.
+    explicit ColorField(const QString &dialogTitle, QWidget *parent = nullptr);
 
     [[nodiscard]] QString color() const { return m_color; } ///< "#RRGGBB"; empty means the calendar's
     void setColor(const QString &color);

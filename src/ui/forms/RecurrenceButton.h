@@ -4,7 +4,8 @@
 #include <QPushButton>
 #include <QString>
 
-/// Shows a rule as a line of text, "Does not repeat" when there is none, and opens the editor on a click.
+/// Shows a rule as a line of text, "Does not repeat" when there is none, and opens the editor on a click; a rule can be
+/// taken off too.
 class RecurrenceButton : public QPushButton {
     Q_OBJECT
 
@@ -19,7 +20,9 @@ signals:
     void ruleChanged(const QString &rule); ///< by the user
 
 private:
+    void onClicked();
     void openEditor();
+    void change(const QString &rule);
     void refresh();
 
     QString m_rule;

@@ -72,6 +72,7 @@ protected:
 private:
     void connectState();
     void connectCanvas(EventCanvas *canvas);
+    void connectTimeline();
     void onHourHeightChanged(int pixels);
     void onWorkdayHoursChanged(int start, int end);
     void onEventSelected(const QString &id, const QDateTime &occurrenceStart, const QRect &globalRect);

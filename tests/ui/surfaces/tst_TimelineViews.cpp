@@ -1,3 +1,4 @@
+#include "calendar/services/EventText.h"
 #include "calendar/services/VisibleEvents.h"
 #include "models/FilterRule.h"
 #include "models/ViewDef.h"
@@ -9,7 +10,6 @@
 #include "support/ScratchState.h"
 #include "ui/surfaces/AllDayStrip.h"
 #include "ui/surfaces/DayView.h"
-#include "ui/surfaces/EventText.h"
 #include "ui/surfaces/TimelineHeader.h"
 #include "ui/surfaces/TimelineWidget.h"
 #include "ui/surfaces/WeekView.h"

@@ -1,0 +1,16 @@
+#include "ui/forms/RowButton.h"
+
+#include <QToolButton>
+
+QToolButton *makeRemoveButton(const QString &name)
+{
+    constexpr int SizePx = 24;
+    auto *button = new QToolButton;
+    button->setText(QStringLiteral("×"));
+    button->setAutoRaise(true);
+    button->setMinimumSize(SizePx, SizePx);
+    button->setToolTip(name);
+    button->setAccessibleName(name);
+    button->setFocusPolicy(Qt::StrongFocus);
+    return button;
+}
