@@ -56,8 +56,10 @@ void tst_TaskTree::flattens_data()
         << QList<Task>{ task("z"), task("b", "z"), task("a", "z"), task("y") } << QStringLiteral("z -b -a y");
     QTest::newRow("unknown parent") << QList<Task>{ task("a", "gone"), task("b", "a") } << QStringLiteral("a -b");
     QTest::newRow("cycle") << QList<Task>{ task("a", "b"), task("b", "a"), task("c", "b"), task("d") }
-                           << QStringLiteral("d");
-    QTest::newRow("its own parent") << QList<Task>{ task("a", "a"), task("b") } << QStringLiteral("b");
+                           << QStringLiteral("a -b --c d");
+    QTest::newRow("below a cycle") << QList<Task>{ task("c", "b"), task("b", "a"), task("a", "b") }
+                                   << QStringLiteral("b -c -a");
+    QTest::newRow("its own parent") << QList<Task>{ task("a", "a"), task("b") } << QStringLiteral("a b");
     QTest::newRow("no UIDs at all") << QList<Task>{ task(""), task("") } << QStringLiteral(" ");
 }
 
