@@ -20,7 +20,7 @@ endfunction()
 
 quillon_setting(QUILLON_ORGANIZATION_DOMAIN "quillon.example" "Domain of the maker")
 quillon_setting(QUILLON_DOWNLOAD_URL "" "Base URL of releases, ending in /calendar/stable/; empty: no update check")
-quillon_setting(QUILLON_FEEDBACK_URL "" "URL of the feedback page; empty: no feedback entry")
+quillon_setting(QUILLON_FEEDBACK_URL "" "Where feedback is POSTed, or a mailto: address; empty: users copy its text")
 quillon_setting(QUILLON_AUTH_URL "" "Base URL of the sign-in service")
 quillon_setting(QUILLON_ACCOUNT_API_URL "" "Base URL of the account service, ending in /account/v1")
 quillon_setting(QUILLON_SYNC_API_URL "" "Base URL of the cloud calendar service, ending in /calendar/v1")

@@ -12,6 +12,8 @@
 #include <QActionGroup>
 #include <QMenuBar>
 
+#include <functional>
+
 MainMenus::MainMenus(AppState *state, MainWindow *window, ViewArea *viewArea)
     : QObject(window)
     , m_state(state)
@@ -248,11 +250,34 @@ void MainMenus::buildHelpMenu()
                                    .keys = ActionTable::keysFor(QKeySequence::HelpContents, Qt::Key_F1),
                                    .run = [this] { m_window->openKeyboardHelp(); } }));
     menu->addSeparator();
+    const auto add = [&](const char *id, const QString &text, void (MainWindow::*requested)()) {
+        menu->addAction(m_table->add({ .id = QLatin1StringView(id),
+                                       .group = tr("General"),
+                                       .text = text,
+                                       .run = std::bind_front(requested, m_window) }));
+    };
+    add("whatsNew", tr("&What's New"), &MainWindow::whatsNewRequested);
+    add("sendFeedback", tr("Send &Feedback…"), &MainWindow::feedbackRequested);
+    add("checkForUpdates", tr("Check for &Updates…"), &MainWindow::updateCheckRequested);
+    menu->addSeparator();
     menu->addAction(m_table->add({ .id = QStringLiteral("about"),
                                    .group = tr("General"),
                                    .text = tr("&About Quillon Calendar"),
                                    .run = [this] { m_window->openAboutBox(); },
                                    .role = QAction::AboutRole }));
+}
+
+QList<ShortcutInfo> MainMenus::keysOfSurfaces()
+{
+    const QString events = tr("Events in the calendar");
+    const QString allDay = tr("All-day events that do not all fit");
+    return { { events, tr("Select the next one"), { Qt::Key_Down } },
+             { events, tr("Select the previous one"), { Qt::Key_Up } },
+             { events, tr("Open the selected one"), { Qt::Key_Return } },
+             { events, tr("Select none"), { Qt::Key_Escape } },
+             { allDay, tr("Show all"), { Qt::Key_Plus } },
+             { allDay, tr("Show the first ones only"), { Qt::Key_Minus } },
+             { allDay, tr("Show more or fewer, while none is selected"), { Qt::Key_Return } } };
 }
 
 void MainMenus::showUndo()

@@ -9,6 +9,7 @@ class MainWindow;
 class QAction;
 class QMenu;
 class ViewArea;
+struct ShortcutInfo;
 
 /// The menu bar of the main window and all its shortcuts. What the actions do is with the window and the
 /// view area; here stand their texts, keys and places.
@@ -19,6 +20,8 @@ public:
     MainMenus(AppState *state, MainWindow *window, ViewArea *viewArea);
 
     [[nodiscard]] ActionTable *table() const { return m_table; }
+    /// What a surface with the focus answers by itself, for the keyboard help.
+    static QList<ShortcutInfo> keysOfSurfaces();
 
 private:
     void buildFileMenu();

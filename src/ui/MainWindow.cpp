@@ -30,6 +30,7 @@
 #include "ui/dialogs/ManageViewsDialog.h"
 #include "ui/dialogs/PreferencesDialog.h"
 #include "ui/dialogs/Prompt.h"
+#include "ui/dialogs/WelcomeDialog.h"
 #include "ui/forms/ManageTemplatesDialog.h"
 #include "ui/forms/QuickAddDialog.h"
 #include "ui/tasks/TasksPane.h"
@@ -48,6 +49,7 @@ namespace {
 constexpr QSize FirstSize(1440, 900);
 constexpr int MessageMs = 5000;
 const QString SidebarVisibleKey = QStringLiteral("ui/sidebarVisible");
+const QString FirstLaunchSeenKey = QStringLiteral("ui/firstLaunchSeen");
 const QString TasksPaneVisibleKey = QStringLiteral("ui/tasksPaneVisible");
 
 }
@@ -294,12 +296,24 @@ void MainWindow::openManageViewsDialog()
 
 void MainWindow::openKeyboardHelp()
 {
-    (new KeyboardHelpDialog(m_menus->table()->shortcuts(), this))->open();
+    (new KeyboardHelpDialog(m_menus->table()->shortcuts() + MainMenus::keysOfSurfaces(), this))->open();
 }
 
 void MainWindow::openAboutBox()
 {
     showAboutBox(this);
+}
+
+void MainWindow::welcomeOnFirstLaunch()
+{
+    PreferencesRepository *preferences = m_state->preferences();
+    if (!isVisible() || QApplication::activeModalWidget() || preferences->getBool(FirstLaunchSeenKey, false))
+        return;
+    preferences->setBool(FirstLaunchSeenKey, true);
+    auto *dialog = new WelcomeDialog(m_state, this);
+    connect(dialog, &WelcomeDialog::importRequested, this, &MainWindow::chooseIcsFiles);
+    connect(dialog, &WelcomeDialog::addCalendarRequested, this, &MainWindow::openNewCalendarDialog);
+    dialog->open();
 }
 
 void MainWindow::onFilterFromEvent(const Event &event)

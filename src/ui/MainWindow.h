@@ -55,6 +55,10 @@ public slots:
     void openManageViewsDialog();
     void openKeyboardHelp();
     void openAboutBox();
+    /// Greets whoever has not been greeted yet. Holds back while the window is hidden or another dialog is open:
+    /// the next launch will do.
+    void welcomeOnFirstLaunch();
+    void showMessage(const QString &text); ///< in the status bar, for a while
     void openNewEventDialog();
     void openNewTaskDialog();
     void showQuickAddDialog();
@@ -68,6 +72,12 @@ public slots:
     void setTasksPaneVisible(bool visible);
     void quitApplication();
 
+signals:
+    /// From the help menu. The program answers them: it knows where releases come from and feedback goes.
+    void whatsNewRequested();
+    void feedbackRequested();
+    void updateCheckRequested();
+
 protected:
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
@@ -77,7 +87,6 @@ private:
     void buildCentralPanes();
     void buildActions();
     void buildStatusBar();
-    void showMessage(const QString &text);
     void refreshCenterPane();
     void onFilterFromEvent(const Event &event);
 

@@ -69,7 +69,7 @@ private slots:
 
     void garbageFromASecondProcessIsSurvived()
     {
-        startProgram();
+        startProgram({ QStringLiteral("--show-today") }); // a launch with a command is not greeted
         QVERIFY2(waitUntilItListens(), log());
         QLocalSocket socket;
         socket.connectToServer(SingleInstance::socketName());

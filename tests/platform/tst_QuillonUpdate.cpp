@@ -58,12 +58,14 @@ private slots:
         Client client(config(server));
         QSignalSpy available(&client, &Client::updateAvailable);
         QSignalSpy failed(&client, &Client::checkFailed);
+        QSignalSpy nothingNewer(&client, &Client::nothingNewer);
         client.checkForUpdate();
         client.checkForUpdate(); // while it runs: the same question
         waitForSecondAnswer(server, client, available);
         QCOMPARE(server.requests().constFirst().target, QByteArray("/calendar/stable/latest.json"));
         QCOMPARE(failed.size(), fails ? 1 : 0);
         QCOMPARE(available.size(), offered.isEmpty() ? 0 : 1);
+        QCOMPARE(nothingNewer.size(), offered.isEmpty() && !fails ? 1 : 0);
         if (!offered.isEmpty())
             QCOMPARE(available.constFirst().constFirst().value<Artifact>().version, offered);
     }

@@ -10,9 +10,11 @@
 #include "ui/CalendarMenu.h"
 #include "ui/ElidedLabel.h"
 #include "ui/Sidebar.h"
+#include "ui/dialogs/FormDialog.h"
 #include "ui/dialogs/Prompt.h"
 
 #include <QContextMenuEvent>
+#include <QLineEdit>
 #include <QTest>
 
 class tst_CalendarListWidget : public QObject {
@@ -22,6 +24,7 @@ private slots:
     void checkBoxDecidesOverVisibility();
     void renames_data();
     void renames();
+    void typedNamesHaveTheLimitOfForms();
     void saysWhatMarksOnlyShow();
     void menuMakesDefault();
     void menuShowsOnlyThis();
@@ -93,6 +96,17 @@ void tst_CalendarListWidget::renames()
     list.itemFor(work)->setText(0, typed);
     QCOMPARE(stored(state, work).name, expected);
     QTRY_COMPARE(list.itemFor(work)->text(0), expected);
+}
+
+void tst_CalendarListWidget::typedNamesHaveTheLimitOfForms()
+{
+    ScratchState state;
+    CalendarListWidget list(state.state());
+    list.show();
+    list.renameCalendar(ScratchState::calendarId());
+    const auto *editor = list.findChild<QLineEdit *>();
+    QVERIFY(editor);
+    QCOMPARE(editor->maxLength(), FormDialog::MaxNameLength);
 }
 
 void tst_CalendarListWidget::saysWhatMarksOnlyShow()

@@ -11,8 +11,11 @@
 #include "ui/ViewArea.h"
 #include "ui/dialogs/CalendarFormDialog.h"
 #include "ui/dialogs/ImportDialog.h"
+#include "ui/dialogs/Prompt.h"
+#include "ui/dialogs/WelcomeDialog.h"
 #include "ui/surfaces/WeekView.h"
 
+#include <QApplication>
 #include <QDropEvent>
 #include <QFile>
 #include <QKeyEvent>
@@ -301,6 +304,25 @@ private slots:
         QVERIFY(drop.isAccepted());
         QTRY_VERIFY(m_window->findChild<ImportDialog *>());
         m_window->findChild<ImportDialog *>()->reject();
+    }
+
+    void greetsOnce()
+    {
+        ScratchState scratch;
+        MainWindow window(scratch.state());
+        window.welcomeOnFirstLaunch();
+        QVERIFY(!window.findChild<WelcomeDialog *>()); // nobody would see it
+        window.show();
+        window.welcomeOnFirstLaunch();
+        auto *welcome = window.findChild<WelcomeDialog *>();
+        QVERIFY(welcome && welcome->isVisible());
+        const Prompt::ScopedAnswers answers;
+        emit welcome->importRequested();
+        QCOMPARE(answers.asked.size(), 1);
+        QCOMPARE(answers.asked.constFirst().kind, QStringLiteral("openFiles"));
+        welcome->reject();
+        window.welcomeOnFirstLaunch();
+        QVERIFY(!QApplication::activeModalWidget());
     }
 };
 

@@ -27,7 +27,9 @@ public:
     /// The layout of every form: labels left, fields as wide as the dialog allows.
     static void styleForm(QFormLayout *form);
 
-    static constexpr int MaxNameLength = 200; ///< of what the user names in a form
+    static constexpr int MaxNameLength = 200; ///< of what the user names
+    /// Limits the field to MaxNameLength, or to a stored \p name that is longer.
+    static void showName(QLineEdit *field, const QString &name);
 
 protected:
     FormDialog(const QString &title, QWidget *parent);
@@ -36,8 +38,8 @@ protected:
     [[nodiscard]] QDialogButtonBox *buttons() const { return m_buttons; }
     QFormLayout *addForm(); ///< below what the body holds already
     QLabel *addSection(const QString &title);
-    /// Limits the field to MaxNameLength, or to a stored \p name that is longer.
-    static void showName(QLineEdit *field, const QString &name);
+    /// The program's icon beside a large \p title. Returns the muted label below it, which shows \p text.
+    QLabel *addProgramHeader(const QString &title, const QString &text);
     static QLabel *makeHint(const QString &text); ///< muted, wrapped, plain
 
     /// Cancel, and the button that accepts.

@@ -12,6 +12,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+
 namespace {
 
 QComboBox *comboOf(QWidget &dialog, const QString &label)
@@ -110,14 +112,26 @@ private slots:
         QVERIFY(!state->preferences()->get(QStringLiteral("ui/language")));
     }
 
-    void theSwitchStores()
+    void switchesStore_data()
     {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("key");
+        QTest::newRow("start minimized") << "Start minimized"
+                                         << "ui/startMinimized";
+        QTest::newRow("week numbers") << "Show week numbers"
+                                      << "ui/showWeekNumbers";
+    }
+    void switchesStore()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, key);
         ScratchState state;
         PreferencesDialog dialog(state.state());
         const auto boxes = dialog.findChildren<QCheckBox *>();
-        QCOMPARE(boxes.size(), 1);
-        boxes.first()->click();
-        QVERIFY(state->preferences()->getBool(QStringLiteral("ui/startMinimized"), false));
+        const auto box = std::ranges::find_if(boxes, [&](QCheckBox *b) { return b->text().remove(u'&') == text; });
+        QVERIFY(box != boxes.end() && !(*box)->isChecked());
+        (*box)->click();
+        QVERIFY(state->preferences()->getBool(key, false));
     }
 
 private:

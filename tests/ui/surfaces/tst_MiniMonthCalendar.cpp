@@ -391,6 +391,37 @@ private slots:
         QCOMPARE(m_month->gridStart(), march(1));
     }
 
+    void weekNumbers_data()
+    {
+        QTest::addColumn<QDate>("rowStart");
+        QTest::addColumn<int>("week");
+        // ISO 8601: week 1 has the first Thursday of the year.
+        QTest::newRow("2026 begins on a Thursday") << QDate(2025, 12, 29) << 1;
+        QTest::newRow("the same row from Sunday") << QDate(2025, 12, 28) << 1;
+        QTest::newRow("the same row from Saturday") << QDate(2025, 12, 27) << 1;
+        QTest::newRow("a year of 53 weeks") << QDate(2026, 12, 28) << 53;
+        QTest::newRow("2027 begins on a Friday") << QDate(2027, 1, 4) << 1;
+    }
+
+    void weekNumbers()
+    {
+        QFETCH(QDate, rowStart);
+        QTEST(MiniMonthGeometry::weekNumber(rowStart), "week");
+    }
+
+    void weekNumbersMakeRoomAtOnce()
+    {
+        show();
+        QVERIFY(m_month->dateAt({ 8, 70 }).isValid());
+        const int narrow = m_month->minimumSizeHint().width();
+        state()->preferences()->setBool(u"ui/showWeekNumbers"_qs, true);
+        QVERIFY(!m_month->dateAt({ 8, 70 }).isValid());
+        QCOMPARE(m_month->dateAt(m_month->dateRect(march(31)).center()), march(31));
+        QVERIFY(m_month->minimumSizeHint().width() >= narrow);
+        state()->preferences()->setBool(u"ui/showWeekNumbers"_qs, false);
+        QVERIFY(m_month->dateAt({ 8, 70 }).isValid());
+    }
+
     void selectedDayStandsOut()
     {
         show();
