@@ -4,7 +4,12 @@
 #include "models/Calendar.h"
 #include "storage/CalendarRepository.h"
 #include "storage/EventRepository.h"
+#include "storage/FilterRuleRepository.h"
+#include "storage/ViewRepository.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QUuid>
 
 namespace {
@@ -48,7 +53,8 @@ Event ScratchState::addEvent(const QString &title, const QDateTime &start, const
 
 Event ScratchState::addAllDayEvent(const QString &title, QDate first, int days)
 {
-    Event event = addEvent(title, QDateTime(first, QTime(0, 0), Qt::UTC), QDateTime(first.addDays(days), QTime(0, 0), Qt::UTC));
+    Event event =
+        addEvent(title, QDateTime(first, QTime(0, 0), Qt::UTC), QDateTime(first.addDays(days), QTime(0, 0), Qt::UTC));
     event.isAllDay = true;
     if (!m_state.events()->update(event))
         qFatal("cannot store a scratch event");
@@ -68,4 +74,28 @@ QString ScratchState::addCalendar(const QString &name, const QString &color)
     if (!m_state.calendars()->insert(calendar))
         qFatal("cannot store a scratch calendar");
     return calendar.id;
+}
+
+ViewDef ScratchState::addGroup(const QString &name, const QStringList &calendarIds)
+{
+    ViewDef group;
+    group.id = group.name = name;
+    group.calendarIds = QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(calendarIds)).toJson());
+    if (!m_state.views()->insert(group))
+        qFatal("cannot store a scratch group");
+    return group;
+}
+
+FilterRule ScratchState::addFilter(const QString &name, const QString &titlePart, const QString &action)
+{
+    FilterRule rule;
+    rule.id = rule.name = name;
+    rule.type = FilterType::Pattern;
+    rule.action = action;
+    const QJsonObject conditions{ { QStringLiteral("runtimeType"), QStringLiteral("pattern") },
+                                  { QStringLiteral("titleContains"), QJsonArray{ titlePart } } };
+    rule.conditions = QString::fromUtf8(QJsonDocument(conditions).toJson());
+    if (!m_state.filterRules()->insert(rule))
+        qFatal("cannot store a scratch filter");
+    return rule;
 }

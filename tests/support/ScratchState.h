@@ -1,7 +1,10 @@
 #pragma once
 
 #include "app/state/AppState.h"
+#include "models/Constants.h"
 #include "models/Event.h"
+#include "models/FilterRule.h"
+#include "models/ViewDef.h"
 
 #include <QTemporaryDir>
 
@@ -21,6 +24,10 @@ public:
     Event addAllDayEvent(const QString &title, QDate first, int days = 1);
     /// A copy of the calendar with another id and name.
     QString addCalendar(const QString &name, const QString &color = {});
+    /// A group of calendars; its id is its name.
+    ViewDef addGroup(const QString &name, const QStringList &calendarIds = {});
+    /// A filter for events whose title contains \p titlePart; its id is its name.
+    FilterRule addFilter(const QString &name, const QString &titlePart, const QString &action = FilterAction::Hide);
 
 private:
     QTemporaryDir m_dir;

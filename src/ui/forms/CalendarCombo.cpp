@@ -12,11 +12,15 @@ void CalendarCombo::setCalendars(const QList<Calendar> &calendars)
 {
     const QString before = calendarId();
     clear();
-    for (const Calendar &calendar : calendars) {
-        addItem(Theme::calendarDotIcon(calendar.color), calendar.name.simplified(), calendar.id);
-        setItemData(count() - 1, calendar.color, ColorRole);
-    }
+    for (const Calendar &calendar : calendars)
+        addCalendar(calendar);
     select(before);
+}
+
+void CalendarCombo::addCalendar(const Calendar &calendar)
+{
+    addItem(Theme::calendarDotIcon(calendar.color), calendar.name.simplified(), calendar.id);
+    setItemData(count() - 1, calendar.color, ColorRole);
 }
 
 QString CalendarCombo::calendarId() const

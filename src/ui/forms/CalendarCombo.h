@@ -14,6 +14,7 @@ public:
     explicit CalendarCombo(QWidget *parent = nullptr);
 
     void setCalendars(const QList<Calendar> &calendars);
+    void addCalendar(const Calendar &calendar);
     [[nodiscard]] QString calendarId() const; ///< empty if there is none
     [[nodiscard]] QString calendarColor() const;
     bool select(const QString &calendarId); ///< false if it is not among them

@@ -15,6 +15,7 @@
 #include "ui/forms/ColorField.h"
 #include "ui/forms/DateTimePicker.h"
 #include "ui/forms/RecurrenceButton.h"
+#include "ui/forms/ReminderList.h"
 #include "ui/forms/RemindersEditor.h"
 #include "ui/theme/Theme.h"
 
@@ -348,7 +349,7 @@ Event EventFormDialog::edited() const
     event.color = m_color->color();
     event.isAllDay = m_allDay->isChecked();
     event.recurrenceRule = editedRule();
-    event.reminders = editedReminders();
+    event.reminders = ReminderList::withMinutes(m_shown.reminders, m_reminders->minutes());
     event.attendees = m_attendees->attendees();
     const bool keepsNoEnd = !m_isNew && !m_shown.endTime && !m_isEndTouched;
     if (event.isAllDay) {
@@ -373,27 +374,6 @@ QString EventFormDialog::editedRule() const
     if (m_repeat->rule() == RuleEnd::asDay(m_shown.recurrenceRule) && isAllDay == m_shown.isAllDay)
         return m_shown.recurrenceRule;
     return isAllDay ? m_repeat->rule() : RuleEnd::asInstant(m_repeat->rule());
-}
-
-QList<Reminder> EventFormDialog::editedReminders() const
-{
-    // A row that was there keeps what else its reminder holds.
-    QList<Reminder> left = m_shown.reminders;
-    QList<Reminder> result;
-    const QList<int> minutes = m_reminders->minutes();
-    for (const int before : minutes) {
-        const auto found = std::find_if(
-            left.begin(), left.end(), [before](const Reminder &reminder) { return reminder.minutesBefore == before; });
-        if (found == left.end()) {
-            Reminder fresh;
-            fresh.minutesBefore = before;
-            result.append(fresh);
-            continue;
-        }
-        result.append(*found);
-        left.erase(found);
-    }
-    return result;
 }
 
 bool EventFormDialog::hasUnsavedChanges() const

@@ -60,7 +60,6 @@ private:
     void refreshColor();
     [[nodiscard]] bool check();
     [[nodiscard]] QString editedRule() const;
-    [[nodiscard]] QList<Reminder> editedReminders() const;
 
     AppState *m_state;
     Event m_shown; // as the form was filled; a new event has no id
