@@ -96,11 +96,11 @@ void TasksPaneRow::mouseMoveEvent(QMouseEvent *event)
 
 void TasksPaneRow::startDrag()
 {
-    auto *data = new QMimeData;
-    data->setData(QLatin1StringView(TaskDragMime::kTaskUid), m_row.uid.toUtf8());
-    data->setData(QLatin1StringView(TaskDragMime::kTaskRowId), m_row.id.toUtf8());
+    auto *mime = new QMimeData;
+    mime->setData(QLatin1StringView(TaskDragMime::kTaskUid), m_row.uid.toUtf8());
+    mime->setData(QLatin1StringView(TaskDragMime::kTaskRowId), m_row.id.toUtf8());
     auto *drag = new QDrag(this);
-    drag->setMimeData(data);
+    drag->setMimeData(mime);
     drag->setPixmap(grab());
     drag->setHotSpot(m_pressedAt);
     drag->exec(Qt::MoveAction | Qt::CopyAction, Qt::MoveAction);
