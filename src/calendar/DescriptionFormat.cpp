@@ -94,7 +94,7 @@ QString DescriptionFormat::linkifyUrls(const QString &text, const QString &linkC
         }
         result += QStringLiteral("<a href=\"%1\"%2>%1</a>").arg(url, style) + tail;
     }
-    return result + QStringView(text).mid(last);
+    return result += QStringView(text).mid(last);
 }
 
 QString DescriptionFormat::toSafeHtml(const QString &description, const QString &meetingLink, const QString &linkColor)
