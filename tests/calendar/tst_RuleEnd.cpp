@@ -36,6 +36,7 @@ private slots:
         QCOMPARE(RuleEnd::asDay(instant), day);
         QCOMPARE(RuleEnd::asInstant(instant), instant);
         QCOMPARE(RuleEnd::asDay(day), day);
+        QCOMPARE(RuleEnd::asDay(QStringLiteral("UNTIL=20270115T000000Z"), true), QStringLiteral("UNTIL=20270115"));
     }
 };
 
