@@ -126,13 +126,23 @@ void EventActions::changeTimes(const QString &id, std::function<EventEdits::Outc
         return;
     }
     if (!stored->isRecurring() || stored->isOverride()) {
-        report(write(EventEdits::Scope::All));
+        onTimesChanged(write(EventEdits::Scope::All));
         return;
     }
     later(this, [this, title = stored->title, write = std::move(write)]() mutable {
-        RecurringEditScopeDialog::ask(
-            title, m_window, this, [this, write = std::move(write)](EventEdits::Scope scope) { report(write(scope)); });
+        RecurringEditScopeDialog::ask(title, m_window, this, [this, write = std::move(write)](EventEdits::Scope scope) {
+            onTimesChanged(write(scope));
+        });
     });
+}
+
+// The selection goes along. Of a series, which of its instances was moved is not known any more.
+void EventActions::onTimesChanged(const EventEdits::Outcome &outcome)
+{
+    report(outcome);
+    const auto stored = outcome.ok ? liveEvent(m_state, outcome.id) : std::nullopt;
+    if (stored && !stored->isRecurring())
+        m_state->setSelectedOccurrence(stored->id, stored->startTime);
 }
 
 void EventActions::remove(const QString &id)

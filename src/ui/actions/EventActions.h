@@ -46,6 +46,7 @@ signals:
 private:
     /// Asks for the scope where it matters.
     void changeTimes(const QString &id, std::function<EventEdits::Outcome(EventEdits::Scope)> write);
+    void onTimesChanged(const EventEdits::Outcome &outcome);
     void report(const EventEdits::Outcome &outcome);
 
     AppState *m_state;

@@ -17,6 +17,7 @@
 namespace {
 
 constexpr int GhostAlpha = 40;
+constexpr int GhostLabelAlpha = 220; // what lies below must not mix with it
 constexpr int GhostRadiusPx = 4;
 constexpr double GhostPenPx = 1.6;
 constexpr int GhostLabelHeightPx = 18;
@@ -199,13 +200,18 @@ void TimelineWidget::paintGhost(QPainter &painter) const
     const QFont labelFont = SurfaceFonts::bold(SurfaceFonts::resized(font(), -1, 8));
     const QFontMetrics fontMetrics(labelFont);
     const int height = std::max(GhostLabelHeightPx, fontMetrics.height());
-    // Above the ghost; inside it where there is no room above.
+    // Above the ghost; inside it where there is no room above. A narrow column cuts nothing off.
+    const QString text = ghostLabel();
     const int y = ghost.top() >= height ? ghost.top() - height : ghost.top();
-    const QRect label(ghost.left() + GhostLabelInsetPx, y, ghost.width() - 2 * GhostLabelInsetPx, height);
+    const int textWidth = fontMetrics.horizontalAdvance(text);
+    const int x = std::max(m_gutterPx, std::min(ghost.left(), width() - textWidth - 2 * GhostLabelInsetPx));
+    const QRect label(x, y, textWidth + 2 * GhostLabelInsetPx, height);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(EventColors::withAlpha(palette().color(QPalette::Base), GhostLabelAlpha));
+    painter.drawRoundedRect(label, GhostRadiusPx, GhostRadiusPx);
     painter.setFont(labelFont);
     painter.setPen(Theme::textPrimary());
-    painter.drawText(label, Qt::AlignLeft | Qt::AlignVCenter,
-                     fontMetrics.elidedText(ghostLabel(), Qt::ElideRight, label.width()));
+    painter.drawText(label, Qt::AlignCenter, text);
 }
 
 QString TimelineWidget::ghostLabel() const
