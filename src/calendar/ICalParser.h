@@ -23,7 +23,8 @@ QList<Event> parse(const QByteArray &utf8);
 QList<Event> parse(const QString &text);
 
 /// One task for each VTODO with a UID, in file order. An override of one instance is no task of its own:
-/// its text follows that of its series in rawIcalendar.
+/// its text follows that of its series in rawIcalendar. Without its series in the text there is no row that could
+/// keep it, and it is left out.
 QList<Task> parseTasks(const QByteArray &utf8);
 QList<Task> parseTasks(const QString &text);
 

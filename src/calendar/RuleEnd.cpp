@@ -49,11 +49,11 @@ QString ending(const QString &rule, const QString &value)
 
 }
 
-QString RuleEnd::asDay(const QString &rule)
+QString RuleEnd::asDay(const QString &rule, bool isAllDay)
 {
-    return withUntil(rule, [](const QString &value) {
+    return withUntil(rule, [isAllDay](const QString &value) {
         QDateTime until = QDateTime::fromString(value, InstantFormat);
-        if (!until.isValid())
+        if (isAllDay || !until.isValid())
             return value.left(DayFormat.size()); // a day already, or digits without a zone
         until.setTimeSpec(Qt::UTC);
         return until.toLocalTime().date().toString(DayFormat);

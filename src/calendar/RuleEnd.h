@@ -8,8 +8,9 @@
 /// timed series is an instant. RFC 5545 §3.3.10, UNTIL.
 namespace RuleEnd {
 
-/// \p rule with an instant in UNTIL replaced by its local day, "yyyyMMdd". All else stays as it is.
-QString asDay(const QString &rule);
+/// \p rule with an instant in UNTIL replaced by its day, "yyyyMMdd": the local one, of an all-day series that
+/// of its digits. All else stays as it is.
+QString asDay(const QString &rule, bool isAllDay = false);
 /// \p rule with a day in UNTIL replaced by the last second of that local day, in UTC.
 QString asInstant(const QString &rule);
 

@@ -232,7 +232,7 @@ void MainMenus::buildToolsMenu()
                                        .needsCalendar = true }));
     };
     add("addFilter", tr("Add &Filter…"), [this] { m_window->openAddFilterDialog(); });
-    add("manageFilters", tr("&Manage Filters…"), [this] { m_window->openManageFiltersDialog(); });
+    add("manageFilters", tr("Manage Fil&ters…"), [this] { m_window->openManageFiltersDialog(); });
     menu->addSeparator();
     add("addGroup", tr("Add Calendar &Group…"), [this] { m_window->openAddViewDialog(); });
     add("manageGroups", tr("Manage Calendar Gr&oups…"), [this] { m_window->openManageViewsDialog(); });
@@ -271,9 +271,13 @@ QList<ShortcutInfo> MainMenus::keysOfSurfaces()
 {
     const QString events = tr("Events in the calendar");
     const QString allDay = tr("All-day events that do not all fit");
-    return { { events, tr("Select the next one"), { Qt::Key_Down } },
-             { events, tr("Select the previous one"), { Qt::Key_Up } },
+    constexpr auto ShiftAlt = Qt::SHIFT | Qt::ALT;
+    return { { events, tr("Select the next one or the one before"), { Qt::Key_Down, Qt::Key_Up } },
              { events, tr("Open the selected one"), { Qt::Key_Return } },
+             { events, tr("Delete it"), { Qt::Key_Delete, Qt::Key_Backspace } },
+             { events, tr("Move it by a day"), { Qt::SHIFT | Qt::Key_Right, Qt::SHIFT | Qt::Key_Left } },
+             { events, tr("Move it by a quarter of an hour"), { Qt::SHIFT | Qt::Key_Down, Qt::SHIFT | Qt::Key_Up } },
+             { events, tr("Let it end later or earlier"), { ShiftAlt | Qt::Key_Down, ShiftAlt | Qt::Key_Up } },
              { events, tr("Select none"), { Qt::Key_Escape } },
              { allDay, tr("Show all"), { Qt::Key_Plus } },
              { allDay, tr("Show the first ones only"), { Qt::Key_Minus } },

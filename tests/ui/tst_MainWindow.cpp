@@ -308,20 +308,19 @@ private slots:
 
     void greetsOnce()
     {
-        ScratchState scratch;
-        MainWindow window(scratch.state());
-        window.welcomeOnFirstLaunch();
-        QVERIFY(!window.findChild<WelcomeDialog *>()); // nobody would see it
-        window.show();
-        window.welcomeOnFirstLaunch();
-        auto *welcome = window.findChild<WelcomeDialog *>();
+        m_window = std::make_unique<MainWindow>(state());
+        m_window->welcomeOnFirstLaunch();
+        QVERIFY(!m_window->findChild<WelcomeDialog *>()); // nobody would see it
+        m_window->show();
+        m_window->welcomeOnFirstLaunch();
+        auto *welcome = m_window->findChild<WelcomeDialog *>();
         QVERIFY(welcome && welcome->isVisible());
         const Prompt::ScopedAnswers answers;
-        emit welcome->importRequested();
+        welcome->findChild<QPushButton *>()->click(); // to import a file
+        QVERIFY(!welcome->isVisible());
         QCOMPARE(answers.asked.size(), 1);
-        QCOMPARE(answers.asked.constFirst().kind, QStringLiteral("openFiles"));
-        welcome->reject();
-        window.welcomeOnFirstLaunch();
+        QCOMPARE(answers.asked.constFirst().kind, u"openFiles"_qs);
+        m_window->welcomeOnFirstLaunch();
         QVERIFY(!QApplication::activeModalWidget());
     }
 };

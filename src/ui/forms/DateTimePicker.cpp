@@ -2,8 +2,8 @@
 
 #include "ui/theme/Theme.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDateEdit>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -18,6 +18,8 @@ constexpr int StepMinutes = 15;
 constexpr int MinutesPerDay = 24 * 60;
 constexpr int MinutesPerHour = 60;
 constexpr int VisibleItems = 12;
+constexpr int TimeChars = 9;
+constexpr int ListMarginPx = 32; // for the scroll bar
 
 }
 
@@ -34,6 +36,9 @@ DateTimePicker::DateTimePicker(Qt::DayOfWeek firstDayOfWeek, QWidget *parent)
     m_time->setEditable(true);
     m_time->setInsertPolicy(QComboBox::NoInsert);
     m_time->setMaxVisibleItems(VisibleItems);
+    // As wide as a time, and the list as wide as its durations: start and end stand in line.
+    m_time->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_time->setMinimumContentsLength(TimeChars);
     m_time->setCompleter(nullptr); // "9" is a time, and not the beginning of "9:15 PM"
     m_time->lineEdit()->installEventFilter(this);
     auto *row = new QHBoxLayout(this);
@@ -152,6 +157,7 @@ void DateTimePicker::populateTimeOptions()
             text += QStringLiteral("  (%1)").arg(durationText(from.secsTo(time) / 60));
         m_time->addItem(text, time);
     }
+    m_time->view()->setMinimumWidth(m_time->view()->sizeHintForColumn(0) + ListMarginPx);
     showTime();
 }
 

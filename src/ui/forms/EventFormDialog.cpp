@@ -87,7 +87,7 @@ QDateTime EventFormDialog::defaultStart(const QDateTime &now)
 
 void EventFormDialog::buildLayout()
 {
-    resize(WidthPx, sizeHint().height());
+    setMinimumWidth(WidthPx);
     auto *heading = new QLabel(m_isNew ? tr("New event") : tr("Edit event"));
     QFont font = heading->font();
     font.setBold(true);
@@ -215,7 +215,7 @@ void EventFormDialog::prefill(const Event &event)
     m_calendar->select(event.calendarId);
     m_color->setColor(event.color);
     prefillTimes(event);
-    m_repeat->setRule(RuleEnd::asDay(event.recurrenceRule));
+    m_repeat->setRule(RuleEnd::asDay(event.recurrenceRule, event.isAllDay));
     m_location->setText(event.location);
     m_attendees->setAttendees(event.attendees);
     QList<int> minutes;
@@ -371,7 +371,7 @@ Event EventFormDialog::edited() const
 QString EventFormDialog::editedRule() const
 {
     const bool isAllDay = m_allDay->isChecked();
-    if (m_repeat->rule() == RuleEnd::asDay(m_shown.recurrenceRule) && isAllDay == m_shown.isAllDay)
+    if (m_repeat->rule() == RuleEnd::asDay(m_shown.recurrenceRule, m_shown.isAllDay) && isAllDay == m_shown.isAllDay)
         return m_shown.recurrenceRule;
     return isAllDay ? m_repeat->rule() : RuleEnd::asInstant(m_repeat->rule());
 }

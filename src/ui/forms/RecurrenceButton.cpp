@@ -11,6 +11,7 @@ RecurrenceButton::RecurrenceButton(Qt::DayOfWeek firstDayOfWeek, QWidget *parent
     , m_firstDayOfWeek(firstDayOfWeek)
 {
     setAutoDefault(false);
+    setStyleSheet(QStringLiteral("text-align: left;"));
     connect(this, &QPushButton::clicked, this, &RecurrenceButton::onClicked);
     refresh();
 }

@@ -73,7 +73,7 @@ void TaskFormDialog::setParentTask(const Task &parentTask)
 
 void TaskFormDialog::build()
 {
-    resize(WidthPx, sizeHint().height());
+    setMinimumWidth(WidthPx);
     buildFields();
     QFormLayout *form = addForm();
     form->addRow(tr("&Title"), m_title);

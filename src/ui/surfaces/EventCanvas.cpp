@@ -311,7 +311,8 @@ void EventCanvas::resizeEvent(QResizeEvent *event)
 
 void EventCanvas::keyPressEvent(QKeyEvent *event)
 {
-    if (!handleEditKey(*event) && !handleKey(event->key()))
+    const bool isPlain = !(event->modifiers() & ~Qt::KeypadModifier);
+    if (!handleEditKey(*event) && !(isPlain && handleKey(event->key())))
         QWidget::keyPressEvent(event);
 }
 

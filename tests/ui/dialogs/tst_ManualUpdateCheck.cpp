@@ -45,15 +45,6 @@ private slots:
             QCOMPARE(prompts.asked.constFirst().kind, prompt);
     }
 
-    void aBuildWithoutAddressSaysSo()
-    {
-        Prompt::ScopedAnswers prompts;
-        QWidget window;
-        runManualCheck(config({}), appName(), &window, recorder());
-        QCOMPARE(prompts.asked.size(), 1);
-        QVERIFY(m_status.isEmpty());
-    }
-
     void notes_data()
     {
         QTest::addColumn<QString>("changelog");
