@@ -208,6 +208,14 @@ private slots:
         stored = row(state, EventEdits::create(state.state(), event).id);
         QCOMPARE(stored.timezone, u"UTC"_s);
         QCOMPARE(stored.startTime, QDateTime(March2, QTime(0, 0), Qt::UTC));
+        const Change toTimed = [](Event &edited) {
+            edited.isAllDay = false;
+            edited.startTime = local(0, 9);
+            edited.endTime = local(0, 10);
+        };
+        stored = row(state, saved(state, stored.id, {}, toTimed).id);
+        QCOMPARE(stored.timezone, TimeZones::systemName());
+        QCOMPARE(stored.startTime.toLocalTime(), local(0, 9));
         event.isAllDay = false;
         event.endTime = local(0, 8);
         QVERIFY(!EventEdits::create(state.state(), event).ok);
