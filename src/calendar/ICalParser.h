@@ -34,6 +34,8 @@ QString serializeTaskToVCalendar(const Task &task);
 /// \p text with DTSTART and DTEND of its first VEVENT replaced by UTC times, all else untouched.
 /// An invalid \p newEnd repeats the start; an invalid \p newStart changes nothing.
 QString replaceVeventDtstartDtend(const QString &text, const QDateTime &newStart, const QDateTime &newEnd);
+/// The same for an all-day event: DTSTART and DTEND become these dates. Both must be valid; \p newEnd is exclusive.
+QString replaceVeventDates(const QString &text, QDate newFirst, QDate newEnd);
 
 /// RFC 5545 §3.3.11. Line breaks of any kind become "\n".
 QString escapeText(const QString &text);

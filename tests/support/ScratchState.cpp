@@ -99,3 +99,11 @@ FilterRule ScratchState::addFilter(const QString &name, const QString &titlePart
         qFatal("cannot store a scratch filter");
     return rule;
 }
+
+void ScratchState::makeReadOnly(const QString &calendarId)
+{
+    Calendar calendar = m_state.calendars()->getById(calendarId).value();
+    calendar.isReadOnly = true;
+    if (!m_state.calendars()->update(calendar))
+        qFatal("cannot change a scratch calendar");
+}

@@ -24,6 +24,7 @@ public:
     Event addAllDayEvent(const QString &title, QDate first, int days = 1);
     /// A copy of the calendar with another id and name.
     QString addCalendar(const QString &name, const QString &color = {});
+    void makeReadOnly(const QString &calendarId);
     /// A group of calendars; its id is its name.
     ViewDef addGroup(const QString &name, const QStringList &calendarIds = {});
     /// A filter for events whose title contains \p titlePart; its id is its name.
