@@ -48,7 +48,8 @@ Event ScratchState::addEvent(const QString &title, const QDateTime &start, const
 
 Event ScratchState::addAllDayEvent(const QString &title, QDate first, int days)
 {
-    Event event = addEvent(title, QDateTime(first, QTime(0, 0), Qt::UTC), QDateTime(first.addDays(days), QTime(0, 0), Qt::UTC));
+    Event event =
+        addEvent(title, QDateTime(first, QTime(0, 0), Qt::UTC), QDateTime(first.addDays(days), QTime(0, 0), Qt::UTC));
     event.isAllDay = true;
     if (!m_state.events()->update(event))
         qFatal("cannot store a scratch event");
