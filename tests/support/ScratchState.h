@@ -19,8 +19,8 @@ public:
     /// A stored event of that calendar; times as given.
     Event addEvent(const QString &title, const QDateTime &start, const QDateTime &end);
     Event addAllDayEvent(const QString &title, QDate first, int days = 1);
-    /// A copy of the calendar with another id and name.
-    QString addCalendar(const QString &name, const QString &color = {});
+    /// A copy of the calendar with another id and name; of the same account if \p accountId is empty.
+    QString addCalendar(const QString &name, const QString &color = {}, const QString &accountId = {});
 
 private:
     QTemporaryDir m_dir;
