@@ -61,7 +61,7 @@ Event ScratchState::addAllDayEvent(const QString &title, QDate first, int days)
     return event;
 }
 
-QString ScratchState::addCalendar(const QString &name, const QString &color)
+QString ScratchState::addCalendar(const QString &name, const QString &color, const QString &accountId)
 {
     Calendar calendar = m_state.calendars()->getById(calendarId()).value();
     calendar.id = newId();
@@ -71,6 +71,8 @@ QString ScratchState::addCalendar(const QString &name, const QString &color)
     calendar.canonicalKey.clear();
     if (!color.isEmpty())
         calendar.color = color;
+    if (!accountId.isEmpty())
+        calendar.accountId = accountId;
     if (!m_state.calendars()->insert(calendar))
         qFatal("cannot store a scratch calendar");
     return calendar.id;
