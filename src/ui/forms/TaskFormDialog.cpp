@@ -12,6 +12,7 @@
 #include "ui/dialogs/Prompt.h"
 #include "ui/forms/CalendarCombo.h"
 #include "ui/forms/ColorField.h"
+#include "ui/forms/CompoundField.h"
 #include "ui/forms/OptionalDateField.h"
 #include "ui/forms/RecurrenceButton.h"
 #include "ui/forms/ReminderList.h"
@@ -142,7 +143,7 @@ QWidget *TaskFormDialog::buildProgress()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_status, 1);
     layout->addWidget(m_progress);
-    row->setFocusProxy(m_status);
+    setFirstControl(row, m_status);
     return row;
 }
 
