@@ -254,6 +254,5 @@ void Application::onTerminationSignal()
 {
     if (m_mainWindow)
         m_mainWindow->quitApplication();
-    else
-        quit();
+    exit(0); // an open form would stop quit(), to ask a question that nobody is there to answer
 }
