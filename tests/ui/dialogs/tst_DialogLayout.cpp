@@ -1,7 +1,3 @@
-#include "models/FilterRule.h"
-#include "storage/CalendarRepository.h"
-#include "storage/FilterRuleRepository.h"
-#include "storage/ViewRepository.h"
 #include "support/ScratchState.h"
 #include "ui/dialogs/CalendarFormDialog.h"
 #include "ui/dialogs/FeedbackDialog.h"
@@ -13,13 +9,8 @@
 #include "ui/dialogs/ViewFormDialog.h"
 #include "ui/dialogs/WelcomeDialog.h"
 
-#include <QAbstractButton>
-#include <QAbstractScrollArea>
-#include <QComboBox>
-#include <QLabel>
-#include <QTabWidget>
-#include <QTest>
-#include <QToolButton>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace {
 

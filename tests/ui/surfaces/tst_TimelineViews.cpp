@@ -1,10 +1,5 @@
 #include "calendar/services/EventText.h"
 #include "calendar/services/VisibleEvents.h"
-#include "storage/CalendarRepository.h"
-#include "storage/EventRepository.h"
-#include "storage/FilterRuleRepository.h"
-#include "storage/PreferencesRepository.h"
-#include "storage/ViewRepository.h"
 #include "support/ScratchState.h"
 #include "ui/surfaces/AllDayStrip.h"
 #include "ui/surfaces/DayView.h"
@@ -12,15 +7,8 @@
 #include "ui/surfaces/TimelineWidget.h"
 #include "ui/surfaces/WeekView.h"
 
-#include <QContextMenuEvent>
-#include <QLineEdit>
-#include <QMenu>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QSignalSpy>
-#include <QVBoxLayout>
-#include <QWheelEvent>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -110,18 +98,12 @@ private slots:
         QCOMPARE(titles(day), u"standup"_qs);
         day.setDate(Wednesday.addDays(1));
         QCOMPARE(titles(day), u"-fair"_qs);
-    }
 
-    void daysFormBeginsAtTheAnchor()
-    {
         WeekView days(state(), WeekView::Form::Days);
-        state()->setWeekHorizon(5);
-        days.setAnchorDate(Wednesday.addDays(3));
-        show(days);
-        QCOMPARE(days.timeline()->firstDay(), Wednesday.addDays(3));
-        QCOMPARE(days.timeline()->columnCount(), 5);
         state()->setWeekHorizon(14);
-        QCOMPARE(days.timeline()->columnCount(), 14);
+        show(days);
+        QCOMPARE(titles(days), u"-fair later standup"_qs);
+        QCOMPARE(days.timeline()->firstDay(), Wednesday);
         QVERIFY(days.minimumSizeHint().width() < 300);
     }
 
@@ -410,26 +392,20 @@ private slots:
         QCOMPARE(requested.at(0).at(0).value<Event>().title, u"standup"_qs);
     }
 
-    void longNamesAreCut()
-    {
-        QCOMPARE(EventText::shortName(u" two\nlines "_qs), u"two lines"_qs);
-        QCOMPARE(EventText::shortName(QString(40, u'x')), QString(40, u'x'));
-        QCOMPARE(EventText::shortName(QString(41, u'x')), QString(39, u'x') + u'…');
-    }
-
     void timeFormatChangesTheTexts()
     {
         add(u"standup"_qs, Wednesday, QTime(15, 0));
         WeekView week(state(), WeekView::Form::Week);
-        QImage before;
         show(week);
-        for (const auto &[format, time] : { std::pair(u"12"_qs, u"3:00 PM"_qs), std::pair(u"24"_qs, u"15:00"_qs) }) {
+        QStringList names;
+        QList<QImage> images;
+        for (const QString &format : { u"12"_qs, u"24"_qs }) {
             state()->preferences()->set(u"ui/timeFormat"_qs, format);
-            const QString name = week.timeline()->describe(week.timeline()->blocks().at(0));
-            QVERIFY2(name.contains(time), qPrintable(name));
-            const QImage image = week.timeline()->grab().toImage();
-            QVERIFY(image != std::exchange(before, image));
+            names.append(week.timeline()->describe(week.timeline()->blocks().at(0)));
+            images.append(week.timeline()->grab().toImage());
         }
+        QVERIFY2(names.at(0).contains(u"3:00 PM") && names.at(1).contains(u"15:00"), qPrintable(names.join(u'|')));
+        QVERIFY(images.at(0) != images.at(1));
     }
 };
 

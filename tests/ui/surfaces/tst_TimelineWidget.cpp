@@ -5,15 +5,8 @@
 #include "ui/surfaces/WeekTimelineWidget.h"
 #include "ui/theme/Theme.h"
 
-#include <QAccessible>
-#include <QContextMenuEvent>
-#include <QHelpEvent>
-#include <QLineEdit>
-#include <QSignalSpy>
-#include <QToolTip>
-#include <QVBoxLayout>
-#include <QWheelEvent>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -188,14 +181,12 @@ private slots:
             const QPoint gutterEdge(m_week->metrics().columns.gutterPx - 1, m_week->yForTime(QTime(10, 30)));
             return m_week->grab().toImage().pixelColor(gutterEdge) == Theme::accent();
         };
-        m_week->setFocus();
-        QVERIFY(!isMarked());
-        QTest::keyClick(m_week, Qt::Key_Down);
+        m_before->setFocus();
+        QTest::keyClick(m_before, Qt::Key_Tab);
         QVERIFY(isMarked());
         click(Beside);
         QVERIFY(!isMarked());
-        m_before->setFocus();
-        QTest::keyClick(m_before, Qt::Key_Tab);
+        QTest::keyClick(m_week, Qt::Key_Down);
         QVERIFY(isMarked());
         m_before->setFocus();
         QVERIFY(!isMarked());
@@ -236,6 +227,7 @@ private slots:
         QCOMPARE(selectedDays(), QList<int>{ Qt::Tuesday });
         QTest::keyClick(m_week, Qt::Key_Down);
         QCOMPARE(selectedDays(), QList<int>{ Qt::Wednesday });
+        QCOMPARE(m_week->blockIndexOf(m_week->selection()), 2);
         m_week->setSelectedOccurrence({}, {});
         QCOMPARE(selectedDays(), QList<int>{});
     }
@@ -321,6 +313,7 @@ private slots:
             const Event hour = timed(u"x"_qs, Monday, QTime(9, 0));
             QVERIFY(!painter.fit(hour, { 500, day.neededHourHeight() }, false).time.text().isEmpty());
             QVERIFY(painter.fit(hour, { 500, day.neededHourHeight() - 1 }, false).time.text().isEmpty());
+            QVERIFY(painter.fit(hour, { 30, 200 }, false).time.text().isEmpty()); // half a time is another one
             day.setBaseHourHeight(180);
             QCOMPARE(day.neededHourHeight(), 180);
         }
