@@ -26,5 +26,6 @@ quillon_setting(QUILLON_ACCOUNT_API_URL "" "Base URL of the account service, end
 quillon_setting(QUILLON_SYNC_API_URL "" "Base URL of the cloud calendar service, ending in /calendar/v1")
 quillon_setting(QUILLON_ACCOUNT_PORTAL_URL "" "URL of the account portal")
 quillon_setting(QUILLON_AUTH_CLIENT_ID "7e2d40a1b95c3f6e08d1c47ab2963ef5" "Client identifier for sign-in")
+quillon_setting(QUILLON_TEAMS_HOST "teams.microsoft.com" "Web host of the Microsoft Teams meetings in invitations")
 
 configure_file(${CMAKE_SOURCE_DIR}/cmake/BuildSettings.h.in ${CMAKE_BINARY_DIR}/generated/BuildSettings.h @ONLY)
