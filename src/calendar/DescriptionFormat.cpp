@@ -92,11 +92,8 @@ QString DescriptionFormat::clean(const QString &text, const QString &meetingLink
     static const QRegularExpression blankLinesPattern(QStringLiteral("\\n{3,}"));
     if (!text.contains(Boilerplate))
         return text;
-    // Both patterns look for ">" and then go no further; where there is none left they would look to the end each time.
-    const qsizetype bracketed = text.lastIndexOf(u'>') + 1;
-    QString result = withJoinLines(text.first(bracketed), meetingLink);
+    QString result = withJoinLines(text, meetingLink);
     result.replace(angleUrlPattern, QStringLiteral("\\1"));
-    result += QStringView(text).sliced(bracketed);
     result.remove(underscoreRulePattern);
     result.remove(teamsHeadingPattern);
     result.remove(needHelpPattern);

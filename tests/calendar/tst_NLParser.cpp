@@ -64,7 +64,7 @@ private slots:
         line("plan #Work #q3_a-b it #work", "task | - | plan it | Work,q3_a-b");
         line("#\u00dcbung h\u00f6ren", "task | - | h\u00f6ren | \u00dcbung");
         line("C# lesson at 4pm", "event | 05-05 16:00-17:00 | C# lesson");
-        line("retro #friday", "event | 05-08 | retro | friday"); // one stretch, claimed twice
+        line("retro #meet-friday-x", "event | 05-08 | retro | meet-friday-x"); // one stretch, claimed twice
         // Relative to now: a Tuesday, 10:12
         line("gym in 30 mins", "event | 05-05 10:42-11:42 | gym");
         line("call in 2hrs", "event | 05-05 12:12-13:12 | call");
@@ -72,7 +72,7 @@ private slots:
         line("dinner tonight", "event | 05-05 19:00-20:00 | dinner");
         line("dinner tonight at 8pm", "event | 05-05 20:00-21:00 | dinner");
         line("dinner tonight tomorrow", "event | 05-06 19:00-20:00 | dinner");
-        line("call in 2 hours tonight", "event | 05-05 12:12-13:12 | call");
+        line("call in 20 hours tonight", "event | 05-06 06:12-07:12 | call");
         line("walk this morning", "event | 05-05 09:00-10:00 | walk");
         line("walk This   Afternoon", "event | 05-05 15:00-16:00 | walk");
         line("dentist next week", "event | 05-12 | dentist");
