@@ -8,7 +8,10 @@
 #include "app/state/Platform.h"
 #include "storage/PreferencesRepository.h"
 #include "ui/MainWindow.h"
+#include "ui/dialogs/FeedbackDialog.h"
+#include "ui/dialogs/ManualUpdateCheck.h"
 #include "ui/dialogs/UpdateDialog.h"
+#include "ui/dialogs/WhatsNewDialog.h"
 #include "ui/theme/Theme.h"
 
 #include <QDebug>
@@ -26,6 +29,7 @@
 
 namespace {
 
+constexpr int WelcomeDelayMs = 300; // when the window has been painted
 constexpr int UpdateCheckDelayMs = 1500;
 
 const QString LanguageKey = QStringLiteral("ui/language");
@@ -88,6 +92,11 @@ QuillonUpdate::Config Application::updateConfig()
              .version = QString::fromLatin1(BuildSettings::Version) };
 }
 
+QuillonFeedback::Config Application::feedbackConfig()
+{
+    return { .product = QStringLiteral("calendar"), .url = QString::fromLatin1(BuildSettings::FeedbackUrl) };
+}
+
 QLocale Application::localeFor(const QString &language, const QLocale &system)
 {
     // The system's own locale also knows what was set apart from it, such as LC_TIME.
@@ -143,7 +152,11 @@ int Application::run()
     StartupTrace::watch(m_mainWindow);
     showFirstWindow();
     connectCommands();
-    replayInitialCommand();
+    connectHelp();
+    if (hasInitialCommand())
+        replayInitialCommand();
+    else if (m_mainWindow->isVisible())
+        QTimer::singleShot(WelcomeDelayMs, m_mainWindow, &MainWindow::welcomeOnFirstLaunch);
     QTimer::singleShot(UpdateCheckDelayMs, this, &Application::checkForUpdate);
     return exec();
 }
@@ -192,18 +205,32 @@ void Application::connectCommands()
     connect(m_singleInstance, &SingleInstance::focusRequested, m_mainWindow, &MainWindow::focusWindow);
     connect(m_singleInstance, &SingleInstance::showTodayRequested, m_mainWindow, &MainWindow::showToday);
     connect(m_singleInstance, &SingleInstance::openIcsRequested, m_mainWindow, &MainWindow::importIcsFromCommand);
-    // Until the event form and quick add are there, the window is the next best answer.
-    connect(m_singleInstance, &SingleInstance::newEventRequested, m_mainWindow, &MainWindow::focusWindow);
-    connect(m_singleInstance, &SingleInstance::quickAddRequested, m_mainWindow, &MainWindow::focusWindow);
+    connect(m_singleInstance, &SingleInstance::newEventRequested, m_mainWindow, &MainWindow::openNewEventDialog);
+    connect(m_singleInstance, &SingleInstance::quickAddRequested, m_mainWindow, &MainWindow::quickAddFromCommand);
+}
+
+void Application::connectHelp()
+{
+    const QString appName = QStringLiteral("Quillon Calendar");
+    const QuillonUpdate::StatusHandler status = [window = m_mainWindow](const QString &text) {
+        window->showMessage(text);
+    };
+    connect(m_mainWindow, &MainWindow::whatsNewRequested, m_mainWindow,
+            [=, window = m_mainWindow] { QuillonUpdate::showWhatsNewManual(updateConfig(), appName, window, status); });
+    connect(m_mainWindow, &MainWindow::updateCheckRequested, m_mainWindow,
+            [=, window = m_mainWindow] { QuillonUpdate::runManualCheck(updateConfig(), appName, window, status); });
+    connect(m_mainWindow, &MainWindow::feedbackRequested, m_mainWindow,
+            [window = m_mainWindow] { QuillonFeedback::openFeedback(feedbackConfig(), window); });
+}
+
+bool Application::hasInitialCommand() const
+{
+    const QString cmd = QJsonDocument::fromJson(m_initialCommand).object().value(QLatin1StringView("cmd")).toString();
+    return m_singleInstance && !cmd.isEmpty() && cmd != QLatin1StringView("focus");
 }
 
 void Application::replayInitialCommand()
 {
-    if (m_initialCommand.isEmpty() || !m_singleInstance)
-        return;
-    const QString cmd = QJsonDocument::fromJson(m_initialCommand).object().value(QLatin1StringView("cmd")).toString();
-    if (cmd == QLatin1StringView("focus"))
-        return;
     QTimer::singleShot(0, m_singleInstance, [instance = m_singleInstance, command = m_initialCommand] {
         QMetaObject::invokeMethod(instance, "dispatchCommand", Qt::QueuedConnection, Q_ARG(QByteArray, command));
     });
@@ -227,6 +254,5 @@ void Application::onTerminationSignal()
 {
     if (m_mainWindow)
         m_mainWindow->quitApplication();
-    else
-        quit();
+    exit(0); // an open form would stop quit(), to ask a question that nobody is there to answer
 }

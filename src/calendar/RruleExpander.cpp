@@ -1,11 +1,10 @@
 #include "calendar/RruleExpander.h"
 
 #include "calendar/CivilDate.h"
+#include "calendar/InstanceName.h"
 #include "calendar/RecurrenceRule.h"
 #include "calendar/WallClock.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QVarLengthArray>
 
 #include <bit>
@@ -161,23 +160,11 @@ private:
 using Instants = QVarLengthArray<qint64, 16>;
 
 /// Sorted.
-Instants parseExceptionDates(const QString &json)
+Instants excludedStarts(const Event &master)
 {
     Instants instants;
-    if (json.isEmpty())
-        return instants;
-    const QJsonArray array = QJsonDocument::fromJson(json.toUtf8()).array();
-    for (const QJsonValue &value : array) {
-        const QString text = value.toString();
-        const bool isDate = !text.contains(u'T');
-        const bool isUtc = !isDate && text.endsWith(u'Z');
-        const std::optional<CompactTime> time = CompactTime::parse(QStringView(text).chopped(isUtc ? 1 : 0));
-        if (!time)
-            continue;
-        const bool isLocal = !isDate && !isUtc;
-        instants.append(isLocal ? WallClock(QTimeZone()).toUtcMs(time->day, time->msOfDay)
-                                : time->day * MsPerDay + time->msOfDay);
-    }
+    for (const InstanceName &name : InstanceName::listFrom(master.exceptionDates))
+        instants.append(name.startMs);
     std::sort(instants.begin(), instants.end());
     return instants;
 }
@@ -252,7 +239,7 @@ QList<RruleExpander::Occurrence> RruleExpander::occurrences(const Event &master,
     if (starts.isEmpty())
         return {};
 
-    const Instants exceptions = parseExceptionDates(master.exceptionDates);
+    const Instants exceptions = excludedStarts(master);
     QList<Occurrence> result;
     result.reserve(starts.size());
     for (const qint64 startMs : starts) {
@@ -261,6 +248,15 @@ QList<RruleExpander::Occurrence> RruleExpander::occurrences(const Event &master,
                 Occurrence{ clock.at(startMs), clock.at(startMs + durationMs), recurrenceIdAt(startMs) });
     }
     return result;
+}
+
+QList<qint64> RruleExpander::startsBefore(const Event &master, qint64 beforeMs)
+{
+    if (!master.startTime.isValid() || !isNear(master.startTime.toMSecsSinceEpoch()))
+        return {};
+    const Instants starts = startsInWindow(master, WallClock(master.startTime), 0, -FarthestMs,
+                                           std::clamp(beforeMs, -FarthestMs, FarthestMs));
+    return QList<qint64>(starts.begin(), starts.end());
 }
 
 void RruleExpander::appendInstance(QList<Event> &events, const Event &master, Occurrence &&occurrence)

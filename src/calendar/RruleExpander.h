@@ -31,6 +31,10 @@ struct Occurrence {
 /// The window is in milliseconds since the epoch.
 QList<Occurrence> occurrences(const Event &master, qint64 fromMs, qint64 toMs);
 
+/// The instants before \p beforeMs at which the rule of \p master has instances begin, in order and in
+/// milliseconds since the epoch; excluded ones among them.
+QList<qint64> startsBefore(const Event &master, qint64 beforeMs);
+
 /// Adds \p master as it is at \p occurrence to \p events, with a single copy.
 void appendInstance(QList<Event> &events, const Event &master, Occurrence &&occurrence);
 

@@ -106,6 +106,15 @@ bool EventRepository::hasPending()
     return row.run("Reading failed:") && row.next();
 }
 
+QList<Event> EventRepository::getSeries(const QString &uid, const QString &calendarId)
+{
+    // The plus keeps SQLite from walking through the whole calendar by its index.
+    return EventRows::list(m_database,
+                           QStringLiteral(" WHERE +calendar_id = ? AND (uid = ? OR master_event_uid = ?)"
+                                          " ORDER BY COALESCE(recurrence_id, '')"),
+                           { calendarId, uid, uid });
+}
+
 bool EventRepository::insert(const Event &event)
 {
     Event row = event;
@@ -152,6 +161,24 @@ bool EventRepository::update(const Event &event)
     m_ranges->onWritten(row);
     notifyChanged(row.calendarId);
     return true;
+}
+
+bool EventRepository::updateAll(const QList<Event> &events)
+{
+    Savepoint savepoint(m_database);
+    if (!savepoint.isActive())
+        return false;
+    // No row has a row id for its recurrence id, so all of them are out of each other's way.
+    for (const Event &event : events) {
+        if (!runStatement(m_database, "EventRepository::update failed:",
+                          QStringLiteral("UPDATE events SET recurrence_id = id WHERE id = ?"), { event.id }))
+            return false;
+    }
+    for (const Event &event : events) {
+        if (!update(event))
+            return false;
+    }
+    return savepoint.commit();
 }
 
 bool EventRepository::remove(const QString &id)

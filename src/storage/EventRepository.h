@@ -22,6 +22,9 @@ public:
     explicit EventRepository(Database *database, QObject *parent = nullptr);
     ~EventRepository() override;
 
+    /// To open a Savepoint around several writes.
+    [[nodiscard]] Database *database() const { return m_database; }
+
     QList<Event> getByCalendar(const QString &calendarId);
     QList<Event> getByCalendarIncludingDeleted(const QString &calendarId);
 
@@ -45,6 +48,9 @@ public:
     QList<Event> getPending(const QString &calendarId); ///< tombstones included: deletions to push
     bool hasPending();
 
+    /// The master of a series, or a single event, then its overrides; tombstones too.
+    QList<Event> getSeries(const QString &uid, const QString &calendarId);
+
     /// Fails if the calendar has this UID and recurrence id already.
     bool insert(const Event &event);
     /// insert() for an event that was made here. Where a tombstone holds this UID and recurrence id in the
@@ -54,6 +60,8 @@ public:
     /// Replaces the row and all its children; lastModified becomes now. When the start moved, the
     /// reminders that hang on it get new trigger times and are due again; else both stay.
     bool update(const Event &event);
+    /// update() for rows that may take each other's UID and recurrence id; all of them or none.
+    bool updateAll(const QList<Event> &events);
     bool remove(const QString &id); ///< tombstone, pending
     bool hardDelete(const QString &id);
     bool markSynced(const QString &id, const QString &href, const QString &etag);

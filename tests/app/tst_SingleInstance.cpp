@@ -1,4 +1,5 @@
 #include "app/SingleInstance.h"
+#include "support/TestData.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -11,13 +12,48 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <memory>
 
 #ifdef Q_OS_LINUX
 #include <unistd.h>
 #endif
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString Program = u"/usr/bin/quillon-calendar.ics"_s;
+
+/// On the way to the running instance. It is seen that the other side cut it off.
+class Sender {
+public:
+    explicit Sender(const QByteArray &bytes)
+        : m_cut(&m_socket, &QLocalSocket::disconnected)
+    {
+        m_socket.connectToServer(SingleInstance::socketName());
+        if (!m_socket.waitForConnected(2000))
+            qFatal("nobody listens");
+        send(bytes);
+    }
+    void send(const QByteArray &bytes) { m_socket.write(bytes); }
+    [[nodiscard]] bool isSent() const { return m_socket.bytesToWrite() == 0; }
+    [[nodiscard]] bool isCutOff() const { return m_cut.size() == 1; }
+
+private:
+    QLocalSocket m_socket;
+    QSignalSpy m_cut;
+};
+
+/// Sends as many lines as one connection may: that it is cut off then shows that they have been read.
+void sendAndWait(const QByteArray &lines)
+{
+    QCOMPARE(lines.count('\n'), SingleInstance::MaxLinesPerConnection);
+    const Sender sender(lines);
+    QTRY_VERIFY(sender.isCutOff());
+}
+
+}
 
 /// The channel between a running instance and later launches.
 class tst_SingleInstance : public QObject {
@@ -27,26 +63,25 @@ private slots:
     void initTestCase()
     {
         qputenv("CALENDAR_INSTANCE", "test-" + QByteArray::number(QCoreApplication::applicationPid()));
-        QVERIFY(m_dir.isValid());
         QVERIFY(QDir::setCurrent(m_dir.path()));
-        for (const char *name : { "life.ics", "LOUD.ICS" }) {
-            QFile file(QString::fromLatin1(name));
-            QVERIFY(file.open(QIODevice::WriteOnly));
-        }
+        for (const QString &name : { u"life.ics"_s, u"LOUD.ICS"_s })
+            QVERIFY(QFile(name).open(QIODevice::WriteOnly));
     }
 
     void init()
     {
         m_running = std::make_unique<SingleInstance>();
-        QVERIFY(!m_running->tryRouteToExisting({ program() }));
+        QVERIFY(!m_running->tryRouteToExisting({ Program }));
         m_heard.clear();
-        connect(m_running.get(), &SingleInstance::focusRequested, this, [this] { hear("focus"); });
-        connect(m_running.get(), &SingleInstance::showTodayRequested, this, [this] { hear("show-today"); });
-        connect(m_running.get(), &SingleInstance::newEventRequested, this, [this] { hear("new-event"); });
-        connect(m_running.get(), &SingleInstance::quickAddRequested, this,
-                [this](const QString &text) { hear("quick-add", text); });
-        connect(m_running.get(), &SingleInstance::openIcsRequested, this,
-                [this](const QString &path) { hear("open-ics", path); });
+        const auto hear = [this](const QString &what) { return [this, what] { m_heard.append(what); }; };
+        const auto hearText = [this](const QString &what) {
+            return [this, what](const QString &text) { m_heard.append(what + u':' + text); };
+        };
+        connect(m_running.get(), &SingleInstance::focusRequested, this, hear(u"focus"_s));
+        connect(m_running.get(), &SingleInstance::showTodayRequested, this, hear(u"show-today"_s));
+        connect(m_running.get(), &SingleInstance::newEventRequested, this, hear(u"new-event"_s));
+        connect(m_running.get(), &SingleInstance::quickAddRequested, this, hearText(u"quick-add"_s));
+        connect(m_running.get(), &SingleInstance::openIcsRequested, this, hearText(u"open-ics"_s));
     }
     void cleanup()
     {
@@ -56,64 +91,46 @@ private slots:
 
     void parsesArguments_data()
     {
-        QTest::addColumn<QStringList>("args");
-        QTest::addColumn<QByteArray>("command"); // with ' for " and DIR for the working directory
-
-        const auto row = [](const char *name, std::initializer_list<const char *> args, const char *command) {
-            QTest::newRow(name) << list(args) << QByteArray(command);
-        };
-        row("none", {}, "{'cmd':'focus'}");
-        row("background", { "--background" }, "{'cmd':'focus'}");
-        row("unknown", { "--frobnicate", "x" }, "{'cmd':'focus'}");
-        row("today", { "--show-today" }, "{'cmd':'show-today'}");
-        row("new event", { "--background", "--new-event" }, "{'cmd':'new-event'}");
-        row("quick add", { "--quick-add", "lunch Thursday 1pm" }, "{'cmd':'quick-add','text':'lunch Thursday 1pm'}");
-        row("quick add with =", { "--quick-add=lunch=fun" }, "{'cmd':'quick-add','text':'lunch=fun'}");
-        row("quick add with = and nothing", { "--quick-add=" }, "{'cmd':'quick-add','text':''}");
-        row("quick add at the end", { "--quick-add" }, "{'cmd':'focus'}");
-        row("quick add of a file name", { "--quick-add", "life.ics" }, "{'cmd':'quick-add','text':'life.ics'}");
-        row("quick add of a switch", { "--quick-add", "--new-event" }, "{'cmd':'quick-add','text':'--new-event'}");
-        row("file", { "--ics", "life.ics" }, "{'cmd':'open-ics','path':'DIR/life.ics'}");
-        row("file that is not there", { "--ics", "sub/../no.ics" }, "{'cmd':'open-ics','path':'DIR/no.ics'}");
-        row("absolute file", { "--ics", "/a/b.ics" }, "{'cmd':'open-ics','path':'/a/b.ics'}");
-        row("file switch at the end", { "--ics" }, "{'cmd':'focus'}"); // a desktop entry's %f without a file
-        row("file of another name", { "--ics", "/a/life.txt" }, "{'cmd':'open-ics','path':'/a/life.txt'}");
-        row("bare file", { "life.ics" }, "{'cmd':'open-ics','path':'DIR/life.ics'}");
-        row("bare file in capitals", { "LOUD.ICS" }, "{'cmd':'open-ics','path':'DIR/LOUD.ICS'}");
-        row("bare file that is not there", { "gone.ics" }, "{'cmd':'focus'}");
-        row("last one wins", { "--new-event", "--show-today" }, "{'cmd':'show-today'}");
-        row("keys of an earlier one stay", { "--quick-add", "tea", "--show-today" },
-            "{'cmd':'show-today','text':'tea'}");
-        row("wrong case", { "--Show-Today" }, "{'cmd':'focus'}");
-        row("line feed in the text", { "--quick-add", "a\nb" }, "{'cmd':'quick-add','text':'a\\nb'}");
+        columns<QString, QString>("args", "command"); // args separated by |; DIR for the working directory
+        row("none", "", R"({"cmd":"focus"})");
+        row("unknown", "--background|--frobnicate|x", R"({"cmd":"focus"})");
+        row("today", "--show-today", R"({"cmd":"show-today"})");
+        row("new event", "--background|--new-event", R"({"cmd":"new-event"})");
+        row("quick add", "--quick-add|lunch at 1", R"({"cmd":"quick-add","text":"lunch at 1"})");
+        row("quick add with =", "--quick-add=lunch=fun", R"({"cmd":"quick-add","text":"lunch=fun"})");
+        row("quick add at the end", "--quick-add", R"({"cmd":"focus"})");
+        row("quick add of a file name", "--quick-add|life.ics", R"({"cmd":"quick-add","text":"life.ics"})");
+        row("quick add of a switch", "--quick-add|--new-event", R"({"cmd":"quick-add","text":"--new-event"})");
+        row("line feed in the text", "--quick-add|a\nb", R"({"cmd":"quick-add","text":"a\nb"})");
+        row("file that is not there", "--ics|sub/../no.ics", R"({"cmd":"open-ics","path":"DIR/no.ics"})");
+        row("absolute file of another name", "--ics|/a/b.txt", R"({"cmd":"open-ics","path":"/a/b.txt"})");
+        row("a desktop entry's %f without a file", "--ics", R"({"cmd":"focus"})");
+        row("bare file", "life.ics", R"({"cmd":"open-ics","path":"DIR/life.ics"})");
+        row("bare file in capitals", "LOUD.ICS", R"({"cmd":"open-ics","path":"DIR/LOUD.ICS"})");
+        row("bare file that is not there", "gone.ics", R"({"cmd":"focus"})");
+        row("last one wins", "--new-event|--show-today", R"({"cmd":"show-today"})");
+        row("wrong case", "--Show-Today", R"({"cmd":"focus"})");
     }
     void parsesArguments()
     {
-        QFETCH(QStringList, args);
-        QFETCH(QByteArray, command);
-        const QByteArray line = SingleInstance::parseArgsToCommand(QStringList(program()) + args);
-        QCOMPARE(line.count('\n'), 1);
-        QVERIFY(line.endsWith('\n'));
-        command.replace('\'', '"').replace("DIR", QDir::currentPath().toUtf8());
-        QCOMPARE(QJsonDocument::fromJson(line).object(), QJsonDocument::fromJson(command).object());
+        QFETCH(QString, args);
+        QFETCH(QString, command);
+        const QByteArray line = SingleInstance::parseArgsToCommand(QStringList(Program) + args.split(u'|'));
+        QVERIFY(line.count('\n') == 1 && line.endsWith('\n'));
+        command.replace(u"DIR"_s, QDir::currentPath());
+        QCOMPARE(QJsonDocument::fromJson(line), QJsonDocument::fromJson(command.toUtf8()));
     }
 
     void laterLaunchIsRouted()
     {
         SingleInstance later;
-        QVERIFY(later.tryRouteToExisting({ program(), QStringLiteral("--quick-add"), QStringLiteral("Tee für 2 ☕") }));
-        QTRY_COMPARE(m_heard, QStringList(QStringLiteral("quick-add:Tee für 2 ☕")));
-        QVERIFY(later.tryRouteToExisting({ program(), QStringLiteral("--background") }));
-        QTRY_COMPARE(m_heard.size(), 2);
-        QCOMPARE(m_heard.constLast(), QStringLiteral("focus"));
-    }
+        QVERIFY(later.tryRouteToExisting({ Program, u"--quick-add"_s, u"Tee für 2 ☕"_s }));
+        QTRY_COMPARE(heard(), u"quick-add:Tee für 2 ☕"_s);
 
-    void otherInstancesAreApart()
-    {
         const QByteArray own = qgetenv("CALENDAR_INSTANCE");
-        qputenv("CALENDAR_INSTANCE", own + "-dev");
+        qputenv("CALENDAR_INSTANCE", own + "-dev"); // which is another program
         SingleInstance other;
-        const bool routed = other.tryRouteToExisting({ program() });
+        const bool routed = other.tryRouteToExisting({ Program });
         qputenv("CALENDAR_INSTANCE", own);
         QVERIFY(!routed);
     }
@@ -122,18 +139,15 @@ private slots:
     {
         m_running.reset();
         // A socket file that nobody listens to any more.
-        const QString path = QDir::tempPath() + QLatin1Char('/') + SingleInstance::socketName();
-        QFile stale(path);
-        QVERIFY(stale.open(QIODevice::WriteOnly));
-        stale.close();
+        QVERIFY(QFile(socketPath()).open(QIODevice::WriteOnly));
         SingleInstance next;
-        QVERIFY(!next.tryRouteToExisting({ program() }));
-        QVERIFY(SingleInstance().tryRouteToExisting({ program() }));
+        QVERIFY(!next.tryRouteToExisting({ Program }));
+        QVERIFY(SingleInstance().tryRouteToExisting({ Program }));
     }
 
     void socketAdmitsTheOwnerOnly()
     {
-        const QFileInfo socket(QDir::tempPath() + QLatin1Char('/') + SingleInstance::socketName());
+        const QFileInfo socket(socketPath());
         QVERIFY2(socket.exists(), "the socket is not where Qt puts it on Unix");
         QVERIFY(
             !(socket.permissions() & (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther)));
@@ -141,109 +155,82 @@ private slots:
 
     void readsLines_data()
     {
-        QTest::addColumn<QList<QByteArray>>("writes");
-        QTest::addColumn<QStringList>("heard");
-        using Writes = QList<QByteArray>;
-        QTest::newRow("two in one write")
-            << Writes{ "{\"cmd\":\"show-today\"}\n{\"cmd\":\"new-event\"}\n" } << list({ "show-today", "new-event" });
-        QTest::newRow("one in three writes")
-            << Writes{ "{\"cmd\":\"quick", "-add\",\"text\":\"x\"", "}\n" } << list({ "quick-add:x" });
-        QTest::newRow("unknown command") << Writes{ "{\"cmd\":\"dance\"}\n" } << list({ "focus" });
-        QTest::newRow("no command") << Writes{ "{}\n" } << list({ "focus" });
-        QTest::newRow("command is no text") << Writes{ "{\"cmd\":[1]}\n" } << list({ "focus" });
-        QTest::newRow("an array") << Writes{ "[\"show-today\"]\n" } << list({ "focus" });
-        QTest::newRow("empty line") << Writes{ "\n" } << list({ "focus" });
-        QTest::newRow("no JSON") << Writes{ "GET / HTTP/1.1\r\n" } << list({ "focus" });
-        QTest::newRow("bytes that are not UTF-8") << Writes{ "{\"cmd\":\"\xff\xfe\"}\n" } << list({ "focus" });
-        QTest::newRow("NUL bytes") << Writes{ QByteArray(100, '\0') + '\n' } << list({ "focus" });
-        QTest::newRow("deep nesting") << Writes{ QByteArray(100'000, '[') + '\n' } << list({ "focus" });
-        QTest::newRow("good after bad") << Writes{ "?\n{\"cmd\":\"show-today\"}\n" } << list({ "focus", "show-today" });
+        columns<QByteArray, QString>("bytes", "expected");
+        row("two in one write", "{\"cmd\":\"show-today\"}\n{\"cmd\":\"new-event\"}\n"_ba, "show-today new-event");
+        row("unknown command", "{\"cmd\":\"dance\"}\n"_ba, "focus");
+        row("command is no text", "{\"cmd\":[1]}\n"_ba, "focus");
+        row("an array", "[\"show-today\"]\n"_ba, "focus");
+        row("empty line", "\n"_ba, "focus");
+        row("no JSON", "GET / HTTP/1.1\r\n"_ba, "focus");
+        row("bytes that are not UTF-8", "{\"cmd\":\"\xff\xfe\"}\n"_ba, "focus");
+        row("NUL bytes", QByteArray(QByteArray(100, '\0') + '\n'), "focus");
+        row("deep nesting", QByteArray(QByteArray(100'000, '[') + '\n'), "focus");
+        row("good after bad", "?\n{\"cmd\":\"show-today\"}\n"_ba, "focus show-today");
     }
     void readsLines()
     {
-        QFETCH(QList<QByteArray>, writes);
-        QFETCH(QStringList, heard);
-        QLocalSocket socket;
-        socket.connectToServer(SingleInstance::socketName());
-        QVERIFY(socket.waitForConnected(2000));
-        for (const QByteArray &bytes : writes) {
-            socket.write(bytes);
-            QTRY_COMPARE(socket.bytesToWrite(), 0);
-            QCoreApplication::processEvents();
-        }
-        QTRY_COMPARE(m_heard.size(), heard.size());
-        QCOMPARE(m_heard, heard);
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, expected);
+        // In two pieces, which arrive one after the other.
+        Sender sender(bytes.first(bytes.size() / 2));
+        QTRY_VERIFY(sender.isSent());
+        QCoreApplication::processEvents();
+        sender.send(bytes.sliced(bytes.size() / 2));
+        QTRY_COMPARE(heard(), expected);
     }
 
     void endlessLineIsCutOff()
     {
-        QLocalSocket socket;
-        QSignalSpy cut(&socket, &QLocalSocket::disconnected);
-        socket.connectToServer(SingleInstance::socketName());
-        QVERIFY(socket.waitForConnected(2000));
-        socket.write(QByteArray(3 * SingleInstance::MaxLineBytes, 'x'));
-        QTRY_COMPARE_WITH_TIMEOUT(cut.size(), 1, 10'000);
-        QTRY_COMPARE(m_heard, QStringList(QStringLiteral("focus")));
-        QVERIFY(SingleInstance().tryRouteToExisting({ program(), QStringLiteral("--show-today") }));
-        QTRY_COMPARE(m_heard.size(), 2);
+        const Sender sender(QByteArray(3 * SingleInstance::MaxLineBytes, 'x'));
+        QTRY_VERIFY_WITH_TIMEOUT(sender.isCutOff(), 10'000);
+        QTRY_COMPARE(heard(), u"focus"_s);
+        QVERIFY(SingleInstance().tryRouteToExisting({ Program, u"--show-today"_s }));
+        QTRY_COMPARE(heard(), u"focus show-today"_s);
     }
 
     void floodIsCutOff()
     {
-        QLocalSocket socket;
-        QSignalSpy cut(&socket, &QLocalSocket::disconnected);
-        socket.connectToServer(SingleInstance::socketName());
-        QVERIFY(socket.waitForConnected(2000));
-        socket.write(QByteArray("{\"cmd\":\"new-event\"}\n").repeated(1000));
-        QTRY_COMPARE(cut.size(), 1);
+        const Sender sender(QByteArray("{\"cmd\":\"new-event\"}\n").repeated(1000));
+        QTRY_VERIFY(sender.isCutOff());
         QCOMPARE(m_heard.size(), 64);
     }
 
     void waitsForAModalDialog()
     {
         QDialog dialog;
-        dialog.setModal(true);
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        showModal(dialog);
         SingleInstance later;
-        QVERIFY(later.tryRouteToExisting({ program(), QStringLiteral("--show-today") }));
-        QVERIFY(later.tryRouteToExisting({ program(), QStringLiteral("--new-event") }));
-
+        QVERIFY(later.tryRouteToExisting({ Program, u"--show-today"_s }));
+        QVERIFY(later.tryRouteToExisting({ Program, u"--new-event"_s }));
         // When this later connection has been read and cut off, the lines of the earlier ones have arrived.
-        QLocalSocket socket;
-        QSignalSpy cut(&socket, &QLocalSocket::disconnected);
-        socket.connectToServer(SingleInstance::socketName());
-        socket.write(QByteArray(2 * SingleInstance::MaxLineBytes, 'x'));
-        QTRY_COMPARE_WITH_TIMEOUT(cut.size(), 1, 10'000);
-        QCOMPARE(m_heard, QStringList());
+        const Sender last(QByteArray(2 * SingleInstance::MaxLineBytes, 'x'));
+        QTRY_VERIFY_WITH_TIMEOUT(last.isCutOff(), 10'000);
+        QCOMPARE(heard(), u""_s);
         QDialog second;
         second.setModal(true);
         connect(m_running.get(), &SingleInstance::showTodayRequested, &second, &QDialog::show);
         dialog.close();
-        QTRY_COMPARE(m_heard, QStringList(QStringLiteral("show-today"))); // which opened the next dialog
+        QTRY_COMPARE(heard(), u"show-today"_s); // which opened the next dialog
         second.close();
-        QTRY_COMPARE(m_heard, list({ "show-today", "new-event", "focus" }));
+        QTRY_COMPARE(heard(), u"show-today new-event focus"_s);
     }
 
     void waitingFilesComeInOrder()
     {
         QDialog dialog;
-        dialog.setModal(true);
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        showModal(dialog);
+        QByteArrayList lines;
         QStringList expected;
-        for (const int first : { 0, 64 }) { // as a selection of 126 files in a file manager
-            QByteArray lines;
-            for (int i = first; i < qMin(first + 64, 126); ++i) {
-                lines += "{\"cmd\":\"open-ics\",\"path\":\"/" + QByteArray::number(i) + ".ics\"}\n";
-                expected.append(QStringLiteral("open-ics:/%1.ics").arg(i));
-            }
-            if (first == 64)
-                lines += "{\"cmd\":\"show-today\"}\n{\"cmd\":\"open-ics\",\"path\":\"/last.ics\"}\n";
-            sendAndWait(lines);
+        for (int i = 0; i < 126; ++i) { // as a selection in a file manager
+            lines.append("{\"cmd\":\"open-ics\",\"path\":\"/" + QByteArray::number(i) + "\"}\n");
+            expected.append(u"open-ics:/%1"_s.arg(i));
         }
-        expected << QStringLiteral("show-today") << QStringLiteral("open-ics:/last.ics");
-        QCOMPARE(m_heard, QStringList());
+        lines << "{\"cmd\":\"show-today\"}\n"
+              << "{\"cmd\":\"open-ics\",\"path\":\"/last\"}\n";
+        sendAndWait(lines.first(64).join());
+        sendAndWait(lines.sliced(64).join());
+        expected << u"show-today"_s << u"open-ics:/last"_s;
+        QCOMPARE(heard(), u""_s);
         dialog.close();
         QTRY_COMPARE(m_heard.size(), expected.size());
         QCOMPARE(m_heard, expected);
@@ -252,15 +239,13 @@ private slots:
     void tooManyWaitingAreDroppedAndLogged()
     {
         QDialog dialog;
-        dialog.setModal(true);
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        showModal(dialog);
         sendAndWait(QByteArray("{\"cmd\":\"new-event\"}\n").repeated(64));
         for (int i = 0; i < 64; ++i)
-            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("too many commands.*show-today")));
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"too many commands.*show-today"_s));
         sendAndWait(QByteArray("{\"cmd\":\"show-today\"}\n").repeated(64));
         dialog.close();
-        QTRY_COMPARE(m_heard, QStringList(64, QStringLiteral("new-event")));
+        QTRY_COMPARE(m_heard, QStringList(64, u"new-event"_s));
     }
 
     void anotherUsersServerIsNotTold()
@@ -276,9 +261,9 @@ private slots:
         QCOMPARE(seteuid(0), 0);
         if (!listens)
             QSKIP("the folder of sockets is not open to others here");
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("another user listens")));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"another user listens"_s));
         SingleInstance next;
-        QVERIFY(!next.tryRouteToExisting({ program(), QStringLiteral("--quick-add"), QStringLiteral("secret") }));
+        QVERIFY(!next.tryRouteToExisting({ Program, u"--quick-add"_s, u"secret"_s }));
         QVERIFY(foreign.waitForNewConnection(2000));
         QLocalSocket *heard = foreign.nextPendingConnection();
         QTRY_COMPARE(heard->state(), QLocalSocket::UnconnectedState);
@@ -290,20 +275,18 @@ private slots:
 
     void carriesTheActivationToken_data()
     {
-        QTest::addColumn<QString>("platform");
-        QTest::addColumn<QByteArray>("seen");
-        QTest::newRow("Wayland") << "wayland" << QByteArray("token-1");
-        QTest::newRow("X11") << "xcb" << QByteArray();
+        columns<QString, QByteArray>("platform", "seen");
+        row("Wayland", "wayland", "token-1"_ba);
+        row("X11", "xcb", QByteArray());
     }
     void carriesTheActivationToken()
     {
         QFETCH(QString, platform);
         m_running.reset();
         SingleInstance running(nullptr, platform);
-        QVERIFY(!running.tryRouteToExisting({ program() }));
+        QVERIFY(!running.tryRouteToExisting({ Program }));
         qputenv("XDG_ACTIVATION_TOKEN", "token-1");
-        SingleInstance later;
-        QVERIFY(later.tryRouteToExisting({ program() }));
+        QVERIFY(SingleInstance().tryRouteToExisting({ Program }));
         qunsetenv("XDG_ACTIVATION_TOKEN");
         QByteArray seen("nothing");
         connect(&running, &SingleInstance::focusRequested, this, [&seen] { seen = qgetenv("XDG_ACTIVATION_TOKEN"); });
@@ -313,31 +296,19 @@ private slots:
     }
 
 private:
-    static QStringList list(std::initializer_list<const char *> words)
+    [[nodiscard]] QString heard() const
     {
-        QStringList result;
-        for (const char *word : words)
-            result.append(QString::fromUtf8(word));
-        return result;
+        return m_heard.join(u' ');
     }
-    /// Sends as many lines as one connection may: that it is cut off then shows that they have been read.
-    static void sendAndWait(const QByteArray &lines)
+    static QString socketPath()
     {
-        QCOMPARE(lines.count('\n'), SingleInstance::MaxLinesPerConnection);
-        QLocalSocket socket;
-        QSignalSpy cut(&socket, &QLocalSocket::disconnected);
-        socket.connectToServer(SingleInstance::socketName());
-        QVERIFY(socket.waitForConnected(2000));
-        socket.write(lines);
-        QTRY_COMPARE(cut.size(), 1);
+        return QDir::tempPath() + u'/' + SingleInstance::socketName();
     }
-    static QString program()
+    static void showModal(QDialog &dialog)
     {
-        return QStringLiteral("/usr/bin/quillon-calendar.ics");
-    }
-    void hear(const char *what, const QString &detail = {})
-    {
-        m_heard.append(QLatin1StringView(what) + (detail.isNull() ? QString() : QLatin1Char(':') + detail));
+        dialog.setModal(true);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     }
 
     QTemporaryDir m_dir;

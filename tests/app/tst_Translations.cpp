@@ -1,37 +1,37 @@
+#include "support/TestData.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 struct Message {
-    QString context;
+    QString key; ///< context, source and comment
     QString source;
-    QString comment;
     QString type; ///< "unfinished" and the like; empty for a finished entry
     bool isPlural = false;
     QStringList translations; ///< one for each plural form
-
-    [[nodiscard]] QString key() const { return context + u'|' + source + u'|' + comment; }
 };
 
 Message readMessage(QXmlStreamReader &xml, const QString &context)
 {
     Message message;
-    message.context = context;
-    message.isPlural = xml.attributes().value(QLatin1StringView("numerus")) == u"yes";
+    QString comment;
+    message.isPlural = xml.attributes().value("numerus"_L1) == u"yes";
     while (xml.readNextStartElement()) {
         if (xml.name() == u"source") {
             message.source = xml.readElementText();
         } else if (xml.name() == u"comment") {
-            message.comment = xml.readElementText();
+            comment = xml.readElementText();
         } else if (xml.name() == u"translation") {
-            message.type = xml.attributes().value(QLatin1StringView("type")).toString();
+            message.type = xml.attributes().value("type"_L1).toString();
             if (!message.isPlural)
-                message.translations = {xml.readElementText()};
+                message.translations = { xml.readElementText() };
             else
                 while (xml.readNextStartElement())
                     message.translations += xml.readElementText();
@@ -39,6 +39,7 @@ Message readMessage(QXmlStreamReader &xml, const QString &context)
             xml.skipCurrentElement();
         }
     }
+    message.key = context + u'|' + message.source + u'|' + comment;
     return message;
 }
 
@@ -62,10 +63,10 @@ QList<Message> readCatalogue(const QString &path)
 
 QStringList placeholders(const QString &text)
 {
-    static const QRegularExpression pattern(QStringLiteral("%(L?\\d|L?n)"));
+    static const QRegularExpression pattern(u"%(L?\\d|L?n)"_s);
     QStringList found;
-    for (auto match = pattern.globalMatch(text); match.hasNext();)
-        found += match.next().captured();
+    for (const QRegularExpressionMatch &match : pattern.globalMatch(text))
+        found += match.captured();
     found.sort();
     found.removeDuplicates();
     return found;
@@ -73,7 +74,7 @@ QStringList placeholders(const QString &text)
 
 bool hasMnemonic(QString text)
 {
-    return text.remove(QStringLiteral("&&")).contains(u'&');
+    return text.remove(u"&&"_s).contains(u'&');
 }
 
 QString cataloguePath(const QString &language)
@@ -88,75 +89,65 @@ class TestTranslations : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void wholeAndSound_data();
-    void wholeAndSound();
-    void englishIsEmpty();
+    void initTestCase()
+    {
+        const QString fresh = m_dir.filePath(u"fresh.ts"_s);
+        QProcess lupdate;
+        lupdate.start(QStringLiteral(QUILLON_LUPDATE),
+                      { u"-silent"_s, QStringLiteral(QUILLON_SOURCE_DIR "/src"), u"-ts"_s, fresh });
+        QVERIFY(lupdate.waitForFinished(60'000));
+        m_source = readCatalogue(fresh);
+        QVERIFY(m_source.size() > 100);
+    }
+
+    void wholeAndSound_data()
+    {
+        columns<QString, int>("language", "pluralForms");
+        row("German", "de", 2);
+        row("Spanish", "es", 2);
+        row("French", "fr", 2);
+        row("Japanese", "ja", 1);
+    }
+    void wholeAndSound()
+    {
+        QFETCH(QString, language);
+        QFETCH(int, pluralForms);
+        QHash<QString, Message> translated;
+        for (const Message &message : readCatalogue(cataloguePath(language)))
+            translated.insert(message.key, message);
+
+        QStringList problems;
+        for (const Message &wanted : std::as_const(m_source)) {
+            const Message found = translated.value(wanted.key);
+            const auto complain = [&](QLatin1StringView what) { problems += what + u": "_s + wanted.key; };
+            if (found.translations.isEmpty())
+                complain("missing"_L1);
+            else if (!found.type.isEmpty())
+                complain("not finished"_L1);
+            else if (wanted.isPlural && found.translations.size() != pluralForms)
+                complain("wrong number of plural forms"_L1);
+            for (const QString &text : found.translations) {
+                if (text.trimmed().isEmpty())
+                    complain("empty"_L1);
+                else if (placeholders(text) != placeholders(wanted.source))
+                    complain("other placeholders"_L1);
+                else if (hasMnemonic(text) != hasMnemonic(wanted.source))
+                    complain("mnemonic lost or added"_L1);
+            }
+        }
+        QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+    }
+
+    void englishIsEmpty()
+    {
+        QVERIFY(QFile::exists(cataloguePath(u"en"_s)));
+        QVERIFY(readCatalogue(cataloguePath(u"en"_s)).isEmpty());
+    }
 
 private:
     QTemporaryDir m_dir;
     QList<Message> m_source; // what the code asks for now
 };
-
-void TestTranslations::initTestCase()
-{
-    const QString fresh = m_dir.filePath(QStringLiteral("fresh.ts"));
-    QProcess lupdate;
-    lupdate.start(QStringLiteral(QUILLON_LUPDATE),
-                  {QStringLiteral("-silent"), QStringLiteral(QUILLON_SOURCE_DIR "/src"), QStringLiteral("-ts"), fresh});
-    QVERIFY(lupdate.waitForFinished(60'000));
-    m_source = readCatalogue(fresh);
-    QVERIFY(m_source.size() > 100);
-}
-
-void TestTranslations::wholeAndSound_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<int>("pluralForms");
-    QTest::newRow("German") << QStringLiteral("de") << 2;
-    QTest::newRow("Spanish") << QStringLiteral("es") << 2;
-    QTest::newRow("French") << QStringLiteral("fr") << 2;
-    QTest::newRow("Japanese") << QStringLiteral("ja") << 1;
-}
-
-void TestTranslations::wholeAndSound()
-{
-    QFETCH(QString, language);
-    QFETCH(int, pluralForms);
-
-    QHash<QString, Message> translated;
-    for (const Message &message : readCatalogue(cataloguePath(language)))
-        translated.insert(message.key(), message);
-
-    QStringList problems;
-    for (const Message &wanted : std::as_const(m_source)) {
-        const Message found = translated.value(wanted.key());
-        const auto complain = [&](const char *what) { problems += QStringLiteral("%1: %2").arg(QLatin1StringView(what), wanted.key()); };
-        if (found.translations.isEmpty()) {
-            complain("missing");
-            continue;
-        }
-        if (!found.type.isEmpty())
-            complain("not finished");
-        if (wanted.isPlural && found.translations.size() != pluralForms)
-            complain("wrong number of plural forms");
-        for (const QString &text : found.translations) {
-            if (text.trimmed().isEmpty())
-                complain("empty");
-            else if (placeholders(text) != placeholders(wanted.source))
-                complain("other placeholders");
-            else if (hasMnemonic(text) != hasMnemonic(wanted.source))
-                complain("mnemonic lost or added");
-        }
-    }
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
-}
-
-void TestTranslations::englishIsEmpty()
-{
-    QVERIFY(QFile::exists(cataloguePath(QStringLiteral("en"))));
-    QVERIFY(readCatalogue(cataloguePath(QStringLiteral("en"))).isEmpty());
-}
 
 QTEST_GUILESS_MAIN(TestTranslations)
 #include "tst_Translations.moc"

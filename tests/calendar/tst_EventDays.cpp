@@ -1,9 +1,11 @@
 #include "calendar/EventDays.h"
+#include "support/TestData.h"
 
-#include <QTest>
 #include <QTimeZone>
 
 namespace {
+
+const QDate Day(2026, 5, 4);
 
 Event timed(const QDateTime &start, const QDateTime &end = {})
 {
@@ -14,17 +16,19 @@ Event timed(const QDateTime &start, const QDateTime &end = {})
     return event;
 }
 
-Event allDay(QDate first, QDate end = {})
+/// From Day on.
+Event allDay(int days, bool hasEnd = true)
 {
-    Event event = timed(QDateTime(first, QTime(0, 0), Qt::UTC),
-                        end.isValid() ? QDateTime(end, QTime(0, 0), Qt::UTC) : QDateTime());
+    const QDateTime start(Day, QTime(0, 0), Qt::UTC);
+    Event event = timed(start, hasEnd ? start.addDays(days) : QDateTime());
     event.isAllDay = true;
     return event;
 }
 
-QDateTime local(QDate date, int hour, int minute = 0)
+/// On the machine's clock, \p days after Day.
+QDateTime local(int days, int hour, int minute = 0)
 {
-    return QDateTime(date, QTime(hour, minute));
+    return QDateTime(Day.addDays(days), QTime(hour, minute));
 }
 
 /// The same instant as another place writes it.
@@ -40,60 +44,46 @@ class tst_EventDays : public QObject {
     Q_OBJECT
 
 private slots:
-    void days_data();
-    void days();
-    void invalidStart();
+    void days_data()
+    {
+        columns<Event, int>("event", "dayCount");
+        row("all day", allDay(1), 1);
+        row("all day, three days", allDay(3), 3);
+        row("all day, no end", allDay(0, false), 1);
+        row("all day, ends where it begins", allDay(0), 1);
+        row("all day, ends before it begins", allDay(-3), 1);
+        row("first minute", timed(local(0, 0), local(0, 0, 1)), 1);
+        row("until midnight", timed(local(0, 23), local(1, 0)), 1);
+        row("past midnight", timed(local(0, 23), local(1, 0, 1)), 2);
+        row("no end, late", timed(local(0, 23, 59)), 1);
+        row("no length at midnight", timed(local(0, 0), local(0, 0)), 1);
+        row("ends before it begins", timed(local(0, 9), local(-2, 9)), 1);
+        row("written in another zone", timed(elsewhere(local(0, 22)), elsewhere(local(1, 3))), 2);
+        row("written in UTC", timed(local(0, 0, 30).toUTC(), local(0, 1).toUTC()), 1);
+    }
+    void days()
+    {
+        QFETCH(Event, event);
+        QFETCH(int, dayCount);
+        const QDate last = Day.addDays(dayCount - 1);
+        QCOMPARE(EventDays::firstDay(event), Day);
+        QCOMPARE(EventDays::lastDay(event), last);
+        // The event shows on each of its days, and on none other.
+        for (QDate day = Day.addDays(-3); day <= last.addDays(3); day = day.addDays(1))
+            QCOMPARE(EventDays::overlaps(event, day, 1), day >= Day && day <= last);
+        QVERIFY(EventDays::overlaps(event, Day.addDays(-10), 100));
+        QVERIFY(EventDays::overlaps(event, Day.addDays(-6), 7));
+        QVERIFY(!EventDays::overlaps(event, Day.addDays(-7), 7));
+        QVERIFY(!EventDays::overlaps(event, Day, 0));
+    }
+
+    void invalidStart()
+    {
+        QVERIFY(!EventDays::firstDay(timed({})).isValid());
+        QVERIFY(!EventDays::overlaps(timed({}, local(0, 9)), Day, 7));
+        QVERIFY(!EventDays::overlaps(allDay(1), QDate(), 7));
+    }
 };
-
-void tst_EventDays::days_data()
-{
-    QTest::addColumn<Event>("event");
-    QTest::addColumn<QDate>("first");
-    QTest::addColumn<QDate>("last");
-    const QDate day(2026, 5, 4);
-    const QDate next = day.addDays(1);
-    QTest::newRow("all day") << allDay(day, next) << day << day;
-    QTest::newRow("all day, three days") << allDay(day, day.addDays(3)) << day << day.addDays(2);
-    QTest::newRow("all day, no end") << allDay(day) << day << day;
-    QTest::newRow("all day, ends where it begins") << allDay(day, day) << day << day;
-    QTest::newRow("all day, ends before it begins") << allDay(day, day.addDays(-3)) << day << day;
-    QTest::newRow("morning") << timed(local(day, 9), local(day, 10)) << day << day;
-    QTest::newRow("first minute") << timed(local(day, 0), local(day, 0, 1)) << day << day;
-    QTest::newRow("until midnight") << timed(local(day, 23), local(next, 0)) << day << day;
-    QTest::newRow("past midnight") << timed(local(day, 23), local(next, 0, 1)) << day << next;
-    QTest::newRow("whole local day, but not an all-day event") << timed(local(day, 0), local(next, 0)) << day << day;
-    QTest::newRow("no end, late") << timed(local(day, 23, 59)) << day << day;
-    QTest::newRow("no length at midnight") << timed(local(day, 0), local(day, 0)) << day << day;
-    QTest::newRow("ends before it begins") << timed(local(day, 9), local(day.addDays(-2), 9)) << day << day;
-    QTest::newRow("written in another zone")
-        << timed(elsewhere(local(day, 22)), elsewhere(local(next, 3))) << day << next;
-    QTest::newRow("written in UTC") << timed(local(day, 0, 30).toUTC(), local(day, 1).toUTC()) << day << day;
-}
-
-void tst_EventDays::days()
-{
-    QFETCH(Event, event);
-    QFETCH(QDate, first);
-    QFETCH(QDate, last);
-    QCOMPARE(EventDays::firstDay(event), first);
-    QCOMPARE(EventDays::lastDay(event), last);
-    // The event shows on each of its days, and on none other.
-    for (QDate day = first.addDays(-3); day <= last.addDays(3); day = day.addDays(1))
-        QCOMPARE(EventDays::overlaps(event, day, 1), day >= first && day <= last);
-    QVERIFY(EventDays::overlaps(event, first.addDays(-10), 100));
-    QVERIFY(EventDays::overlaps(event, first.addDays(-6), 7));
-    QVERIFY(!EventDays::overlaps(event, first.addDays(-7), 7));
-    QVERIFY(!EventDays::overlaps(event, last.addDays(1), 7));
-    QVERIFY(!EventDays::overlaps(event, first, 0));
-}
-
-void tst_EventDays::invalidStart()
-{
-    QVERIFY(!EventDays::firstDay(timed({})).isValid());
-    QVERIFY(!EventDays::overlaps(timed({}), QDate(2026, 5, 4), 7));
-    QVERIFY(!EventDays::overlaps(timed({}, local(QDate(2026, 5, 4), 9)), QDate(2026, 5, 4), 7));
-    QVERIFY(!EventDays::overlaps(allDay(QDate(2026, 5, 4)), QDate(), 7));
-}
 
 QTEST_GUILESS_MAIN(tst_EventDays)
 #include "tst_EventDays.moc"

@@ -1,6 +1,7 @@
 #include "calendar/EventExpansion.h"
+#include "support/TestData.h"
 
-#include <QTest>
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -9,38 +10,42 @@ QDateTime march(int day, int hour = 9)
     return QDateTime(QDate(2026, 3, 1).addDays(day - 1), QTime(hour, 0), Qt::UTC);
 }
 
-Event row(const QString &uid, const QDateTime &start, const QString &rule = {})
+Event single(const QString &uid, const QDateTime &start)
 {
     Event event;
-    event.id = uid;
-    event.uid = uid;
-    event.calendarId = QStringLiteral("home");
+    event.id = event.uid = uid;
+    event.calendarId = u"home"_s;
     event.startTime = start;
     event.endTime = start.addSecs(3'600);
-    event.recurrenceRule = rule;
+    return event;
+}
+
+/// Three days from \p day on.
+Event series(const QString &uid, int day)
+{
+    Event event = single(uid, march(day));
+    event.recurrenceRule = u"FREQ=DAILY;COUNT=3"_s;
     return event;
 }
 
 /// The instance of \p uid that began on \p day, moved to \p start.
 Event overrideRow(const QString &uid, int day, const QDateTime &start)
 {
-    Event event = row(uid, start);
-    event.id = QStringLiteral("%1-%2").arg(uid).arg(day);
+    Event event = single(uid, start);
+    event.id = u"%1-%2"_s.arg(uid).arg(day);
     event.masterEventUid = uid;
     event.recurrenceId = march(day).toString(u"yyyyMMdd'T'HHmmss'Z'");
     return event;
 }
 
-/// "id@day" of each.
-QStringList summary(const QList<Event> &events)
+/// "id@day" of each instance from midnight of \p from to that of \p to.
+QString instances(const QList<Event> &events, int from, int to)
 {
     QStringList texts;
-    for (const Event &event : events)
-        texts.append(QStringLiteral("%1@%2").arg(event.id).arg(event.startTime.date().day()));
-    return texts;
+    for (const Event &event : EventExpansion::expand(events, march(from, 0), march(to, 0)))
+        texts.append(u"%1@%2"_s.arg(event.id).arg(event.startTime.date().day()));
+    return texts.join(u' ');
 }
-
-const QString Daily = QStringLiteral("FREQ=DAILY;COUNT=3"); // clazy:exclude=non-pod-global-static
 
 }
 
@@ -48,77 +53,59 @@ class tst_EventExpansion : public QObject {
     Q_OBJECT
 
 private slots:
-    void putsSinglesFirst();
-    void overrides_data();
-    void overrides();
-    void laterDuplicateWins();
-    void manyOverrides();
+    void putsSinglesFirst()
+    {
+        // Singles are taken as they are: the caller's query was the test.
+        const QList<Event> events{ series(u"b"_s, 3), single(u"x"_s, march(20)), series(u"a"_s, 2),
+                                   single(u"y"_s, march(1)) };
+        QCOMPARE(instances(events, 3, 5), u"x@20 y@1 b@3 b@4 a@3 a@4"_s);
+    }
+
+    void overrides_data()
+    {
+        columns<Event, QString>("override", "expected"); // of a series on 2, 3 and 4 March
+        row("takes its occurrence's place", overrideRow(u"a"_s, 3, march(3, 15)), "a@2 a-3@3 a@4");
+        row("moved out of the window, still given", overrideRow(u"a"_s, 3, march(27)), "a@2 a-3@27 a@4");
+        row("moved in from outside", overrideRow(u"a"_s, 9, march(4, 20)), "a@2 a@3 a@4 a-9@4");
+        Event cancelled = overrideRow(u"a"_s, 3, march(3));
+        cancelled.status = EventStatus::Cancelled;
+        row("cancelled, matched: the caller shows it so", cancelled, "a@2 a-3@3 a@4");
+        cancelled = overrideRow(u"a"_s, 9, march(4));
+        cancelled.status = EventStatus::Cancelled;
+        row("cancelled, not matched: gone", cancelled, "a@2 a@3 a@4");
+        Event elsewhere = overrideRow(u"a"_s, 3, march(3, 15));
+        elsewhere.calendarId = u"work"_s;
+        row("of another calendar: replaces nothing", elsewhere, "a@2 a@3 a@4 a-3@3");
+        row("of an unknown series", overrideRow(u"z"_s, 3, march(3)), "a@2 a@3 a@4 z-3@3");
+    }
+    void overrides()
+    {
+        QFETCH(Event, override);
+        QTEST(instances({ series(u"a"_s, 2), override }, 2, 5), "expected");
+        QTEST(instances({ override, series(u"a"_s, 2) }, 2, 5), "expected");
+    }
+
+    void laterDuplicateWins()
+    {
+        const Event first = overrideRow(u"a"_s, 3, march(3, 10));
+        Event second = overrideRow(u"a"_s, 3, march(3, 11));
+        second.id = u"second"_s;
+        QCOMPARE(instances({ first, series(u"a"_s, 2), second }, 2, 4), u"a@2 second@3"_s);
+        QCOMPARE(instances({ first, second }, 2, 4), u"second@3"_s);
+    }
+
+    void manyOverrides()
+    {
+        QList<Event> events{ series(u"a"_s, 1) };
+        events.first().recurrenceRule = u"FREQ=DAILY"_s;
+        for (int day = 1; day <= 20'000; ++day)
+            events.append(overrideRow(u"a"_s, day, march(day)));
+        // Every second one belongs to no occurrence, as its minute is another.
+        for (qsizetype i = 1; i < events.size(); i += 2)
+            events[i].recurrenceId = events.at(i).startTime.addSecs(60).toString(u"yyyyMMdd'T'HHmmss'Z'");
+        QCOMPARE(EventExpansion::expand(events, march(1), march(9'001)).size(), 9'000 + 20'000 - 4'500);
+    }
 };
-
-void tst_EventExpansion::putsSinglesFirst()
-{
-    const QList<Event> events{ row(QStringLiteral("b"), march(3), Daily), row(QStringLiteral("x"), march(20)),
-                               row(QStringLiteral("a"), march(2), Daily), row(QStringLiteral("y"), march(1)) };
-    // Singles are taken as they are: the caller's query was the test.
-    QCOMPARE(summary(EventExpansion::expand(events, march(3, 0), march(5, 0))),
-             QStringList({ QStringLiteral("x@20"), QStringLiteral("y@1"), QStringLiteral("b@3"), QStringLiteral("b@4"),
-                           QStringLiteral("a@3"), QStringLiteral("a@4") }));
-}
-
-void tst_EventExpansion::overrides_data()
-{
-    QTest::addColumn<Event>("override");
-    QTest::addColumn<QString>("expected"); // the window is 2 to 4 March
-    const QString uid = QStringLiteral("a");
-    QTest::newRow("takes its occurrence's place")
-        << overrideRow(uid, 3, march(3, 15)) << QStringLiteral("a@2 a-3@3 a@4");
-    QTest::newRow("moved out of the window, still given")
-        << overrideRow(uid, 3, march(27)) << QStringLiteral("a@2 a-3@27 a@4");
-    QTest::newRow("moved in from outside") << overrideRow(uid, 9, march(4, 20)) << QStringLiteral("a@2 a@3 a@4 a-9@4");
-    Event cancelled = overrideRow(uid, 3, march(3));
-    cancelled.status = EventStatus::Cancelled;
-    QTest::newRow("cancelled, matched: the caller shows it so") << cancelled << QStringLiteral("a@2 a-3@3 a@4");
-    cancelled = overrideRow(uid, 9, march(4));
-    cancelled.status = EventStatus::Cancelled;
-    QTest::newRow("cancelled, not matched: gone") << cancelled << QStringLiteral("a@2 a@3 a@4");
-    Event elsewhere = overrideRow(uid, 3, march(3, 15));
-    elsewhere.calendarId = QStringLiteral("work");
-    QTest::newRow("of another calendar: replaces nothing") << elsewhere << QStringLiteral("a@2 a@3 a@4 a-3@3");
-    QTest::newRow("of an unknown series")
-        << overrideRow(QStringLiteral("z"), 3, march(3)) << QStringLiteral("a@2 a@3 a@4 z-3@3");
-}
-
-void tst_EventExpansion::overrides()
-{
-    QFETCH(Event, override);
-    const Event master = row(QStringLiteral("a"), march(2), Daily);
-    for (const QList<Event> &events : { QList<Event>{ master, override }, QList<Event>{ override, master } })
-        QTEST(summary(EventExpansion::expand(events, march(2, 0), march(5, 0))).join(u' '), "expected");
-}
-
-void tst_EventExpansion::laterDuplicateWins()
-{
-    Event first = overrideRow(QStringLiteral("a"), 3, march(3, 10));
-    Event second = overrideRow(QStringLiteral("a"), 3, march(3, 11));
-    second.id = QStringLiteral("second");
-    const Event master = row(QStringLiteral("a"), march(2), Daily);
-    QCOMPARE(summary(EventExpansion::expand({ first, master, second }, march(2, 0), march(4, 0))),
-             QStringList({ QStringLiteral("a@2"), QStringLiteral("second@3") }));
-    QCOMPARE(summary(EventExpansion::expand({ first, second }, march(2, 0), march(4, 0))),
-             QStringList({ QStringLiteral("second@3") }));
-}
-
-void tst_EventExpansion::manyOverrides()
-{
-    QList<Event> events{ row(QStringLiteral("a"), march(1), QStringLiteral("FREQ=DAILY")) };
-    for (int day = 0; day < 20'000; ++day)
-        events.append(overrideRow(QStringLiteral("a"), 1 + day, march(1 + day)));
-    // Every second one belongs to no occurrence, as its minute is another.
-    for (qsizetype i = 1; i < events.size(); i += 2)
-        events[i].recurrenceId = events.at(i).startTime.addSecs(60).toString(u"yyyyMMdd'T'HHmmss'Z'");
-    const QList<Event> found = EventExpansion::expand(events, march(1), march(1).addDays(9'000));
-    QCOMPARE(found.size(), 9'000 + 20'000 - 4'500);
-}
 
 QTEST_GUILESS_MAIN(tst_EventExpansion)
 #include "tst_EventExpansion.moc"

@@ -1,18 +1,25 @@
 #include "calendar/TaskTree.h"
+#include "support/TestData.h"
 
-#include <QTest>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-Task task(const char *uid, const char *parent = "", bool completed = false, int sortOrder = 0)
+/// Tasks written "uid", "uid<parent", with "!" in front of a completed one and "=order" behind.
+QList<Task> tasksFrom(const QString &text)
 {
-    Task task;
-    task.uid = QString::fromLatin1(uid);
-    task.title = task.uid;
-    task.parentTaskUid = QString::fromLatin1(parent);
-    task.status = completed ? TaskStatus::Completed : TaskStatus::NeedsAction;
-    task.sortOrder = sortOrder;
-    return task;
+    static const QRegularExpression form(u"(!?)(\\w+)(?:<(\\w+))?(?:=(-?\\d+))?"_s);
+    QList<Task> tasks;
+    for (const QRegularExpressionMatch &match : form.globalMatch(text)) {
+        Task &task = tasks.emplace_back();
+        task.uid = task.title = match.captured(2);
+        task.parentTaskUid = match.captured(3);
+        task.status = match.captured(1).isEmpty() ? TaskStatus::NeedsAction : TaskStatus::Completed;
+        task.sortOrder = match.captured(4).toInt();
+    }
+    return tasks;
 }
 
 /// Each task behind as many dashes as it is deep.
@@ -35,97 +42,56 @@ class tst_TaskTree : public QObject {
     Q_OBJECT
 
 private slots:
-    void flattens_data();
-    void flattens();
-    void sorts();
-    void sortsByHandFirst();
-    void oneUidTwice();
-    void veryDeep();
-    void keepsCompleted_data();
-    void keepsCompleted();
-};
-
-void tst_TaskTree::flattens_data()
-{
-    QTest::addColumn<QList<Task>>("tasks");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("nothing") << QList<Task>() << QString();
-    QTest::newRow("child before parent before grandparent")
-        << QList<Task>{ task("c", "b"), task("b", "a"), task("a") } << QStringLiteral("a -b --c");
-    QTest::newRow("list order without a comparator")
-        << QList<Task>{ task("z"), task("b", "z"), task("a", "z"), task("y") } << QStringLiteral("z -b -a y");
-    QTest::newRow("unknown parent") << QList<Task>{ task("a", "gone"), task("b", "a") } << QStringLiteral("a -b");
-    QTest::newRow("cycle") << QList<Task>{ task("a", "b"), task("b", "a"), task("c", "b"), task("d") }
-                           << QStringLiteral("d");
-    QTest::newRow("its own parent") << QList<Task>{ task("a", "a"), task("b") } << QStringLiteral("b");
-    QTest::newRow("no UIDs at all") << QList<Task>{ task(""), task("") } << QStringLiteral(" ");
-}
-
-void tst_TaskTree::flattens()
-{
-    QFETCH(QList<Task>, tasks);
-    QTEST(outline(TaskTree::flatten(tasks)), "expected");
-}
-
-void tst_TaskTree::sorts()
-{
-    const QList<Task> tasks{ task("b"), task("d", "b"), task("a"), task("c", "b") };
-    QCOMPARE(outline(TaskTree::flatten(tasks, byTitle)), QStringLiteral("a b -c -d"));
-}
-
-void tst_TaskTree::sortsByHandFirst()
-{
-    const QList<Task> tasks{ task("b"), task("a"), task("y", "", false, 5), task("x", "", false, 7),
-                             task("z", "", false, -2) };
-    QCOMPARE(outline(TaskTree::flatten(tasks, TaskTree::withManualSortOrder(byTitle))), QStringLiteral("z y x a b"));
-    QCOMPARE(outline(TaskTree::flatten(tasks, TaskTree::withManualSortOrder({}))), QStringLiteral("z y x b a"));
-}
-
-void tst_TaskTree::oneUidTwice()
-{
-    // Two calendars can hold a task of one UID. A child is still listed once, and nothing goes round.
-    const QList<Task> tasks{ task("a"), task("a"), task("c", "a"), task("a", "a") };
-    QCOMPARE(outline(TaskTree::flatten(tasks)), QStringLiteral("a -c -a a"));
-}
-
-void tst_TaskTree::veryDeep()
-{
-    constexpr int depth = 30'000;
-    QList<Task> tasks;
-    tasks.reserve(depth);
-    Task link = task("0", "", true);
-    for (int i = 0; i < depth; ++i) {
-        tasks.append(link);
-        link.parentTaskUid = link.uid;
-        link.uid = QString::number(i + 1);
+    void flattens_data()
+    {
+        columns<QString, QString, QString>("tasks", "expected", "sorted");
+        row("child before parent before grandparent", "c<b b<a a", "a -b --c", "a -b --c");
+        row("siblings", "z b<z a<z y", "z -b -a y", "y z -a -b");
+        row("unknown parent", "a<gone b<a", "a -b", "a -b");
+        row("cycle", "a<b b<a c<b d", "a -b --c d", "a -b --c d");
+        row("below a cycle", "c<b b<a a<b", "b -c -a", "b -a -c");
+        row("its own parent", "a<a b", "a b", "a b");
+        // Two calendars can hold a task of one UID. A child is still listed once, and nothing goes round.
+        row("one UID twice", "a a c<a a<a", "a -c -a a", "a -a -c a");
+        row("sorted by hand first", "b a y=5 x=7 z=-2", "b a y x z", "z y x a b");
     }
-    tasks.last().status = TaskStatus::NeedsAction;
-    QCOMPARE(TaskTree::flatten(tasks).last().depth, depth - 1);
-    QCOMPARE(TaskTree::completedKeptByActiveTree(tasks).size(), depth - 1);
-}
+    void flattens()
+    {
+        QFETCH(QString, tasks);
+        QTEST(outline(TaskTree::flatten(tasksFrom(tasks))), "expected");
+        QTEST(outline(TaskTree::flatten(tasksFrom(tasks), TaskTree::withManualSortOrder(byTitle))), "sorted");
+    }
 
-void tst_TaskTree::keepsCompleted_data()
-{
-    QTest::addColumn<QList<Task>>("tasks");
-    QTest::addColumn<QStringList>("expected");
-    QTest::newRow("nothing") << QList<Task>() << QStringList();
-    QTest::newRow("all completed") << QList<Task>{ task("a", "", true), task("b", "a", true) } << QStringList();
-    QTest::newRow("active grandchild") << QList<Task>{ task("a", "", true), task("b", "a", true), task("c", "b"),
-                                                       task("d", "a", true) }
-                                       << QStringList{ QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("d") };
-    QTest::newRow("completed leaf of an active parent")
-        << QList<Task>{ task("b", "a", true), task("a") } << QStringList{ QStringLiteral("b") };
-    QTest::newRow("other trees do not help")
-        << QList<Task>{ task("a", "", true), task("b"), task("c", "b", true) } << QStringList{ QStringLiteral("c") };
-}
+    void veryDeep()
+    {
+        constexpr int depth = 30'000;
+        QList<Task> tasks(depth);
+        for (int i = 0; i < depth; ++i) {
+            tasks[i].uid = QString::number(i);
+            tasks[i].parentTaskUid = QString::number(i - 1);
+            tasks[i].status = TaskStatus::Completed;
+        }
+        tasks.last().status = TaskStatus::NeedsAction;
+        QCOMPARE(TaskTree::flatten(tasks).last().depth, depth - 1);
+        QCOMPARE(TaskTree::completedKeptByActiveTree(tasks).size(), depth - 1);
+    }
 
-void tst_TaskTree::keepsCompleted()
-{
-    QFETCH(QList<Task>, tasks);
-    QStringList kept = TaskTree::completedKeptByActiveTree(tasks).values();
-    kept.sort();
-    QTEST(kept, "expected");
-}
+    void keepsCompleted_data()
+    {
+        columns<QString, QString>("tasks", "expected");
+        row("all completed", "!a !b<a", "");
+        row("active grandchild", "!a !b<a c<b !d<a", "a b d");
+        row("completed leaf of an active parent", "!b<a a", "b");
+        row("other trees do not help", "!a b !c<b", "c");
+    }
+    void keepsCompleted()
+    {
+        QFETCH(QString, tasks);
+        QStringList kept = TaskTree::completedKeptByActiveTree(tasksFrom(tasks)).values();
+        kept.sort();
+        QTEST(kept.join(u' '), "expected");
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_TaskTree)
 #include "tst_TaskTree.moc"

@@ -1,19 +1,20 @@
 #include "app/SingleInstance.h"
 #include "models/Constants.h"
+#include "support/TestData.h"
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QLocalSocket>
 #include <QProcess>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <csignal>
 #include <memory>
+
+using namespace Qt::StringLiterals;
 
 /// The whole program as a process over a data directory of its own: first start, second launch, what a
 /// broken database does, and how it ends.
@@ -24,10 +25,11 @@ private slots:
     void init()
     {
         m_dir = std::make_unique<QTemporaryDir>();
-        m_instance = QStringLiteral("startup-%1-%2").arg(QCoreApplication::applicationPid()).arg(++m_count);
+        m_instance = u"startup-%1-%2"_s.arg(QCoreApplication::applicationPid()).arg(++m_count);
         qputenv("CALENDAR_INSTANCE", m_instance.toUtf8()); // for SingleInstance::socketName()
         m_program = std::make_unique<QProcess>();
-        m_dataDir = m_dir->filePath(QStringLiteral("data"));
+        m_dataDir = m_dir->filePath(u"data"_s);
+        m_database = m_dataDir + u"/calendar.db"_s;
     }
     void cleanup()
     {
@@ -35,31 +37,31 @@ private slots:
         m_program->waitForFinished(5000);
     }
 
-    void firstStartSeedsAndEndsOnSigterm_data()
+    void firstStartSeedsAndEndsOnASignal_data()
     {
-        QTest::addColumn<int>("signalNumber");
-        QTest::newRow("the session ends") << SIGTERM;
-        QTest::newRow("Ctrl+C") << SIGINT;
+        columns<int>("signalNumber");
+        row("the session ends", SIGTERM);
+        row("Ctrl+C", SIGINT);
     }
-    void firstStartSeedsAndEndsOnSigterm()
+    void firstStartSeedsAndEndsOnASignal()
     {
         QFETCH(int, signalNumber);
         startProgram();
         QVERIFY2(waitUntilItListens(), log());
         QVERIFY2(endProgram(signalNumber), log());
         QCOMPARE(m_program->exitCode(), 0);
-        QCOMPARE(query(QStringLiteral("SELECT id FROM calendars")), QString(LocalDefaults::PersonalCalendarId));
-        QCOMPARE(query(QStringLiteral("SELECT max(version) FROM schema_version")), QStringLiteral("16"));
-        QCOMPARE(query(QStringLiteral("PRAGMA integrity_check")), QStringLiteral("ok"));
+        QCOMPARE(query(u"SELECT id FROM calendars"_s), QString(LocalDefaults::PersonalCalendarId));
+        QCOMPARE(query(u"SELECT max(version) FROM schema_version"_s), u"16"_s);
+        QCOMPARE(query(u"PRAGMA integrity_check"_s), u"ok"_s);
     }
 
     void secondLaunchHandsOver()
     {
-        startProgram({ QStringLiteral("--background") });
+        startProgram({ u"--background"_s });
         QVERIFY2(waitUntilItListens(), log());
         QProcess second;
-        second.setProcessEnvironment(environment());
-        second.start(QStringLiteral(QUILLON_PROGRAM), { QStringLiteral("--show-today") });
+        second.setProcessEnvironment(m_program->processEnvironment());
+        second.start(QStringLiteral(QUILLON_PROGRAM), { u"--show-today"_s });
         QVERIFY(second.waitForFinished(15'000));
         QCOMPARE(second.exitStatus(), QProcess::NormalExit);
         QCOMPARE(second.exitCode(), 0);
@@ -69,7 +71,7 @@ private slots:
 
     void garbageFromASecondProcessIsSurvived()
     {
-        startProgram();
+        startProgram({ QStringLiteral("--show-today") }); // a launch with a command is not greeted
         QVERIFY2(waitUntilItListens(), log());
         QLocalSocket socket;
         socket.connectToServer(SingleInstance::socketName());
@@ -85,25 +87,25 @@ private slots:
 
     void unusableDataDirectoryEndsWithAMessage_data()
     {
-        QTest::addColumn<bool>("isCorrupt");
-        QTest::newRow("below a file") << false;
-        QTest::newRow("corrupt database") << true;
+        columns<bool>("isCorrupt");
+        row("below a file", false);
+        row("corrupt database", true);
     }
     void unusableDataDirectoryEndsWithAMessage()
     {
         QFETCH(bool, isCorrupt);
+        QFile file(isCorrupt ? m_database : m_dataDir);
+        QVERIFY(!isCorrupt || QDir().mkpath(m_dataDir));
         const QByteArray noise = QByteArray("This is no database. ").repeated(500);
-        if (isCorrupt)
-            writeFile(m_dataDir + QStringLiteral("/calendar.db"), noise);
-        else
-            writeFile(m_dataDir, noise);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(noise) == noise.size());
+        file.close();
         startProgram();
         // The box is what it waits with: the socket answers long before, so ask the log.
-        QVERIFY2(waitForLog("[Startup] the database cannot be used"), log());
+        const auto isTold = [this] { return QByteArray(log()).contains("[Startup] the database cannot be used"); };
+        QTRY_VERIFY_WITH_TIMEOUT(isTold(), 15'000);
         QVERIFY2(endProgram(SIGTERM), log());
         QCOMPARE(m_program->exitStatus(), QProcess::NormalExit);
         QCOMPARE(m_program->exitCode(), 1);
-        QFile file(isCorrupt ? m_dataDir + QStringLiteral("/calendar.db") : m_dataDir);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), noise); // nothing that could be rescued is lost
     }
@@ -111,50 +113,40 @@ private slots:
     void newerDatabaseOpens()
     {
         runOnce();
-        execute(QStringLiteral("INSERT INTO schema_version (version, name) VALUES (99, 'of the future')"));
-        execute(QStringLiteral("ALTER TABLE events ADD COLUMN mood TEXT"));
+        QCOMPARE(query(u"INSERT INTO schema_version (version, name) VALUES (99, 'of the future')"_s), u"no row"_s);
+        QCOMPARE(query(u"ALTER TABLE events ADD COLUMN mood TEXT"_s), u"no row"_s);
         runOnce();
-        QCOMPARE(m_program->exitCode(), 0);
-        QCOMPARE(query(QStringLiteral("SELECT max(version) FROM schema_version")), QStringLiteral("99"));
+        QCOMPARE(query(u"SELECT max(version) FROM schema_version"_s), u"99"_s);
     }
 
     void interruptedRemovalIsFinished()
     {
         runOnce();
-        const QString now = QStringLiteral("'2024-02-29T12:00:00Z'");
-        execute(QStringLiteral("INSERT INTO accounts (id, name, type, created_at, updated_at, deleted_at) "
-                               "VALUES ('gone', 'Gone', 'caldav', %1, %1, %1)")
-                    .arg(now));
-        execute(QStringLiteral("INSERT INTO calendars (id, account_id, url, name, created_at, updated_at) "
-                               "VALUES ('left', 'gone', 'https://dav.example/left/', 'Left', %1, %1)")
-                    .arg(now));
+        QCOMPARE(query(u"INSERT INTO accounts (id, name, type, deleted_at) VALUES ('gone', '', 'caldav', '2024')"_s),
+                 u"no row"_s);
+        QCOMPARE(query(u"INSERT INTO calendars (id, account_id, url, name) VALUES ('left', 'gone', 'u', 'Left')"_s),
+                 u"no row"_s);
         runOnce();
-        QCOMPARE(query(QStringLiteral("SELECT count(*) FROM calendars WHERE id = 'left'")), QStringLiteral("0"));
-        QCOMPARE(query(QStringLiteral("SELECT count(*) FROM accounts WHERE id = 'gone'")), QStringLiteral("1"));
-        QCOMPARE(query(QStringLiteral("SELECT count(*) FROM calendars")), QStringLiteral("1"));
+        QCOMPARE(query(u"SELECT group_concat(id) FROM calendars"_s), QString(LocalDefaults::PersonalCalendarId));
+        QCOMPARE(query(u"SELECT count(*) FROM accounts WHERE id = 'gone'"_s), u"1"_s);
     }
 
 private:
-    QProcessEnvironment environment() const
-    {
-        QProcessEnvironment result = QProcessEnvironment::systemEnvironment();
-        result.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        result.insert(QStringLiteral("CALENDAR_DATA_DIR"), m_dataDir);
-        result.insert(QStringLiteral("CALENDAR_INSTANCE"), m_instance);
-        result.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir->filePath(QStringLiteral("config")));
-        return result;
-    }
-
     void startProgram(const QStringList &args = {})
     {
         m_log.clear();
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+        environment.insert(u"CALENDAR_DATA_DIR"_s, m_dataDir);
+        environment.insert(u"CALENDAR_INSTANCE"_s, m_instance);
+        environment.insert(u"XDG_CONFIG_HOME"_s, m_dir->filePath(u"config"_s));
         m_program->setProcessChannelMode(QProcess::MergedChannels);
-        m_program->setProcessEnvironment(environment());
+        m_program->setProcessEnvironment(environment);
         m_program->start(QStringLiteral(QUILLON_PROGRAM), args);
         QVERIFY(m_program->waitForStarted(5000));
     }
 
-    /// The event loop runs: it has accepted a connection and closed it when we did.
+    /// The event loop runs: it has accepted a connection and cut it off.
     bool waitUntilItListens()
     {
         QElapsedTimer timer;
@@ -166,22 +158,10 @@ private:
                 m_program->waitForReadyRead(50);
                 continue;
             }
-            // Too long a line is cut off by the receiver's event loop.
-            socket.write(QByteArray(SingleInstance::MaxLineBytes + 1, 'x'));
+            socket.write(QByteArray(SingleInstance::MaxLineBytes + 1, 'x')); // too long a line
             return socket.waitForDisconnected(15'000) || socket.state() == QLocalSocket::UnconnectedState;
         }
         return false;
-    }
-
-    bool waitForLog(const QByteArray &text)
-    {
-        QElapsedTimer timer;
-        timer.start();
-        while (!m_log.contains(text) && timer.elapsed() < 15'000 && m_program->state() == QProcess::Running) {
-            m_program->waitForReadyRead(500);
-            m_log += m_program->readAll();
-        }
-        return m_log.contains(text);
     }
 
     bool endProgram(int signalNumber)
@@ -204,33 +184,26 @@ private:
         return m_log.constData();
     }
 
-    static void writeFile(const QString &path, const QByteArray &text)
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
-    }
-
-    /// The first value of the answer, read from the file after the program has ended.
+    /// The first value of the answer, from the file of a program that has ended.
     QString query(const QString &sql)
     {
         QString value;
         {
-            QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("look"));
-            database.setDatabaseName(m_dataDir + QStringLiteral("/calendar.db"));
+            QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"look"_s);
+            database.setDatabaseName(m_database);
             QSqlQuery query(database);
             value = !database.open() || !query.exec(sql) ? database.lastError().text() + query.lastError().text()
                 : query.next()                           ? query.value(0).toString()
-                                                         : QStringLiteral("no row");
+                                                         : u"no row"_s;
         }
-        QSqlDatabase::removeDatabase(QStringLiteral("look"));
+        QSqlDatabase::removeDatabase(u"look"_s);
         return value;
     }
-    void execute(const QString &sql) { QCOMPARE(query(sql), QStringLiteral("no row")); }
 
     std::unique_ptr<QTemporaryDir> m_dir;
     std::unique_ptr<QProcess> m_program;
     QString m_dataDir;
+    QString m_database;
     QString m_instance;
     QByteArray m_log;
     int m_count = 0;

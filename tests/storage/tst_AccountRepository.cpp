@@ -1,26 +1,15 @@
 #include "storage/AccountRepository.h"
-#include "storage/CalendarRepository.h"
-#include "storage/EventRepository.h"
-#include "storage/TaskRepository.h"
 #include "support/ScratchDatabase.h"
+#include "support/TestData.h"
 
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-QString lit(const char *text)
-{
-    return QString::fromUtf8(text);
-}
-
-QDateTime utc(int day, int hour = 0)
-{
-    return QDateTime(QDate(2026, 5, day), QTime(hour, 0), Qt::UTC);
-}
-
-Account davAccount(const QString &id, const QString &username, const QString &serverUrl, int createdDay)
+Account davAccount(const QString &id, const QString &username, const QString &serverUrl, int createdDay = 1)
 {
     Account account;
     account.id = id;
@@ -28,8 +17,7 @@ Account davAccount(const QString &id, const QString &username, const QString &se
     account.type = AccountType::CalDAV;
     account.username = username;
     account.serverUrl = serverUrl;
-    account.createdAt = utc(createdDay);
-    account.updatedAt = utc(createdDay);
+    account.createdAt = QDateTime(QDate(2026, 5, createdDay), QTime(0, 0), Qt::UTC);
     return account;
 }
 
@@ -37,8 +25,8 @@ Account davAccount(const QString &id, const QString &username, const QString &se
 void expectQueueWarning()
 {
     QTest::ignoreMessage(QtWarningMsg,
-                         QRegularExpression(lit("^AccountRepository::cascadeDeleteCalendars failed: .*sync_queue.*\n"
-                                                "\\s*DELETE FROM sync_queue")));
+                         QRegularExpression(u"^AccountRepository::cascadeDeleteCalendars failed: .*sync_queue.*\n"
+                                            "\\s*DELETE FROM sync_queue"_s));
 }
 
 }
@@ -47,273 +35,152 @@ class tst_AccountRepository : public QObject {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void keepsEveryField();
-    void updateLeavesCreationAndOrderAlone();
-    void ordersAndReorders();
-    void removingTakesEverythingButTheTombstone();
-    void finishesARemovalThatWasCutOff();
-    void reapsTombstonesOnly();
-    void normalizesUrls_data();
-    void normalizesUrls();
-    void tellsServersApart_data();
-    void tellsServersApart();
-    void findsByIdentity();
-    void collapsesDuplicates();
-    void failsWithoutSignal();
+    void init()
+    {
+        m_database = std::make_unique<ScratchDatabase>();
+        m_accounts = std::make_unique<AccountRepository>(m_database->get());
+    }
+    void cleanup()
+    {
+        QCOMPARE(m_database->problems(), QString());
+        m_accounts.reset();
+        m_database.reset();
+    }
+
+    void ordersAndReorders()
+    {
+        for (const QString &id : { u"b"_s, u"c"_s, u"a"_s })
+            m_database->addAccount(id);
+        QCOMPARE(idsOf(m_accounts->getAll()), u"a b c"_s);
+        QSignalSpy changed(m_accounts.get(), &AccountRepository::accountsChanged);
+        QVERIFY(m_accounts->reorder({ u"c"_s, u"a"_s, u"b"_s }));
+        QCOMPARE(idsOf(m_accounts->getAll()), u"c a b"_s);
+        QCOMPARE(changed.size(), 1);
+
+        const quint64 generation = (*m_database)->dataGeneration();
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^AccountRepository::insert failed: .*UNIQUE"_s));
+        QVERIFY(!m_accounts->insert(davAccount(u"a"_s, u"v"_s, QString())));
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE((*m_database)->dataGeneration(), generation);
+    }
+
+    void removingTakesEverythingButTheTombstone_data()
+    {
+        columns<bool>("isCutOff");
+        row("at once", false);
+        row("finished by the next start", true);
+    }
+    void removingTakesEverythingButTheTombstone()
+    {
+        for (const QString &id : { u"gone"_s, u"kept"_s }) {
+            m_database->addAccount(id);
+            m_database->addFullCalendar(u"c-"_s + id, id);
+        }
+        QFETCH(bool, isCutOff);
+        QSignalSpy changed(m_accounts.get(), &AccountRepository::accountsChanged);
+        expectQueueWarning();
+        if (isCutOff) {
+            m_database->execute(u"UPDATE accounts SET deleted_at = '2026-05-09T00:00:00Z' WHERE id = 'gone'"_s);
+            QCOMPARE(m_accounts->finishInterruptedRemovals(), 1);
+        } else {
+            QVERIFY(m_accounts->remove(u"gone"_s));
+            QCOMPARE(changed.size(), 1);
+        }
+        QCOMPARE(m_accounts->finishInterruptedRemovals(), 0);
+        QCOMPARE(m_accounts->getById(u"gone"_s), std::nullopt);
+        QCOMPARE(idsOf(m_accounts->getAllIncludingDeleted()), u"gone kept"_s);
+        for (const char *table :
+             { "calendars", "events", "tasks", "reminders", "attendees", "attachments", "task_reminders" }) {
+            const QString id = m_database->text(u"SELECT id FROM "_s + QLatin1StringView(table));
+            QVERIFY2(!id.contains(u' ') && !id.contains(u"gone"), table);
+        }
+
+        QVERIFY(m_accounts->reapTombstone(u"kept"_s) && m_accounts->reapTombstone(u"gone"_s));
+        QCOMPARE(idsOf(m_accounts->getAllIncludingDeleted()), u"kept"_s);
+    }
+
+    void normalizesUrls_data()
+    {
+        columns<QString, QString>("url", "expected");
+        row("empty", "  ", "");
+        row("all at once", " HTTPS://Dav.Example.ORG:443/Home/// ", "https://dav.example.org/Home");
+        row("http port", "http://h:80/", "http://h");
+        row("foreign port", "https://h:80/a", "https://h:80/a");
+        row("query dropped", "https://h/a?b=c", "https://h/a");
+        row("no host", "dav.example.org//", "dav.example.org");
+    }
+    void normalizesUrls()
+    {
+        QFETCH(QString, url);
+        QTEST(AccountRepository::normalizedUrl(url), "expected");
+    }
+
+    void tellsServersApart_data()
+    {
+        // Server, home set and principal of each, separated by blanks.
+        columns<QString, QString, bool>("a", "b", "same");
+        row("nothing known", "", "", false);
+        row("spelling", "HTTPS://H:443/x/", "https://h/x", true);
+        row("home sets", "https://a https://h/1/", "https://b https://h/1", true);
+        row("principals", "https://a  https://h/p", "https://b https://h/1 https://h/p/", true);
+        row("hosts", "https://h/one", "http://H:8080/two", true);
+        row("different", "https://a https://a/1", "https://b https://b/1", false);
+    }
+    void tellsServersApart()
+    {
+        const auto identity = [](const QString &urls) {
+            return ServerIdentity{ urls.section(u' ', 0, 0), urls.section(u' ', 1, 1), urls.section(u' ', 2, 2) };
+        };
+        QFETCH(QString, a);
+        QFETCH(QString, b);
+        QTEST(AccountRepository::isSameServer(identity(a), identity(b)), "same");
+        QTEST(AccountRepository::isSameServer(identity(b), identity(a)), "same");
+    }
+
+    void findsByIdentity()
+    {
+        QVERIFY(m_accounts->insert(davAccount(u"a"_s, u"ada"_s, u"https://one.example.org/"_s)));
+        QVERIFY(m_accounts->insert(davAccount(u"b"_s, u"ada"_s, u"https://two.example.org/"_s)));
+        QVERIFY(m_accounts->insert(davAccount(u"c"_s, QString(), u"https://two.example.org/"_s)));
+        const auto find = [this](const QString &type, const QString &user) {
+            const auto found =
+                m_accounts->findByCanonicalIdentity(type, user, u"https://TWO.example.org:443"_s, {}, {});
+            return found ? found->id : QString();
+        };
+        QCOMPARE(find(u"caldav"_s, u"ada"_s), u"b"_s);
+        QCOMPARE(find(u"icloud"_s, u"ada"_s), QString());
+        QCOMPARE(find(u"caldav"_s, u"bob"_s), QString());
+        QCOMPARE(find(u"caldav"_s, u""_s), QString());
+        expectQueueWarning();
+        QVERIFY(m_accounts->remove(u"b"_s));
+        QCOMPARE(find(u"caldav"_s, u"ada"_s), QString());
+    }
+
+    void collapsesDuplicates()
+    {
+        QVERIFY(m_accounts->insert(davAccount(u"young"_s, u"ada"_s, u"https://h/"_s, 2)));
+        QVERIFY(m_accounts->insert(davAccount(u"old"_s, u"ada"_s, u"HTTPS://H:443"_s, 1)));
+        QVERIFY(m_accounts->insert(davAccount(u"bob"_s, u"bob"_s, u"https://h/"_s, 3)));
+        QVERIFY(m_accounts->insert(davAccount(u"anon1"_s, QString(), u"https://h/"_s, 4)));
+        QVERIFY(m_accounts->insert(davAccount(u"anon2"_s, QString(), u"https://h/"_s, 5)));
+        m_database->addFullCalendar(u"same-old"_s, u"old"_s);
+        m_database->addFullCalendar(u"same-young"_s, u"young"_s);
+        m_database->addFullCalendar(u"only-young"_s, u"young"_s);
+        m_database->execute(u"UPDATE calendars SET url = 'https://h/shared' WHERE id LIKE 'same-%'"_s);
+
+        expectQueueWarning();
+        QCOMPARE(m_accounts->dedupExistingByCredentials(), 1);
+        QCOMPARE(idsOf(m_accounts->getAll()), u"anon1 anon2 bob old"_s);
+        QCOMPARE(m_database->text(u"SELECT id FROM calendars WHERE account_id = 'old' ORDER BY id"_s),
+                 u"only-young same-old"_s);
+        QCOMPARE(m_database->text(u"SELECT id FROM events ORDER BY id"_s), u"e-only-young e-same-old"_s);
+        QCOMPARE(m_accounts->dedupExistingByCredentials(), 0);
+    }
 
 private:
-    QString fillCalendar(const QString &calendarId, const QString &accountId);
-
     std::unique_ptr<ScratchDatabase> m_database;
     std::unique_ptr<AccountRepository> m_accounts;
 };
-
-void tst_AccountRepository::init()
-{
-    m_database = std::make_unique<ScratchDatabase>();
-    m_accounts = std::make_unique<AccountRepository>(m_database->get());
-}
-
-void tst_AccountRepository::cleanup()
-{
-    QCOMPARE(m_database->problems(), QString());
-    m_accounts.reset();
-    m_database.reset();
-}
-
-// A calendar with an event and a task, both with children.
-QString tst_AccountRepository::fillCalendar(const QString &calendarId, const QString &accountId)
-{
-    m_database->addCalendar(calendarId, accountId);
-    Event event;
-    event.id = lit("e-") + calendarId;
-    event.uid = event.id;
-    event.calendarId = calendarId;
-    event.startTime = utc(1);
-    event.reminders = { Reminder{} };
-    event.attendees = { Attendee{} };
-    if (!EventRepository(m_database->get()).insert(event))
-        return {};
-    m_database->execute(
-        lit("INSERT INTO attachments (id, event_id, filename) VALUES ('f-%1', '%1', 'x')").arg(event.id));
-    Task task;
-    task.id = lit("t-") + calendarId;
-    task.uid = task.id;
-    task.calendarId = calendarId;
-    task.reminders = { Reminder{} };
-    return TaskRepository(m_database->get()).insert(task) ? calendarId : QString();
-}
-
-void tst_AccountRepository::keepsEveryField()
-{
-    Account account{
-        .id = lit("id"),
-        .name = lit("Ada's \"mail\""),
-        .type = AccountType::ICloud,
-        .serverUrl = lit("https://dav.example.org/"),
-        .username = lit("ada@example.org"),
-        .calendarHomeSet = lit("https://dav.example.org/home/"),
-        .principalUrl = lit("https://dav.example.org/principal/"),
-        .syncIntervalMinutes = 60,
-        .lastSyncTime = utc(3),
-        .lastSyncError = lit("Password missing"),
-        .enabled = false,
-        .color = lit("#000000"),
-        .excludeFromSync = true,
-        .trustedCertSha256 = lit("aa"),
-        .pendingCertSha256 = lit("bb"),
-        .createdAt = utc(1),
-        .updatedAt = utc(2),
-        .deletedAt = std::nullopt,
-    };
-    QVERIFY(m_accounts->insert(account));
-    QCOMPARE(m_accounts->getById(lit("id")), account);
-
-    account = Account();
-    account.id = lit("id");
-    account.type = AccountType::Google;
-    account.createdAt = utc(1);
-    account.updatedAt = utc(4);
-    QVERIFY(m_accounts->update(account));
-    QCOMPARE(m_accounts->getById(lit("id")), account);
-    QCOMPARE(m_database->count(lit("accounts"), lit("username IS NULL AND last_sync_time IS NULL")), 1);
-
-    m_database->execute(lit("UPDATE accounts SET deleted_at = '2026-05-09T00:00:00Z'"));
-    QCOMPARE(m_accounts->getById(lit("id")), std::nullopt);
-    QCOMPARE(m_accounts->getAllIncludingDeleted().value(0).deletedAt, utc(9));
-}
-
-void tst_AccountRepository::updateLeavesCreationAndOrderAlone()
-{
-    Account account = davAccount(lit("a"), lit("u"), QString(), 1);
-    QVERIFY(m_accounts->insert(account));
-    m_database->execute(lit("UPDATE accounts SET sort_order = 7"));
-    account.createdAt = utc(20);
-    account.deletedAt = utc(20);
-    QVERIFY(m_accounts->update(account));
-    QCOMPARE(m_accounts->getById(lit("a"))->createdAt, utc(1));
-    QCOMPARE(m_database->column(lit("SELECT sort_order FROM accounts")), QStringList{ lit("7") });
-}
-
-void tst_AccountRepository::ordersAndReorders()
-{
-    for (const auto *id : { "b", "c", "a" })
-        m_database->addAccount(lit(id));
-    const auto ids = [this] {
-        QStringList result;
-        for (const Account &account : m_accounts->getAll())
-            result.append(account.id);
-        return result.join(QString());
-    };
-    QCOMPARE(ids(), lit("abc"));
-    QSignalSpy changed(m_accounts.get(), &AccountRepository::accountsChanged);
-    QVERIFY(m_accounts->reorder({ lit("c"), lit("a"), lit("b") }));
-    QCOMPARE(ids(), lit("cab"));
-    QCOMPARE(changed.size(), 1);
-}
-
-void tst_AccountRepository::removingTakesEverythingButTheTombstone()
-{
-    m_database->addAccount(lit("gone"));
-    m_database->addAccount(lit("kept"));
-    QCOMPARE(fillCalendar(lit("c1"), lit("gone")), lit("c1"));
-    QCOMPARE(fillCalendar(lit("c2"), lit("kept")), lit("c2"));
-    QSignalSpy changed(m_accounts.get(), &AccountRepository::accountsChanged);
-
-    expectQueueWarning();
-    QVERIFY(m_accounts->remove(lit("gone")));
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(m_accounts->getById(lit("gone")), std::nullopt);
-    QVERIFY(m_accounts->getAllIncludingDeleted().size() == 2);
-    for (const auto *table :
-         { "calendars", "events", "tasks", "reminders", "attendees", "attachments", "task_reminders" })
-        QCOMPARE(m_database->count(lit(table)), 1);
-    QCOMPARE(m_database->column(lit("SELECT id FROM calendars")), QStringList{ lit("c2") });
-}
-
-void tst_AccountRepository::finishesARemovalThatWasCutOff()
-{
-    m_database->addAccount(lit("gone"));
-    m_database->addAccount(lit("kept"));
-    QVERIFY(!fillCalendar(lit("c1"), lit("gone")).isEmpty());
-    QVERIFY(!fillCalendar(lit("c2"), lit("kept")).isEmpty());
-    m_database->execute(lit("UPDATE accounts SET deleted_at = '2026-05-09T00:00:00Z' WHERE id = 'gone'"));
-
-    expectQueueWarning();
-    QCOMPARE(m_accounts->finishInterruptedRemovals(), 1);
-    QCOMPARE(m_database->column(lit("SELECT id FROM events")), QStringList{ lit("e-c2") });
-    QCOMPARE(m_accounts->finishInterruptedRemovals(), 0);
-}
-
-void tst_AccountRepository::reapsTombstonesOnly()
-{
-    m_database->addAccount(lit("a"));
-    QVERIFY(m_accounts->reapTombstone(lit("a")));
-    QCOMPARE(m_accounts->getAll().size(), 1);
-    expectQueueWarning();
-    QVERIFY(m_accounts->remove(lit("a")));
-    QVERIFY(m_accounts->reapTombstone(lit("a")));
-    QCOMPARE(m_accounts->getAllIncludingDeleted().size(), 0);
-}
-
-void tst_AccountRepository::normalizesUrls_data()
-{
-    QTest::addColumn<QString>("url");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("empty") << lit("  ") << QString();
-    QTest::newRow("all at once") << lit(" HTTPS://Dav.Example.ORG:443/Home/// ") << lit("https://dav.example.org/Home");
-    QTest::newRow("http port") << lit("http://h:80/") << lit("http://h");
-    QTest::newRow("foreign port") << lit("https://h:80/a") << lit("https://h:80/a");
-    QTest::newRow("query dropped") << lit("https://h/a?b=c") << lit("https://h/a");
-    QTest::newRow("no host") << lit("dav.example.org//") << lit("dav.example.org");
-}
-
-void tst_AccountRepository::normalizesUrls()
-{
-    QFETCH(QString, url);
-    QTEST(AccountRepository::normalizedUrl(url), "expected");
-}
-
-void tst_AccountRepository::tellsServersApart_data()
-{
-    QTest::addColumn<ServerIdentity>("a");
-    QTest::addColumn<ServerIdentity>("b");
-    QTest::addColumn<bool>("same");
-    const QString none;
-    QTest::newRow("nothing known") << ServerIdentity{} << ServerIdentity{} << false;
-    QTest::newRow("spelling") << ServerIdentity{ lit("HTTPS://H:443/x/"), none, none }
-                              << ServerIdentity{ lit("https://h/x"), none, none } << true;
-    QTest::newRow("home sets") << ServerIdentity{ lit("https://a"), lit("https://h/1/"), none }
-                               << ServerIdentity{ lit("https://b"), lit("https://h/1"), none } << true;
-    QTest::newRow("principals") << ServerIdentity{ lit("https://a"), none, lit("https://h/p") }
-                                << ServerIdentity{ lit("https://b"), lit("https://h/1"), lit("https://h/p/") } << true;
-    QTest::newRow("hosts") << ServerIdentity{ lit("https://h/one"), none, none }
-                           << ServerIdentity{ lit("http://H:8080/two"), none, none } << true;
-    QTest::newRow("different") << ServerIdentity{ lit("https://a"), lit("https://a/1"), none }
-                               << ServerIdentity{ lit("https://b"), lit("https://b/1"), none } << false;
-}
-
-void tst_AccountRepository::tellsServersApart()
-{
-    QFETCH(ServerIdentity, a);
-    QFETCH(ServerIdentity, b);
-    QTEST(AccountRepository::isSameServer(a, b), "same");
-    QTEST(AccountRepository::isSameServer(b, a), "same");
-}
-
-void tst_AccountRepository::findsByIdentity()
-{
-    QVERIFY(m_accounts->insert(davAccount(lit("a"), lit("ada"), lit("https://one.example.org/"), 1)));
-    QVERIFY(m_accounts->insert(davAccount(lit("b"), lit("ada"), lit("https://two.example.org/"), 2)));
-    QVERIFY(m_accounts->insert(davAccount(lit("c"), QString(), lit("https://two.example.org/"), 3)));
-    const auto find = [this](const char *type, const char *user, const char *url) {
-        const auto found = m_accounts->findByCanonicalIdentity(lit(type), lit(user), lit(url), QString(), QString());
-        return found ? found->id : QString();
-    };
-    QCOMPARE(find("caldav", "ada", "https://TWO.example.org:443"), lit("b"));
-    QCOMPARE(find("icloud", "ada", "https://two.example.org"), QString());
-    QCOMPARE(find("caldav", "bob", "https://two.example.org"), QString());
-    QCOMPARE(find("caldav", "", "https://two.example.org"), QString());
-    expectQueueWarning();
-    QVERIFY(m_accounts->remove(lit("b")));
-    QCOMPARE(find("caldav", "ada", "https://two.example.org"), QString());
-}
-
-void tst_AccountRepository::collapsesDuplicates()
-{
-    QVERIFY(m_accounts->insert(davAccount(lit("young"), lit("ada"), lit("https://h/"), 2)));
-    QVERIFY(m_accounts->insert(davAccount(lit("old"), lit("ada"), lit("HTTPS://H:443"), 1)));
-    QVERIFY(m_accounts->insert(davAccount(lit("bob"), lit("bob"), lit("https://h/"), 3)));
-    QVERIFY(m_accounts->insert(davAccount(lit("anon1"), QString(), lit("https://h/"), 4)));
-    QVERIFY(m_accounts->insert(davAccount(lit("anon2"), QString(), lit("https://h/"), 5)));
-    QVERIFY(!fillCalendar(lit("same-old"), lit("old")).isEmpty());
-    QVERIFY(!fillCalendar(lit("same-young"), lit("young")).isEmpty());
-    QVERIFY(!fillCalendar(lit("only-young"), lit("young")).isEmpty());
-    m_database->execute(lit("UPDATE calendars SET url = 'https://h/shared' WHERE id LIKE 'same-%'"));
-
-    expectQueueWarning();
-    QCOMPARE(m_accounts->dedupExistingByCredentials(), 1);
-    QCOMPARE(m_accounts->getById(lit("young")), std::nullopt);
-    QCOMPARE(m_accounts->getAll().size(), 4);
-    QCOMPARE(m_database->column(lit("SELECT id FROM calendars WHERE account_id = 'old' ORDER BY id")),
-             QStringList({ lit("only-young"), lit("same-old") }));
-    QCOMPARE(m_database->column(lit("SELECT id FROM events ORDER BY id")),
-             QStringList({ lit("e-only-young"), lit("e-same-old") }));
-    QCOMPARE(m_accounts->dedupExistingByCredentials(), 0);
-}
-
-void tst_AccountRepository::failsWithoutSignal()
-{
-    QVERIFY(m_accounts->insert(davAccount(lit("a"), lit("u"), QString(), 1)));
-    QSignalSpy changed(m_accounts.get(), &AccountRepository::accountsChanged);
-    const quint64 generation = (*m_database)->dataGeneration();
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(lit("^AccountRepository::insert failed: .*UNIQUE")));
-    QVERIFY(!m_accounts->insert(davAccount(lit("a"), lit("v"), QString(), 1)));
-    QCOMPARE(changed.size(), 0);
-    QCOMPARE((*m_database)->dataGeneration(), generation);
-}
 
 QTEST_GUILESS_MAIN(tst_AccountRepository)
 #include "tst_AccountRepository.moc"

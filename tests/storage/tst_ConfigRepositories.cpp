@@ -3,378 +3,193 @@
 #include "storage/TemplateRepository.h"
 #include "storage/ViewRepository.h"
 #include "support/ScratchDatabase.h"
+#include "support/TestData.h"
 
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
-// The small tables of the user's configuration: groups, filters, templates, settings.
+using namespace Qt::StringLiterals;
 
 namespace {
-
-QString lit(const char *text)
-{
-    return QString::fromUtf8(text);
-}
-
-QDateTime utc(int day)
-{
-    return QDateTime(QDate(2026, 5, day), QTime(8, 0), Qt::UTC);
-}
-
-template <typename Record> QString idsOf(const QList<Record> &records)
-{
-    QStringList ids;
-    for (const Record &record : records)
-        ids.append(record.id);
-    return ids.join(u' ');
-}
 
 bool isNow(const QDateTime &time)
 {
     return qAbs(time.secsTo(QDateTime::currentDateTimeUtc())) < 60;
 }
 
-ViewDef view(const QString &id, int sortOrder = 0)
+template <typename Record> Record named(const QString &id, const QString &name)
 {
-    ViewDef result;
-    result.id = id;
-    result.name = id;
-    result.sortOrder = sortOrder;
-    return result;
-}
-
-FilterRule filter(const QString &id, const QString &name, int priority = 100)
-{
-    FilterRule result;
-    result.id = id;
-    result.name = name;
-    result.type = FilterType::Pattern;
-    result.priority = priority;
-    return result;
+    Record record;
+    record.id = id;
+    record.name = name;
+    record.updatedAt = utc("2026-05-01");
+    return record;
 }
 
 }
 
+/// The small tables of the user's configuration: groups, filters, templates, settings.
 class tst_ConfigRepositories : public QObject {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void viewsKeepEveryField();
-    void viewsOrder();
-    void viewsDelete();
-    void filtersKeepEveryField();
-    void filtersOrder();
-    void filtersDelete();
-    void templatesKeepEveryField();
-    void templatesReadOddReminders();
-    void templatesDelete();
-    void settingsKeepTexts();
-    void settingsReadNumbers_data();
-    void settingsReadNumbers();
-    void settingsReadFlags_data();
-    void settingsReadFlags();
-    void failuresAreLoggedAndSilent();
+    void init() { m_database = std::make_unique<ScratchDatabase>(); }
+    void cleanup()
+    {
+        QCOMPARE(m_database->problems(), QString());
+        m_database.reset();
+    }
+
+    void views()
+    {
+        ViewRepository views(m_database->get());
+        QSignalSpy changed(&views, &ViewRepository::viewsChanged);
+        QVERIFY(isNow(views.getById(u"all-calendars"_s)->createdAt)); // stamped by SQLite, in UTC
+        for (const QString &id : { u"b"_s, u"a"_s, u"first"_s })
+            QVERIFY(views.insert(named<ViewDef>(id, id)));
+        ViewDef first = *views.getById(u"first"_s);
+        first.sortOrder = -5;
+        QVERIFY(views.update(first));
+        QVERIFY(isNow(views.getById(u"first"_s)->updatedAt));
+        QCOMPARE(idsOf(views.getAll()), u"all-calendars first a b"_s);
+
+        m_database->execute(u"UPDATE calendar_views SET sync_status = 'synced'"_s);
+        QVERIFY(views.reorder({ u"b"_s, u"a"_s, u"first"_s }));
+        QCOMPARE(idsOf(views.getAll()), u"all-calendars b a first"_s);
+        QCOMPARE(m_database->count(u"calendar_views"_s, u"sync_status = 'pending'"_s), 3);
+        QCOMPARE(changed.size(), 5);
+        QVERIFY(views.reorder({}));
+        QCOMPARE(changed.size(), 5);
+
+        m_database->execute(u"UPDATE calendar_views SET sync_status = 'synced'"_s);
+        QVERIFY(views.softDelete(u"a"_s));
+        QCOMPARE(idsOf(views.getAll()), u"all-calendars b first"_s);
+        QCOMPARE(idsOf(views.getAllIncludingDeleted()), u"all-calendars b a first"_s);
+        QVERIFY(isNow(views.getById(u"a"_s)->deletedAt.value()));
+        QCOMPARE(views.getById(u"a"_s)->syncStatus, QString(SyncStatus::Pending));
+        QVERIFY(views.hardDelete(u"a"_s));
+        QCOMPARE(views.getById(u"a"_s), std::nullopt);
+    }
+
+    void filters()
+    {
+        FilterRuleRepository filters(m_database->get());
+        for (const QString &name : { u"1 z"_s, u"2 b"_s, u"3 a"_s }) {
+            FilterRule rule = named<FilterRule>(name.section(u' ', 0, 0), name.section(u' ', 1));
+            rule.priority = rule.id == u"1" ? 5 : 100;
+            QVERIFY(filters.insert(rule));
+        }
+        QCOMPARE(idsOf(filters.getAll()), u"1 3 2"_s);
+        QSignalSpy changed(&filters, &FilterRuleRepository::filterRulesChanged);
+        const quint64 generation = (*m_database)->dataGeneration();
+        QVERIFY(filters.reorder({ u"2"_s, u"1"_s, u"3"_s }));
+        QCOMPARE(idsOf(filters.getAll()), u"2 1 3"_s);
+        QCOMPARE(changed.size(), 1);
+        QVERIFY((*m_database)->dataGeneration() > generation);
+        QVERIFY(filters.update(named<FilterRule>(u"3"_s, u"c"_s)));
+        QVERIFY(isNow(filters.getById(u"3"_s)->updatedAt));
+
+        m_database->execute(u"UPDATE filter_rules SET sync_status = 'synced'"_s);
+        QVERIFY(filters.setEnabled(u"1"_s, false));
+        QVERIFY(filters.softDelete(u"2"_s));
+        QCOMPARE(idsOf(filters.getEnabled()), u"3"_s);
+        QCOMPARE(idsOf(filters.getAll()), u"1 3"_s);
+        QCOMPARE(idsOf(filters.getAllIncludingDeleted()), u"2 1 3"_s);
+        QVERIFY(filters.getById(u"2"_s)->enabled);
+        QCOMPARE(m_database->count(u"filter_rules"_s, u"sync_status = 'pending'"_s), 2);
+        QVERIFY(filters.setEnabled(u"1"_s, true));
+        QCOMPARE(idsOf(filters.getEnabled()), u"1 3"_s);
+        QVERIFY(filters.hardDelete(u"2"_s));
+        QCOMPARE(filters.getById(u"2"_s), std::nullopt);
+    }
+
+    void templates()
+    {
+        TemplateRepository templates(m_database->get());
+        QSignalSpy changed(&templates, &TemplateRepository::templatesChanged);
+        QVERIFY(templates.insert(named<EventTemplate>(QString(), u"t"_s)));
+        EventTemplate record = templates.getAll().value(0);
+        QCOMPARE(record.id.size(), 36);
+        QVERIFY(isNow(record.createdAt) && isNow(record.updatedAt));
+        m_database->execute(
+            u"UPDATE event_templates SET sync_status = 'synced', updated_at = '2026-05-01T00:00:00Z'"_s);
+        QVERIFY(templates.update(record));
+        QVERIFY(isNow(templates.getById(record.id)->updatedAt));
+        QCOMPARE(m_database->text(u"SELECT sync_status FROM event_templates"_s), u"pending"_s);
+        for (const QString &text : { u""_s, u"15"_s, u"{\"a\":1}"_s, u"[15"_s }) {
+            m_database->execute(u"UPDATE event_templates SET reminders = '%1'"_s.arg(text));
+            QCOMPARE(templates.getById(record.id)->reminders, QList<int>());
+        }
+
+        QVERIFY(templates.softDelete(record.id));
+        QCOMPARE(templates.getById(record.id), std::nullopt);
+        QVERIFY(templates.getAll().isEmpty());
+        QCOMPARE(templates.getAllIncludingDeleted().size(), 1);
+        QVERIFY(templates.hardDelete(record.id));
+        QVERIFY(templates.getAllIncludingDeleted().isEmpty());
+        QCOMPARE(changed.size(), 4);
+    }
+
+    void settingsKeepTexts()
+    {
+        PreferencesRepository settings(m_database->get());
+        QSignalSpy changed(&settings, &PreferencesRepository::changed);
+        QCOMPARE(settings.get(u"ui/theme"_s), std::nullopt);
+        QCOMPARE(settings.get(u"ui/theme"_s, u"system"_s), u"system"_s);
+        QVERIFY(settings.set(u"ui/theme"_s, u"light"_s) && settings.set(u"ui/theme"_s, u"dark"_s));
+        QCOMPARE(changed.size(), 2);
+        QCOMPARE(changed.first().at(0).toString(), u"ui/theme"_s);
+        QCOMPARE(settings.get(u"ui/theme"_s, u"system"_s), u"dark"_s);
+        QVERIFY(settings.set(u"empty"_s, QString()));
+        QCOMPARE(settings.get(u"empty"_s, u"default"_s), QString());
+        QVERIFY(settings.setInt(u"n"_s, -12) && settings.setBool(u"yes"_s, true) && settings.setBool(u"no"_s, false));
+        QCOMPARE(m_database->column(u"SELECT value FROM settings WHERE type = 'string' ORDER BY key"_s).join(u'|'),
+                 u"|-12|0|dark|1"_s);
+        QVERIFY(settings.remove(u"ui/theme"_s));
+        QCOMPARE(settings.get(u"ui/theme"_s), std::nullopt);
+    }
+
+    void settingsReadNumbersAndFlags_data()
+    {
+        columns<QString, int, bool>("text", "number", "flag"); // where 42 and true are the defaults
+        row("number", "-5", -5, false);
+        row("one", "1", 1, true);
+        row("zero", "0", 0, false);
+        row("true", "true", 42, true);
+        row("yes", "yes", 42, false);
+        row("fraction", "1.5", 42, false);
+        row("empty", "", 42, false);
+        row("too large", "99999999999", 42, false);
+    }
+    void settingsReadNumbersAndFlags()
+    {
+        QFETCH(QString, text);
+        PreferencesRepository settings(m_database->get());
+        QVERIFY(settings.getInt(u"key"_s, 42) == 42 && settings.getBool(u"key"_s, true));
+        QVERIFY(settings.set(u"key"_s, text));
+        QTEST(settings.getInt(u"key"_s, 42), "number");
+        QTEST(settings.getBool(u"key"_s, true), "flag");
+    }
+
+    void failuresAreLoggedAndSilent()
+    {
+        ViewRepository views(m_database->get());
+        FilterRuleRepository filters(m_database->get());
+        QVERIFY(filters.insert(named<FilterRule>(u"1"_s, u"a"_s)));
+        QSignalSpy viewsChanged(&views, &ViewRepository::viewsChanged);
+        QSignalSpy filtersChanged(&filters, &FilterRuleRepository::filterRulesChanged);
+        m_database->execute(
+            u"CREATE TRIGGER refuse BEFORE UPDATE ON filter_rules BEGIN SELECT RAISE(ABORT, 'no'); END"_s);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^ViewRepository::insert failed: UNIQUE"_s));
+        QVERIFY(!views.insert(named<ViewDef>(u"all-calendars"_s, u"a"_s)));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^FilterRuleRepository::update failed: no"_s));
+        QVERIFY(!filters.update(named<FilterRule>(u"1"_s, u"b"_s)));
+        QCOMPARE(viewsChanged.size() + filtersChanged.size(), 0);
+    }
 
 private:
     std::unique_ptr<ScratchDatabase> m_database;
 };
-
-void tst_ConfigRepositories::init()
-{
-    m_database = std::make_unique<ScratchDatabase>();
-}
-
-void tst_ConfigRepositories::cleanup()
-{
-    QCOMPARE(m_database->problems(), QString());
-    m_database.reset();
-}
-
-void tst_ConfigRepositories::viewsKeepEveryField()
-{
-    ViewRepository views(m_database->get());
-    ViewDef record{
-        .id = lit("v"),
-        .name = lit("Arbeit"),
-        .color = lit("#123456"),
-        .calendarIds = lit("[\"c\"]"),
-        .isDefault = true,
-        .sortOrder = 4,
-        .syncStatus = SyncStatus::Synced,
-        .createdAt = utc(1),
-        .updatedAt = utc(2),
-        .deletedAt = std::nullopt,
-    };
-    QVERIFY(views.insert(record));
-    QCOMPARE(views.getById(lit("v")), record);
-
-    ViewDef other = view(lit("v"));
-    other.createdAt = utc(9);
-    other.deletedAt = utc(9);
-    QVERIFY(views.update(other));
-    ViewDef read = *views.getById(lit("v"));
-    QVERIFY(isNow(read.updatedAt));
-    other.updatedAt = read.updatedAt;
-    other.createdAt = utc(1);
-    other.deletedAt.reset();
-    QCOMPARE(read, other);
-
-    QVERIFY(views.insert(view(lit("new"))));
-    QVERIFY(isNow(views.getById(lit("new"))->createdAt));
-    QVERIFY(isNow(views.getById(lit("all-calendars"))->createdAt)); // stamped by SQLite, in UTC
-}
-
-void tst_ConfigRepositories::viewsOrder()
-{
-    ViewRepository views(m_database->get());
-    QSignalSpy changed(&views, &ViewRepository::viewsChanged);
-    QVERIFY(views.insert(view(lit("b"), 1)) && views.insert(view(lit("a"), 1)) && views.insert(view(lit("first"), -5)));
-    m_database->execute(lit("UPDATE calendar_views SET sort_order = 99 WHERE is_default = 1"));
-    QCOMPARE(idsOf(views.getAll()), lit("all-calendars first a b"));
-    m_database->execute(lit("UPDATE calendar_views SET sync_status = 'synced'"));
-    QVERIFY(views.reorder({ lit("b"), lit("a"), lit("first") }));
-    QCOMPARE(idsOf(views.getAll()), lit("all-calendars b a first"));
-    QCOMPARE(views.getById(lit("a"))->sortOrder, 1);
-    QCOMPARE(m_database->count(lit("calendar_views"), lit("sync_status = 'pending'")), 3);
-    QCOMPARE(changed.size(), 4);
-    QVERIFY(views.reorder({}));
-    QCOMPARE(changed.size(), 4);
-}
-
-void tst_ConfigRepositories::viewsDelete()
-{
-    ViewRepository views(m_database->get());
-    ViewDef record = view(lit("v"));
-    record.syncStatus = SyncStatus::Synced;
-    QVERIFY(views.insert(record));
-    QVERIFY(views.softDelete(lit("v")));
-    QCOMPARE(idsOf(views.getAll()), lit("all-calendars"));
-    QCOMPARE(idsOf(views.getAllIncludingDeleted()), lit("all-calendars v"));
-    QVERIFY(isNow(views.getById(lit("v"))->deletedAt.value()));
-    QCOMPARE(views.getById(lit("v"))->syncStatus, QString(SyncStatus::Pending));
-    QVERIFY(views.hardDelete(lit("v")));
-    QCOMPARE(views.getById(lit("v")), std::nullopt);
-}
-
-void tst_ConfigRepositories::filtersKeepEveryField()
-{
-    FilterRuleRepository filters(m_database->get());
-    FilterRule record{
-        .id = lit("f"),
-        .name = lit("n"),
-        .type = FilterType::Specific,
-        .enabled = false,
-        .calendarIds = lit("[\"c\"]"),
-        .conditions = lit("{\"a\":1}"),
-        .action = FilterAction::Dim,
-        .priority = 7,
-        .eventUid = lit("u"),
-        .eventCalendarId = lit("c"),
-        .suppressReminders = true,
-        .syncStatus = SyncStatus::Synced,
-        .createdAt = utc(1),
-        .updatedAt = utc(2),
-        .deletedAt = std::nullopt,
-    };
-    QVERIFY(filters.insert(record));
-    QCOMPARE(filters.getById(lit("f")), record);
-
-    FilterRule other = filter(lit("f"), lit("other"));
-    QVERIFY(filters.update(other));
-    const FilterRule read = *filters.getById(lit("f"));
-    QVERIFY(isNow(read.updatedAt));
-    other.updatedAt = read.updatedAt;
-    other.createdAt = utc(1);
-    QCOMPARE(read, other);
-}
-
-void tst_ConfigRepositories::filtersOrder()
-{
-    FilterRuleRepository filters(m_database->get());
-    QVERIFY(filters.insert(filter(lit("1"), lit("z"), 5)) && filters.insert(filter(lit("2"), lit("b")))
-            && filters.insert(filter(lit("3"), lit("a"))));
-    QCOMPARE(idsOf(filters.getAll()), lit("1 3 2"));
-    QSignalSpy changed(&filters, &FilterRuleRepository::filterRulesChanged);
-    const quint64 generation = (*m_database)->dataGeneration();
-    QVERIFY(filters.reorder({ lit("2"), lit("1"), lit("3") }));
-    QCOMPARE(idsOf(filters.getAll()), lit("2 1 3"));
-    QCOMPARE(filters.getById(lit("2"))->priority, 0);
-    QCOMPARE(changed.size(), 1);
-    QVERIFY((*m_database)->dataGeneration() > generation);
-}
-
-void tst_ConfigRepositories::filtersDelete()
-{
-    FilterRuleRepository filters(m_database->get());
-    QVERIFY(filters.insert(filter(lit("1"), lit("a"))) && filters.insert(filter(lit("2"), lit("b")))
-            && filters.insert(filter(lit("3"), lit("c"))));
-    m_database->execute(lit("UPDATE filter_rules SET sync_status = 'synced'"));
-    QVERIFY(filters.setEnabled(lit("1"), false));
-    QVERIFY(filters.softDelete(lit("2")));
-    QCOMPARE(idsOf(filters.getEnabled()), lit("3"));
-    QCOMPARE(idsOf(filters.getAll()), lit("1 3"));
-    QCOMPARE(idsOf(filters.getAllIncludingDeleted()), lit("1 2 3"));
-    QVERIFY(filters.getById(lit("2"))->enabled);
-    QCOMPARE(m_database->count(lit("filter_rules"), lit("sync_status = 'pending'")), 2);
-    QVERIFY(filters.setEnabled(lit("1"), true));
-    QCOMPARE(idsOf(filters.getEnabled()), lit("1 3"));
-    QVERIFY(filters.hardDelete(lit("2")));
-    QCOMPARE(filters.getById(lit("2")), std::nullopt);
-}
-
-void tst_ConfigRepositories::templatesKeepEveryField()
-{
-    TemplateRepository templates(m_database->get());
-    EventTemplate record{
-        .id = lit("t"),
-        .name = lit("n"),
-        .title = lit("title"),
-        .description = lit("d"),
-        .location = lit("l"),
-        .color = lit("#123456"),
-        .isAllDay = true,
-        .durationMinutes = 15,
-        .recurrenceRule = lit("FREQ=DAILY"),
-        .calendarId = lit("c"),
-        .reminders = { 0, 10, 1440 },
-        .sortOrder = 3,
-        .createdAt = utc(1),
-        .updatedAt = utc(2),
-        .deletedAt = std::nullopt,
-    };
-    QVERIFY(templates.insert(record));
-    EventTemplate read = *templates.getById(lit("t"));
-    QVERIFY(isNow(read.createdAt) && isNow(read.updatedAt));
-    record.createdAt = read.createdAt;
-    record.updatedAt = read.updatedAt;
-    QCOMPARE(read, record);
-    QCOMPARE(m_database->column(lit("SELECT reminders FROM event_templates")), QStringList{ lit("[0,10,1440]") });
-
-    m_database->execute(lit("UPDATE event_templates SET sync_status = 'synced', updated_at = '2026-05-01T00:00:00Z'"));
-    EventTemplate other;
-    other.id = lit("t");
-    QVERIFY(templates.update(other));
-    read = *templates.getById(lit("t"));
-    QVERIFY(isNow(read.updatedAt));
-    other.createdAt = record.createdAt;
-    other.updatedAt = read.updatedAt;
-    QCOMPARE(read, other);
-    QCOMPARE(m_database->column(lit("SELECT sync_status FROM event_templates")), QStringList{ lit("pending") });
-
-    other.id.clear();
-    QVERIFY(templates.insert(other));
-    QCOMPARE(m_database->count(lit("event_templates"), lit("length(id) = 36")), 1);
-}
-
-void tst_ConfigRepositories::templatesReadOddReminders()
-{
-    m_database->execute(lit("INSERT INTO event_templates (id, name, title) VALUES ('t', '', '')"));
-    TemplateRepository templates(m_database->get());
-    QCOMPARE(templates.getById(lit("t"))->reminders, QList<int>{ 15 });
-    for (const auto *text : { "", "15", "{\"a\":1}", "[15" }) {
-        m_database->execute(lit("UPDATE event_templates SET reminders = '%1'").arg(lit(text)));
-        QCOMPARE(templates.getById(lit("t"))->reminders, QList<int>());
-    }
-}
-
-void tst_ConfigRepositories::templatesDelete()
-{
-    TemplateRepository templates(m_database->get());
-    QSignalSpy changed(&templates, &TemplateRepository::templatesChanged);
-    EventTemplate record;
-    record.id = lit("t");
-    QVERIFY(templates.insert(record));
-    QVERIFY(templates.softDelete(lit("t")));
-    QCOMPARE(templates.getById(lit("t")), std::nullopt);
-    QCOMPARE(templates.getAll().size(), 0);
-    QCOMPARE(templates.getAllIncludingDeleted().size(), 1);
-    QVERIFY(templates.hardDelete(lit("t")));
-    QCOMPARE(templates.getAllIncludingDeleted().size(), 0);
-    QCOMPARE(changed.size(), 3);
-}
-
-void tst_ConfigRepositories::settingsKeepTexts()
-{
-    PreferencesRepository settings(m_database->get());
-    QSignalSpy changed(&settings, &PreferencesRepository::changed);
-    QCOMPARE(settings.get(lit("ui/theme")), std::nullopt);
-    QCOMPARE(settings.get(lit("ui/theme"), lit("system")), lit("system"));
-    QVERIFY(settings.set(lit("ui/theme"), lit("dark")));
-    QVERIFY(settings.set(lit("ui/theme"), lit("dark")));
-    QCOMPARE(changed.size(), 2);
-    QCOMPARE(changed.first().at(0).toString(), lit("ui/theme"));
-    QCOMPARE(settings.get(lit("ui/theme"), lit("system")), lit("dark"));
-    QVERIFY(settings.set(lit("empty"), QString()));
-    QCOMPARE(settings.get(lit("empty"), lit("default")), QString());
-    QVERIFY(settings.setInt(lit("n"), -12));
-    QVERIFY(settings.setBool(lit("yes"), true) && settings.setBool(lit("no"), false));
-    QCOMPARE(m_database->column(lit("SELECT value FROM settings WHERE type = 'string' ORDER BY key")),
-             QStringList({ QString(), lit("-12"), lit("0"), lit("dark"), lit("1") }));
-    QVERIFY(settings.remove(lit("ui/theme")));
-    QCOMPARE(settings.get(lit("ui/theme")), std::nullopt);
-}
-
-void tst_ConfigRepositories::settingsReadNumbers_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("number") << lit("-5") << -5;
-    QTest::newRow("zero") << lit("0") << 0;
-    QTest::newRow("text") << lit("ten") << 42;
-    QTest::newRow("fraction") << lit("1.5") << 42;
-    QTest::newRow("empty") << QString() << 42;
-    QTest::newRow("too large") << lit("99999999999") << 42;
-}
-
-void tst_ConfigRepositories::settingsReadNumbers()
-{
-    QFETCH(QString, text);
-    PreferencesRepository settings(m_database->get());
-    QCOMPARE(settings.getInt(lit("key"), 42), 42);
-    QVERIFY(settings.set(lit("key"), text));
-    QTEST(settings.getInt(lit("key"), 42), "expected");
-}
-
-void tst_ConfigRepositories::settingsReadFlags_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("expected");
-    QTest::newRow("1") << lit("1") << true;
-    QTest::newRow("true") << lit("true") << true;
-    QTest::newRow("0") << lit("0") << false;
-    QTest::newRow("yes") << lit("yes") << false;
-    QTest::newRow("empty") << QString() << false;
-}
-
-void tst_ConfigRepositories::settingsReadFlags()
-{
-    QFETCH(QString, text);
-    PreferencesRepository settings(m_database->get());
-    QVERIFY(settings.getBool(lit("key"), true));
-    QVERIFY(settings.set(lit("key"), text));
-    for (const bool defaultValue : { true, false })
-        QTEST(settings.getBool(lit("key"), defaultValue), "expected");
-}
-
-void tst_ConfigRepositories::failuresAreLoggedAndSilent()
-{
-    ViewRepository views(m_database->get());
-    FilterRuleRepository filters(m_database->get());
-    QSignalSpy viewsChanged(&views, &ViewRepository::viewsChanged);
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(lit("^ViewRepository::insert failed: UNIQUE")));
-    QVERIFY(!views.insert(view(lit("all-calendars"))));
-    QCOMPARE(viewsChanged.size(), 0);
-    QVERIFY(filters.insert(filter(lit("1"), lit("a"))));
-    m_database->execute(
-        lit("CREATE TRIGGER refuse BEFORE UPDATE ON filter_rules BEGIN SELECT RAISE(ABORT, 'no'); END"));
-    QSignalSpy filtersChanged(&filters, &FilterRuleRepository::filterRulesChanged);
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(lit("^FilterRuleRepository::update failed: no")));
-    QVERIFY(!filters.update(filter(lit("1"), lit("b"))));
-    QCOMPARE(filtersChanged.size(), 0);
-}
 
 QTEST_GUILESS_MAIN(tst_ConfigRepositories)
 #include "tst_ConfigRepositories.moc"

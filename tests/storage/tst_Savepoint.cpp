@@ -6,166 +6,135 @@
 #include <QRegularExpression>
 #include <QTest>
 
-namespace {
-
-ViewDef view(const QString &id)
-{
-    ViewDef result;
-    result.id = id;
-    result.name = id;
-    return result;
-}
-
-QStringList storedIds(ScratchDatabase &database)
-{
-    return database.column(QStringLiteral("SELECT id FROM calendar_views WHERE id != 'all-calendars' ORDER BY id"));
-}
-
-}
+using namespace Qt::StringLiterals;
 
 class tst_Savepoint : public QObject {
     Q_OBJECT
 
 private slots:
-    void keepsWhatWasCommitted();
-    void rollsBackAtTheEndOfItsScope();
-    void nests();
-    void outermostDecides();
-    void rollbackCountsAsAChange();
-    void fullDiskLeavesNothingHalfWritten();
-    void refusesWritesAfterTheTransactionWasLost();
-};
-
-void tst_Savepoint::keepsWhatWasCommitted()
-{
-    ScratchDatabase database;
-    ViewRepository views(database.get());
-    Savepoint savepoint(database.get());
-    QVERIFY(savepoint.isActive());
-    QVERIFY(views.insert(view(QStringLiteral("a"))));
-    QVERIFY(savepoint.commit());
-    QVERIFY(!savepoint.commit());
-    savepoint.rollback();
-    QCOMPARE(storedIds(database), QStringList{ QStringLiteral("a") });
-    QCOMPARE(database->savepointDepth(), 0);
-}
-
-void tst_Savepoint::rollsBackAtTheEndOfItsScope()
-{
-    ScratchDatabase database;
-    ViewRepository views(database.get());
+    void init()
     {
-        Savepoint savepoint(database.get());
-        QVERIFY(views.insert(view(QStringLiteral("a"))));
+        m_database = std::make_unique<ScratchDatabase>();
+        m_views = std::make_unique<ViewRepository>(m_database->get());
     }
-    QCOMPARE(storedIds(database), QStringList());
-    QVERIFY(database->db().transaction()); // none is left open
-    QVERIFY(database->db().rollback());
-}
-
-void tst_Savepoint::nests()
-{
-    ScratchDatabase database;
-    ViewRepository views(database.get());
-    Savepoint outer(database.get());
-    QVERIFY(views.insert(view(QStringLiteral("a"))));
+    void cleanup()
     {
-        Savepoint inner(database.get());
-        QVERIFY(views.insert(view(QStringLiteral("b"))));
-        Savepoint innermost(database.get());
-        QVERIFY(views.insert(view(QStringLiteral("c"))));
-        QVERIFY(innermost.commit());
+        QCOMPARE(m_database->problems(), QString());
+        m_views.reset();
+        m_database.reset();
     }
-    Savepoint second(database.get());
-    QVERIFY(views.insert(view(QStringLiteral("d"))));
-    QVERIFY(second.commit());
-    QVERIFY(outer.commit());
-    QCOMPARE(storedIds(database), QStringList({ QStringLiteral("a"), QStringLiteral("d") }));
-}
 
-void tst_Savepoint::outermostDecides()
-{
-    ScratchDatabase database;
-    ViewRepository views(database.get());
+    void keepsWhatWasCommitted()
     {
-        Savepoint outer(database.get());
-        Savepoint inner(database.get());
-        QVERIFY(views.insert(view(QStringLiteral("a"))));
-        QVERIFY(inner.commit());
-    }
-    QCOMPARE(storedIds(database), QStringList());
-}
-
-void tst_Savepoint::rollbackCountsAsAChange()
-{
-    ScratchDatabase database;
-    const quint64 generation = database->dataGeneration();
-    const quint64 purges = database->eventPurges();
-    {
-        Savepoint savepoint(database.get());
-    }
-    QVERIFY(database->dataGeneration() > generation);
-    QCOMPARE(database->eventPurges(), purges);
-
-    quint64 purgesInside = 0;
-    {
-        Savepoint savepoint(database.get());
-        database->eventsPurged();
-        purgesInside = database->eventPurges();
-    }
-    QVERIFY(database->eventPurges() > purgesInside);
-}
-
-void tst_Savepoint::fullDiskLeavesNothingHalfWritten()
-{
-    ScratchDatabase database;
-    ViewRepository views(database.get());
-    const int pages = database.column(QStringLiteral("PRAGMA page_count")).first().toInt();
-    database.execute(QStringLiteral("PRAGMA max_page_count = %1").arg(pages + 4));
-
-    ViewDef large = view(QString());
-    large.name = QString(3000, u'x');
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("ViewRepository::insert failed: .*full")));
-    bool refused = false;
-    {
-        Savepoint savepoint(database.get());
-        for (int i = 0; i < 50 && !refused; ++i) {
-            large.id = QString::number(i);
-            refused = !views.insert(large);
-        }
-    }
-    QVERIFY(refused);
-    QCOMPARE(storedIds(database), QStringList());
-
-    database.execute(QStringLiteral("PRAGMA max_page_count = 1000000"));
-    QVERIFY(views.insert(large));
-    QCOMPARE(storedIds(database).size(), 1);
-    QCOMPARE(database.problems(), QString());
-}
-
-void tst_Savepoint::refusesWritesAfterTheTransactionWasLost()
-{
-    ScratchDatabase database;
-    ViewRepository views(database.get());
-    QVERIFY(views.insert(view(QStringLiteral("a"))));
-    const quint64 purges = database->eventPurges();
-    {
-        Savepoint savepoint(database.get());
-        QVERIFY(views.insert(view(QStringLiteral("b"))));
-        // What SQLite does by itself on a full disk.
-        database.execute(QStringLiteral("ROLLBACK"));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("ViewRepository::insert failed: UNIQUE")));
-        QVERIFY(!views.insert(view(QStringLiteral("a"))));
-        QTest::ignoreMessage(QtWarningMsg, "ViewRepository::insert failed: the transaction was given up");
-        QVERIFY(!views.insert(view(QStringLiteral("c"))));
-        QCOMPARE(views.getAll().size(), 2); // reading goes on
-        QTest::ignoreMessage(QtWarningMsg, "Savepoint commit failed: the transaction was given up");
+        Savepoint savepoint(m_database->get());
+        QVERIFY(add(u"a"_s));
+        QVERIFY(savepoint.commit());
         QVERIFY(!savepoint.commit());
+        savepoint.rollback();
+        QCOMPARE(storedIds(), u"a"_s);
+        QCOMPARE((*m_database)->savepointDepth(), 0);
     }
-    QVERIFY(database->eventPurges() > purges);
-    QCOMPARE(storedIds(database), QStringList{ QStringLiteral("a") });
-    QVERIFY(views.insert(view(QStringLiteral("d"))));
-}
+
+    void rollsBackAtTheEndOfItsScope()
+    {
+        const quint64 generation = (*m_database)->dataGeneration();
+        const quint64 purges = (*m_database)->eventPurges();
+        {
+            Savepoint outer(m_database->get());
+            Savepoint inner(m_database->get());
+            QVERIFY(add(u"a"_s));
+            QVERIFY(inner.commit()); // the outermost decides
+        }
+        QCOMPARE(storedIds(), u""_s);
+        QVERIFY((*m_database)->db().transaction()); // none is left open
+        QVERIFY((*m_database)->db().rollback());
+        QVERIFY((*m_database)->dataGeneration() > generation);
+        QCOMPARE((*m_database)->eventPurges(), purges);
+
+        quint64 purgesInside = 0;
+        {
+            Savepoint savepoint(m_database->get());
+            (*m_database)->eventsPurged();
+            purgesInside = (*m_database)->eventPurges();
+        }
+        QVERIFY((*m_database)->eventPurges() > purgesInside);
+    }
+
+    void nests()
+    {
+        Savepoint outer(m_database->get());
+        QVERIFY(add(u"a"_s));
+        {
+            Savepoint inner(m_database->get());
+            QVERIFY(add(u"b"_s));
+            Savepoint innermost(m_database->get());
+            QVERIFY(add(u"c"_s));
+            QVERIFY(innermost.commit());
+        }
+        Savepoint second(m_database->get());
+        QVERIFY(add(u"d"_s));
+        QVERIFY(second.commit());
+        QVERIFY(outer.commit());
+        QCOMPARE(storedIds(), u"a d"_s);
+    }
+
+    void fullDiskLeavesNothingHalfWritten()
+    {
+        const int pages = m_database->text(u"PRAGMA page_count"_s).toInt();
+        m_database->execute(u"PRAGMA max_page_count = %1"_s.arg(pages + 4));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"ViewRepository::insert failed: .*full"_s));
+        bool refused = false;
+        {
+            Savepoint savepoint(m_database->get());
+            for (int i = 0; i < 50 && !refused; ++i)
+                refused = !add(QString::number(i), 3000);
+        }
+        QVERIFY(refused);
+        QCOMPARE(storedIds(), u""_s);
+
+        m_database->execute(u"PRAGMA max_page_count = 1000000"_s);
+        QVERIFY(add(u"a"_s, 3000));
+        QCOMPARE(storedIds(), u"a"_s);
+    }
+
+    void refusesWritesAfterTheTransactionWasLost()
+    {
+        QVERIFY(add(u"a"_s));
+        const quint64 purges = (*m_database)->eventPurges();
+        {
+            Savepoint savepoint(m_database->get());
+            QVERIFY(add(u"b"_s));
+            // What SQLite does by itself on a full disk.
+            m_database->execute(u"ROLLBACK"_s);
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"ViewRepository::insert failed: UNIQUE"_s));
+            QVERIFY(!add(u"a"_s));
+            QTest::ignoreMessage(QtWarningMsg, "ViewRepository::insert failed: the transaction was given up");
+            QVERIFY(!add(u"c"_s));
+            QCOMPARE(m_views->getAll().size(), 2); // reading goes on
+            QTest::ignoreMessage(QtWarningMsg, "Savepoint commit failed: the transaction was given up");
+            QVERIFY(!savepoint.commit());
+        }
+        QVERIFY((*m_database)->eventPurges() > purges);
+        QVERIFY(add(u"d"_s));
+        QCOMPARE(storedIds(), u"a d"_s);
+    }
+
+private:
+    bool add(const QString &id, qsizetype nameSize = 1)
+    {
+        ViewDef view;
+        view.id = id;
+        view.name = QString(nameSize, u'x');
+        return m_views->insert(view);
+    }
+    QString storedIds()
+    {
+        return m_database->text(u"SELECT id FROM calendar_views WHERE id != 'all-calendars' ORDER BY id"_s);
+    }
+
+    std::unique_ptr<ScratchDatabase> m_database;
+    std::unique_ptr<ViewRepository> m_views;
+};
 
 QTEST_GUILESS_MAIN(tst_Savepoint)
 #include "tst_Savepoint.moc"

@@ -2,6 +2,8 @@
 
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
+#include "storage/EventRepository.h"
+#include "storage/TaskRepository.h"
 
 #include <QSqlError>
 #include <QSqlQuery>
@@ -34,6 +36,24 @@ QString ScratchDatabase::addCalendar(const QString &id, const QString &accountId
     if (!CalendarRepository(&m_database).insert(calendar))
         qFatal("cannot store a scratch calendar");
     return id;
+}
+
+void ScratchDatabase::addFullCalendar(const QString &id, const QString &accountId)
+{
+    addCalendar(id, accountId);
+    Event event;
+    event.id = event.uid = QStringLiteral("e-") + id;
+    event.calendarId = id;
+    event.startTime = QDateTime(QDate(2026, 5, 1), QTime(8, 0), Qt::UTC);
+    event.reminders = { Reminder{} };
+    event.attendees = { Attendee{} };
+    Task task;
+    task.id = task.uid = QStringLiteral("t-") + id;
+    task.calendarId = id;
+    task.reminders = { Reminder{} };
+    if (!EventRepository(&m_database).insert(event) || !TaskRepository(&m_database).insert(task))
+        qFatal("cannot fill a scratch calendar");
+    execute(QStringLiteral("INSERT INTO attachments (id, event_id, filename) VALUES ('f-%1', 'e-%1', 'x')").arg(id));
 }
 
 void ScratchDatabase::execute(const QString &sql)

@@ -16,11 +16,15 @@ public:
     /// A live CalDAV account, and a calendar in it. Both ids come back as given.
     QString addAccount(const QString &id);
     QString addCalendar(const QString &id, const QString &accountId);
+    /// A calendar with an event "e-ID" and a task "t-ID", both with children.
+    void addFullCalendar(const QString &id, const QString &accountId);
 
     /// Runs one statement as another program would; fails hard if SQLite refuses.
     void execute(const QString &sql);
     /// The first column of every row; NULL as the text "NULL".
     QStringList column(const QString &sql);
+    /// The same, separated by blanks.
+    QString text(const QString &sql) { return column(sql).join(u' '); }
     int count(const QString &table, const QString &condition = QStringLiteral("1"));
 
     /// What SQLite finds wrong with the file or its references; empty if all is well.

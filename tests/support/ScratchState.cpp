@@ -56,7 +56,7 @@ Event ScratchState::addAllDayEvent(const QString &title, QDate first, int days)
     return event;
 }
 
-QString ScratchState::addCalendar(const QString &name, const QString &color)
+QString ScratchState::addCalendar(const QString &name, const QString &color, const QString &accountId)
 {
     Calendar calendar = m_state.calendars()->getById(calendarId()).value();
     calendar.id = newId();
@@ -66,6 +66,8 @@ QString ScratchState::addCalendar(const QString &name, const QString &color)
     calendar.canonicalKey.clear();
     if (!color.isEmpty())
         calendar.color = color;
+    if (!accountId.isEmpty())
+        calendar.accountId = accountId;
     if (!m_state.calendars()->insert(calendar))
         qFatal("cannot store a scratch calendar");
     return calendar.id;
@@ -94,4 +96,12 @@ FilterRule ScratchState::addFilter(const QString &name, const QString &titlePart
     if (!m_state.filterRules()->insert(rule))
         qFatal("cannot store a scratch filter");
     return m_state.filterRules()->getById(rule.id).value();
+}
+
+void ScratchState::makeReadOnly(const QString &calendarId)
+{
+    Calendar calendar = m_state.calendars()->getById(calendarId).value();
+    calendar.isReadOnly = true;
+    if (!m_state.calendars()->update(calendar))
+        qFatal("cannot change a scratch calendar");
 }

@@ -29,8 +29,9 @@ public:
     /// A stored event of that calendar; times as given.
     Event addEvent(const QString &title, const QDateTime &start, const QDateTime &end);
     Event addAllDayEvent(const QString &title, QDate first, int days = 1);
-    /// A copy of the calendar with another id and name.
-    QString addCalendar(const QString &name, const QString &color = {});
+    /// A copy of the calendar with another id and name; of the same account if \p accountId is empty.
+    QString addCalendar(const QString &name, const QString &color = {}, const QString &accountId = {});
+    void makeReadOnly(const QString &calendarId);
     /// A group of calendars; its id is its name.
     ViewDef addGroup(const QString &name, const QStringList &calendarIds = {});
     /// A filter for events whose title contains \p titlePart; its id is its name.

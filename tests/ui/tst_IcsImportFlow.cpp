@@ -1,7 +1,7 @@
 #include "storage/Database.h"
 #include "support/ScratchState.h"
-#include "ui/IcsDrop.h"
 #include "ui/IcsImportFlow.h"
+#include "ui/dialogs/IcsDrop.h"
 #include "ui/dialogs/ImportDialog.h"
 #include "ui/dialogs/Prompt.h"
 

@@ -8,6 +8,8 @@
 #include "ui/ViewArea.h"
 #include "ui/dialogs/CalendarFormDialog.h"
 #include "ui/dialogs/ImportDialog.h"
+#include "ui/dialogs/Prompt.h"
+#include "ui/dialogs/WelcomeDialog.h"
 #include "ui/surfaces/WeekView.h"
 
 #include <QtTest>
@@ -258,6 +260,24 @@ private slots:
         QVERIFY(drop.isAccepted());
         QTRY_VERIFY(m_window->findChild<ImportDialog *>());
         m_window->findChild<ImportDialog *>()->reject();
+    }
+
+    void greetsOnce()
+    {
+        m_window = std::make_unique<MainWindow>(state());
+        m_window->welcomeOnFirstLaunch();
+        QVERIFY(!m_window->findChild<WelcomeDialog *>()); // nobody would see it
+        m_window->show();
+        m_window->welcomeOnFirstLaunch();
+        auto *welcome = m_window->findChild<WelcomeDialog *>();
+        QVERIFY(welcome && welcome->isVisible());
+        const Prompt::ScopedAnswers answers;
+        welcome->findChild<QPushButton *>()->click(); // to import a file
+        QVERIFY(!welcome->isVisible());
+        QCOMPARE(answers.asked.size(), 1);
+        QCOMPARE(answers.asked.constFirst().kind, u"openFiles"_qs);
+        m_window->welcomeOnFirstLaunch();
+        QVERIFY(!QApplication::activeModalWidget());
     }
 };
 

@@ -5,9 +5,18 @@
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
 #include "storage/PreferencesRepository.h"
+#include "support/TestData.h"
 
 #include <QTemporaryDir>
-#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString Local = LocalDefaults::LocalAccountId;
+const QString Personal = LocalDefaults::PersonalCalendarId;
+
+}
 
 /// What a start writes into the database: the first calendar, and the repairs of older versions' rows.
 class tst_AppStateSeed : public QObject {
@@ -18,183 +27,153 @@ private slots:
     {
         m_dir = std::make_unique<QTemporaryDir>();
         m_state = std::make_unique<AppState>();
-        QVERIFY(m_state->openStorage(m_dir->filePath(QStringLiteral("calendar.db"))));
+        QVERIFY(m_state->openStorage(m_dir->filePath(u"calendar.db"_s)));
     }
     void cleanup() { m_state.reset(); }
 
     void firstStartGivesACalendarToWriteTo()
     {
         m_state->seedDefaultCalendarIfMissing();
-        const std::optional<Account> account = m_state->accounts()->getById(LocalDefaults::LocalAccountId);
-        QVERIFY(account);
-        QCOMPARE(account->name, QStringLiteral("Quillon"));
-        QCOMPARE(account->type, AccountType::Quillon);
-        QCOMPARE(account->color, QStringLiteral("#4CAF50"));
-        QVERIFY(account->enabled && !account->excludeFromSync);
-        const std::optional<Calendar> calendar = m_state->calendars()->getById(LocalDefaults::PersonalCalendarId);
+        const std::optional<Account> account = accounts()->getById(Local);
+        QVERIFY(account && account->enabled && !account->excludeFromSync);
+        QCOMPARE(account->name + account->type, u"Quillonquillon"_s);
+        const std::optional<Calendar> calendar = calendars()->getById(Personal);
         QVERIFY(calendar);
-        QCOMPARE(calendar->name, QStringLiteral("Personal"));
-        QCOMPARE(calendar->accountId, LocalDefaults::LocalAccountId);
-        QCOMPARE(calendar->url, QStringLiteral("local://calendar/quillon-personal-default"));
-        QCOMPARE(calendar->color, QStringLiteral("#4285F4"));
+        QCOMPARE(calendar->name, u"Personal"_s);
+        QCOMPARE(calendar->accountId, Local);
+        QCOMPARE(calendar->url, u"local://calendar/quillon-personal-default"_s);
         QVERIFY(calendar->isVisible && calendar->isDefault && calendar->syncEnabled && !calendar->isReadOnly);
-        QVERIFY(!calendar->supportsTasks());
 
         m_state->seedDefaultCalendarIfMissing();
-        QCOMPARE(m_state->calendars()->getAll().size(), 1);
+        QCOMPARE(idsOf(calendars()->getAll()), Personal);
     }
 
-    void deletedPersonalCalendarComesBack()
+    void whatWasDeletedComesBack()
     {
         m_state->seedDefaultCalendarIfMissing();
-        insertCalendar(QStringLiteral("other"), LocalDefaults::LocalAccountId); // even with another one to write to
-        QVERIFY(m_state->calendars()->softDelete(LocalDefaults::PersonalCalendarId));
+        insertCalendar(u"other"_s, Local); // even with another one to write to
+        QVERIFY(calendars()->softDelete(Personal));
         m_state->seedDefaultCalendarIfMissing();
-        QVERIFY(m_state->calendars()->getById(LocalDefaults::PersonalCalendarId));
-        QCOMPARE(m_state->calendars()->getAll().size(), 2);
+        QCOMPARE(calendars()->getAll().size(), 2);
+
+        QVERIFY(accounts()->remove(Local));
+        m_state->seedDefaultCalendarIfMissing();
+        QCOMPARE(idsOf(accounts()->getAllIncludingDeleted()), Local);
+        QCOMPARE(idsOf(calendars()->getAll()), Personal);
     }
 
-    void deletedLocalAccountIsReplaced()
+    void onlyAQuillonCalendarIsEnough_data()
     {
-        m_state->seedDefaultCalendarIfMissing();
-        QVERIFY(m_state->accounts()->remove(LocalDefaults::LocalAccountId));
-        QVERIFY(!m_state->accounts()->getById(LocalDefaults::LocalAccountId));
-        m_state->seedDefaultCalendarIfMissing();
-        QVERIFY(m_state->accounts()->getById(LocalDefaults::LocalAccountId));
-        QVERIFY(m_state->calendars()->getById(LocalDefaults::PersonalCalendarId));
-        QCOMPARE(m_state->accounts()->getAllIncludingDeleted().size(), 1);
+        columns<QString, QString>("type", "expected");
+        row("of the cloud", "quillon", "c");
+        row("of another server", "caldav", "quillon-personal-default c");
     }
-
-    void otherQuillonCalendarIsEnough()
+    void onlyAQuillonCalendarIsEnough()
     {
-        insertAccount(QStringLiteral("cloud"), AccountType::Quillon, QStringLiteral("Cloud"));
-        insertCalendar(QStringLiteral("cloud-calendar"), QStringLiteral("cloud"));
+        QFETCH(QString, type);
+        insertAccount(u"a"_s, type);
+        insertCalendar(u"c"_s, u"a"_s);
         m_state->seedDefaultCalendarIfMissing();
-        QCOMPARE(m_state->calendars()->getAll().size(), 1);
-        QVERIFY(!m_state->accounts()->getById(LocalDefaults::LocalAccountId));
-    }
-
-    void calendarOfAnotherServerIsNotEnough()
-    {
-        insertAccount(QStringLiteral("dav"), AccountType::CalDAV, QStringLiteral("Work"));
-        insertCalendar(QStringLiteral("dav-calendar"), QStringLiteral("dav"));
-        m_state->seedDefaultCalendarIfMissing();
-        QVERIFY(m_state->calendars()->getById(LocalDefaults::PersonalCalendarId));
+        QTEST(idsOf(calendars()->getAll()), "expected");
     }
 
     void renamesTheLocalAccountOnce_data()
     {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<QString>("after");
-        QTest::newRow("first name") << "quillon"
-                                    << "On This Device"
-                                    << "Quillon";
-        QTest::newRow("lower case") << "quillon"
-                                    << "On this device"
-                                    << "Quillon";
-        QTest::newRow("Personal") << "quillon"
-                                  << "Personal"
-                                  << "Quillon";
-        QTest::newRow("the user's own name") << "quillon"
-                                             << "personal"
-                                             << "personal";
-        QTest::newRow("another type") << "caldav"
-                                      << "Personal"
-                                      << "Personal";
+        columns<QString, QString, QString>("type", "before", "after");
+        row("first name", "quillon", "On This Device", "Quillon");
+        row("lower case", "quillon", "On this device", "Quillon");
+        row("Personal", "quillon", "Personal", "Quillon");
+        row("the user's own name", "quillon", "personal", "personal");
+        row("another type", "caldav", "Personal", "Personal");
     }
     void renamesTheLocalAccountOnce()
     {
         QFETCH(QString, type);
         QFETCH(QString, before);
-        const QString flag = QStringLiteral("migrations/quillonAccountRenamedV1");
+        m_state->runOneOffRepairs(); // there is no account yet, so its time has not come
+        Account account = insertAccount(Local, type, before);
         m_state->runOneOffRepairs();
-        QVERIFY(!m_state->preferences()->getBool(flag, false)); // there was no account yet
-
-        insertAccount(LocalDefaults::LocalAccountId, type, before);
+        QTEST(accounts()->getById(Local)->name, "after");
+        account.name = u"Personal"_s; // now it is the user's choice
+        QVERIFY(accounts()->update(account));
         m_state->runOneOffRepairs();
-        QTEST(m_state->accounts()->getById(LocalDefaults::LocalAccountId)->name, "after");
-        QVERIFY(m_state->preferences()->getBool(flag, false));
-
-        Account account = m_state->accounts()->getById(LocalDefaults::LocalAccountId).value();
-        account.name = QStringLiteral("Personal"); // now it is the user's choice
-        QVERIFY(m_state->accounts()->update(account));
-        m_state->runOneOffRepairs();
-        QCOMPARE(m_state->accounts()->getById(LocalDefaults::LocalAccountId)->name, QStringLiteral("Personal"));
+        QCOMPARE(accounts()->getById(Local)->name, u"Personal"_s);
     }
 
     void enablesSyncOnOwnCalendarsOnce()
     {
-        insertAccount(QStringLiteral("own"), AccountType::Quillon, QStringLiteral("Own"));
-        insertAccount(QStringLiteral("kept-out"), AccountType::Quillon, QStringLiteral("Kept out"), true);
-        insertAccount(QStringLiteral("dav"), AccountType::CalDAV, QStringLiteral("Work"));
-        insertCalendar(QStringLiteral("plain"), QStringLiteral("own"));
-        insertCalendar(QStringLiteral("shared"), QStringLiteral("own"), [](Calendar &c) { c.sharedWithMe = true; });
-        insertCalendar(QStringLiteral("read-only"), QStringLiteral("own"), [](Calendar &c) { c.isReadOnly = true; });
-        insertCalendar(QStringLiteral("excluded"), QStringLiteral("kept-out"));
-        insertCalendar(QStringLiteral("foreign"), QStringLiteral("dav"));
+        insertAccount(u"own"_s, AccountType::Quillon);
+        Account keptOut = insertAccount(u"kept-out"_s, AccountType::Quillon);
+        keptOut.excludeFromSync = true;
+        QVERIFY(accounts()->update(keptOut));
+        insertAccount(u"dav"_s, AccountType::CalDAV);
+        Calendar plain = insertCalendar(u"plain"_s, u"own"_s);
+        Calendar shared = insertCalendar(u"shared"_s, u"own"_s);
+        shared.sharedWithMe = true;
+        Calendar readOnly = insertCalendar(u"read-only"_s, u"own"_s);
+        readOnly.isReadOnly = true;
+        QVERIFY(calendars()->update(shared) && calendars()->update(readOnly));
+        insertCalendar(u"excluded"_s, u"kept-out"_s);
+        insertCalendar(u"foreign"_s, u"dav"_s);
+        const auto enabled = [this] {
+            QList<Calendar> all = calendars()->getAll();
+            all.removeIf([](const Calendar &calendar) { return !calendar.syncEnabled; });
+            return idsOf(all);
+        };
         m_state->runOneOffRepairs();
-        QStringList enabled;
-        for (const Calendar &calendar : m_state->calendars()->getAll()) {
-            if (calendar.syncEnabled)
-                enabled.append(calendar.id);
-        }
-        QCOMPARE(enabled, QStringList(QStringLiteral("plain")));
-
-        Calendar plain = m_state->calendars()->getById(QStringLiteral("plain")).value();
-        plain.syncEnabled = false;
-        QVERIFY(m_state->calendars()->update(plain));
+        QCOMPARE(enabled(), u"plain"_s);
+        QVERIFY(calendars()->update(plain)); // not enabled
         m_state->runOneOffRepairs();
-        QVERIFY(!m_state->calendars()->getById(QStringLiteral("plain"))->syncEnabled);
+        QCOMPARE(enabled(), u""_s);
     }
 
     void sampleDataStaysOutOfSyncAtEveryStart()
     {
-        insertAccount(LocalDefaults::SampleAccountId, AccountType::Quillon, QStringLiteral("Sample"));
+        Account sample = insertAccount(LocalDefaults::SampleAccountId, AccountType::Quillon);
         for (int start = 0; start < 2; ++start) {
-            Account sample = m_state->accounts()->getById(LocalDefaults::SampleAccountId).value();
-            sample.excludeFromSync = false;
-            QVERIFY(m_state->accounts()->update(sample));
+            QVERIFY(accounts()->update(sample)); // not excluded
             m_state->runOneOffRepairs();
-            QVERIFY(m_state->accounts()->getById(LocalDefaults::SampleAccountId)->excludeFromSync);
+            QVERIFY(accounts()->getById(sample.id)->excludeFromSync);
         }
     }
 
     void collapsesTheSameLoginOnce()
     {
-        insertAccount(QStringLiteral("a"), AccountType::CalDAV, QStringLiteral("Work"));
-        insertAccount(QStringLiteral("b"), AccountType::CalDAV, QStringLiteral("Work"));
+        insertAccount(u"a"_s, AccountType::CalDAV);
+        insertAccount(u"b"_s, AccountType::CalDAV);
         m_state->runOneOffRepairs();
-        QCOMPARE(m_state->accounts()->getAll().size(), 1);
-        insertAccount(QStringLiteral("c"), AccountType::CalDAV, QStringLiteral("Work"));
+        QCOMPARE(accounts()->getAll().size(), 1);
+        insertAccount(u"c"_s, AccountType::CalDAV);
         m_state->runOneOffRepairs();
-        QCOMPARE(m_state->accounts()->getAll().size(), 2);
+        QCOMPARE(accounts()->getAll().size(), 2);
     }
 
 private:
-    void insertAccount(const QString &id, const QString &type, const QString &name, bool excludeFromSync = false)
+    AccountRepository *accounts() { return m_state->accounts(); }
+    CalendarRepository *calendars() { return m_state->calendars(); }
+
+    Account insertAccount(const QString &id, const QString &type, const QString &name = u"Work"_s)
     {
         Account account;
         account.id = id;
         account.type = type;
         account.name = name;
-        account.serverUrl = QStringLiteral("https://dav.example.org/");
-        account.username = QStringLiteral("alice");
-        account.excludeFromSync = excludeFromSync;
-        account.createdAt = account.updatedAt = QDateTime::currentDateTimeUtc();
-        QVERIFY(m_state->accounts()->insert(account));
+        account.serverUrl = u"https://dav.example.org/"_s;
+        account.username = u"alice"_s;
+        if (!accounts()->insert(account))
+            qFatal("cannot store an account");
+        return account;
     }
 
-    void insertCalendar(const QString &id, const QString &accountId, const std::function<void(Calendar &)> &change = {})
+    Calendar insertCalendar(const QString &id, const QString &accountId)
     {
         Calendar calendar;
         calendar.id = calendar.name = id;
         calendar.accountId = accountId;
-        calendar.url = QStringLiteral("local://calendar/") + id;
-        calendar.createdAt = calendar.updatedAt = QDateTime::currentDateTimeUtc();
-        if (change)
-            change(calendar);
-        QVERIFY(m_state->calendars()->insert(calendar));
+        calendar.url = u"local://calendar/"_s + id;
+        if (!calendars()->insert(calendar))
+            qFatal("cannot store a calendar");
+        return calendar;
     }
 
     std::unique_ptr<QTemporaryDir> m_dir;

@@ -1,11 +1,13 @@
 #include "support/ScratchState.h"
 #include "ui/dialogs/CalendarFormDialog.h"
+#include "ui/dialogs/FeedbackDialog.h"
 #include "ui/dialogs/FilterFormDialog.h"
 #include "ui/dialogs/ImportDialog.h"
 #include "ui/dialogs/ManageFiltersDialog.h"
 #include "ui/dialogs/ManageViewsDialog.h"
 #include "ui/dialogs/PreferencesDialog.h"
 #include "ui/dialogs/ViewFormDialog.h"
+#include "ui/dialogs/WelcomeDialog.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -20,6 +22,11 @@ FilterRule ruleWith(const QString &conditions)
     rule.conditions = conditions;
     rule.calendarIds = QStringLiteral("[\"%1\"]").arg(ScratchState::calendarId());
     return rule;
+}
+
+QDialog *feedbackTo(const char *url)
+{
+    return new QuillonFeedback::FeedbackDialog({ QStringLiteral("calendar"), QLatin1StringView(url) });
 }
 
 QRect inDialog(const QWidget *widget)
@@ -66,6 +73,10 @@ private slots:
             { "groups", [](AppState *s) { return new ManageViewsDialog(s); } },
             { "calendar", [](AppState *s) { return new CalendarFormDialog(s); } },
             { "import", [](AppState *s) { return new ImportDialog(s, { QString(90, u'w') }, 3); } },
+            { "welcome", [](AppState *s) { return new WelcomeDialog(s); } },
+            { "feedback by web", [](AppState *) { return feedbackTo("https://feedback.example.org/v1"); } },
+            { "feedback by mail", [](AppState *) { return feedbackTo("mailto:makers@example.org"); } },
+            { "feedback by hand", [](AppState *) { return feedbackTo(""); } },
             { "preferences", [](AppState *s) { return new PreferencesDialog(s); } },
         };
         for (const auto &[name, make] : dialogs) {

@@ -1,7 +1,6 @@
 #include "ui/surfaces/MiniMonthCalendar.h"
 
 #include "support/ScratchState.h"
-#include "ui/theme/Theme.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -268,6 +267,28 @@ private slots:
         QCOMPARE(press(march(15), Qt::Key_Home), QDate::currentDate());
         QCOMPARE(press(march(15), Qt::Key_T), QDate()); // a letter is the window's
         QCOMPARE(state()->currentDate(), march(15));
+    }
+
+    void weekNumbers()
+    {
+        // ISO 8601: week 1 has the first Thursday of the year.
+        QCOMPARE(MiniMonthGeometry::weekNumber(QDate(2025, 12, 29)), 1); // 2026 begins on a Thursday
+        QCOMPARE(MiniMonthGeometry::weekNumber(QDate(2025, 12, 28)), 1); // the same row from Sunday
+        QCOMPARE(MiniMonthGeometry::weekNumber(QDate(2025, 12, 27)), 1); // and from Saturday
+        QCOMPARE(MiniMonthGeometry::weekNumber(QDate(2026, 12, 28)), 53);
+        QCOMPARE(MiniMonthGeometry::weekNumber(QDate(2027, 1, 4)), 1);
+    }
+
+    void weekNumbersMakeRoomAtOnce()
+    {
+        QVERIFY(m_month->dateAt({ 8, 70 }).isValid());
+        const int narrow = m_month->minimumSizeHint().width();
+        state()->preferences()->setBool(u"ui/showWeekNumbers"_qs, true);
+        QVERIFY(!m_month->dateAt({ 8, 70 }).isValid());
+        QCOMPARE(m_month->dateAt(m_month->dateRect(march(31)).center()), march(31));
+        QVERIFY(m_month->minimumSizeHint().width() >= narrow);
+        state()->preferences()->setBool(u"ui/showWeekNumbers"_qs, false);
+        QVERIFY(m_month->dateAt({ 8, 70 }).isValid());
     }
 };
 
