@@ -144,9 +144,7 @@ private slots:
 
     void needsAWritableCalendar()
     {
-        auto calendar = (*m_state)->calendars()->getById(ScratchState::calendarId()).value();
-        calendar.isReadOnly = true;
-        QVERIFY((*m_state)->calendars()->update(calendar));
+        m_state->makeReadOnly(ScratchState::calendarId());
         m_flow->start({ write(u"a.ics"_qs, vevent("a", "A")),
                         write(u"b.ics"_qs, vevent("", "Nameless") + vevent("b", "Never", "")) });
         QTRY_VERIFY(!m_flow->isRunning());
