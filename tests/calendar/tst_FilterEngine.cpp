@@ -156,15 +156,6 @@ private slots:
         }
     }
 
-    void timeOfOccurrences()
-    {
-        // One series, one id: each instance is judged by its own start.
-        const Event first = makeEvent(u"series"_s, QDateTime(QDate(2026, 5, 4), QTime(9, 0)));
-        const Event second = makeEvent(u"series"_s, QDateTime(QDate(2026, 5, 5), QTime(10, 0)));
-        const FilterRule rule = makeRule(FilterEngine::conditionsToJson(Time{ .timeExact = u"10:00"_s }));
-        QCOMPARE(FilterEngine::apply({ first, second }, { rule }).events, QList<Event>{ first });
-    }
-
     void lowerPriorityDecides()
     {
         const QList<Event> events{ makeEvent(u"a"_s) };

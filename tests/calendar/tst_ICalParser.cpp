@@ -97,7 +97,6 @@ private slots:
         row("in the overlap", "DTSTART;TZID=Europe/Paris:20261025T023000", "2026-10-25T00:30:00Z", "Europe/Paris");
         row("floating", "DTSTART:20260315T090000", "2026-03-15T09:00:00", "UTC");
         row("unknown zone", "DTSTART;TZID=Nowhere:20260315T090000", "2026-03-15T09:00:00", "Nowhere");
-        row("empty zone", "DTSTART;TZID=:20260315T090000", "2026-03-15T09:00:00", "UTC");
         for (const char *value : { "20260230", "20261315T090000Z", "20260315T250000Z", "20260315Z",
                                    "20260315T090000.5Z", "20260315T090000+0100", "2026-03-15T09:00:00", "2026031ß" })
             row(value, QLatin1StringView("DTSTART:") + QString::fromUtf8(value), "", "UTC");
@@ -117,10 +116,8 @@ private slots:
         row("DTEND", "DTEND:20260315T103000Z", "2026-03-15T10:30:00Z");
         row("90 minutes", "DURATION:PT90M", "2026-03-15T10:30:00Z");
         row("duration first, days of a date", "DURATION:P2D\nDTSTART:20260315", "2026-03-17");
-        row("zero duration", "DURATION:PT0S", "");
         row("negative duration", "DURATION:-PT1H", "");
         row("DTEND before DURATION", "DTEND:20260315T100000Z\nDURATION:PT5H", "2026-03-15T10:00:00Z");
-        row("DTEND after DURATION", "DURATION:PT5H\nDTEND:20260315T100000Z", "2026-03-15T10:00:00Z");
         row("unreadable DTEND, DURATION", "DURATION:PT5H\nDTEND:soon", "");
         row("duration over a clock change", "DTSTART;TZID=Europe/Paris:20260329T013000\nDURATION:PT1H",
             "2026-03-29T01:30:00Z");
@@ -188,7 +185,6 @@ private slots:
         row("audio", "ACTION:Audio\nTRIGGER;RELATED=START:-PT5M", 5, "audio");
         row("absurdly long before", "TRIGGER:-P999999999999W", std::numeric_limits<int>::max() / 60, "display");
         row("after", "ACTION:DISPLAY\nTRIGGER:PT15M", -1, "");
-        row("seconds after", "ACTION:DISPLAY\nTRIGGER:+PT15S", -1, "");
         row("before the end", "ACTION:DISPLAY\nTRIGGER;RELATED=end:-PT15M", -1, "");
         row("absolute", "ACTION:DISPLAY\nTRIGGER;VALUE=DATE-TIME:20260315T080000Z", -1, "");
         row("mail", "ACTION:EMAIL\nTRIGGER:-PT15M\nATTENDEE:mailto:a@e.org", -1, "");
@@ -209,21 +205,17 @@ private slots:
         QCOMPARE(event.uid + event.title + event.location, u"uLunchHere"_s);
     }
 
-    void organizers_data()
-    {
-        columns<QString, QString, QString>("line", "email", "name");
-        row("plain", "ORGANIZER;CN=Jane:mailto:jane@e.org", "jane@e.org", "Jane");
-        row("quoted name, upper case", "ORGANIZER;CN=\"Doe, Jane\":MAILTO:jane", "jane", "\"Doe, Jane\"");
-        row("in quotes", "ORGANIZER;SENT-BY=\"mailto:x@e.org\";CN=\"a;CN=b:c\":mailto:jane", "jane", "\"a;CN=b:c\"");
-        row("quote never closed", "ORGANIZER;CN=\"Jane:mailto:jane", "jane", "\"Jane");
-        row("parameter without value", "ORGANIZER;CN;=x;:jane@e.org", "jane@e.org", "");
-    }
     void organizers()
     {
-        QFETCH(QString, line);
-        const Event event = eventOf(line.toUtf8());
-        QTEST(event.organizerEmail, "email");
-        QTEST(event.organizerName, "name");
+        const auto organizer = [](const QByteArray &line) {
+            const Event event = eventOf("ORGANIZER" + line);
+            return event.organizerEmail + u'|' + event.organizerName;
+        };
+        QCOMPARE(organizer(";CN=Jane:mailto:jane@e.org"), u"jane@e.org|Jane"_s);
+        QCOMPARE(organizer(";CN=\"Doe, Jane\":MAILTO:jane"), u"jane|\"Doe, Jane\""_s);
+        QCOMPARE(organizer(";SENT-BY=\"mailto:x@e.org\";CN=\"a;CN=b:c\":mailto:jane"), u"jane|\"a;CN=b:c\""_s);
+        QCOMPARE(organizer(";CN=\"Jane:mailto:jane"), u"jane|\"Jane"_s); // never closed
+        QCOMPARE(organizer(";CN;=x;:jane@e.org"), u"jane@e.org|"_s);
     }
 
     void attendees()
@@ -259,8 +251,8 @@ private slots:
         columns<QByteArray, QString>("text", "uids");
         const QByteArray a = "BEGIN:VEVENT\nUID:a\nEND:VEVENT\n";
         const QByteArray b = "BEGIN:VEVENT\nUID:b\nEND:VEVENT\n";
-        row("byte order mark, no final line end", QByteArray("\xEF\xBB\xBF" + a + b.chopped(1)), "a b");
-        row("mixed line ends", QByteArray(QByteArray(a).replace("\n", "\r\n") + b), "a b");
+        row("byte order mark, mixed line ends",
+            QByteArray("\xEF\xBB\xBF" + QByteArray(a).replace("\n", "\r\n") + b.chopped(1)), "a b");
         row("cut off", QByteArray(a + b.chopped(3)), "a");
         row("cut off, then another", QByteArray(a.chopped(11) + b), "b");
         row("stray ends", QByteArray("END:VEVENT\n" + a + "END:VALARM\nEND:VEVENT\n" + b), "a b");
@@ -301,112 +293,81 @@ private slots:
         QVERIFY(event.rawIcalendar.contains(QString::fromLatin1(text)));
     }
 
-    void leavesOutWhatIsTooLarge_data()
-    {
-        columns<QByteArray, int, bool>("line", "times", "isKept");
-        constexpr int limit = 16 * 1024 * 1024;
-        const QByteArray line = "X-LINE:" + QByteArray(1015, 'x') + "\r\n"; // 1 KiB
-        row("one line", QByteArray("X-LINE:" + QByteArray(limit, 'x') + "\r\n"), 1, false);
-        row("many lines", line, limit / 1024, false);
-        row("many lines, not too many", line, limit / 1024 - 1, true);
-    }
     void leavesOutWhatIsTooLarge()
     {
-        QFETCH(QByteArray, line);
-        QFETCH(int, times);
-        QFETCH(bool, isKept);
-        ICalParser::EventReader reader("BEGIN:VEVENT\r\nUID:a\r\n" + line.repeated(times)
-                                       + "END:VEVENT\r\nBEGIN:VEVENT\r\nUID:b\r\nEND:VEVENT\r\n");
-        QCOMPARE(uidsOf(reader.read(10, reader.size())), isKept ? u"a b"_s : u"b"_s);
-        QCOMPARE(reader.skipped().tooLarge, isKept ? 0 : 1);
+        constexpr int limit = 16 * 1024 * 1024;
+        const auto found = [](const QByteArray &lines) {
+            ICalParser::EventReader reader("BEGIN:VEVENT\r\nUID:a\r\n" + lines
+                                           + "END:VEVENT\r\nBEGIN:VEVENT\r\nUID:b\r\nEND:VEVENT\r\n");
+            return u"%1, %2 too large"_s.arg(uidsOf(reader.read(10, reader.size()))).arg(reader.skipped().tooLarge);
+        };
+        const QByteArray line = "X-LINE:" + QByteArray(1015, 'x') + "\r\n"; // 1 KiB
+        QCOMPARE(found("X-LINE:" + QByteArray(limit, 'x') + "\r\n"), u"b, 1 too large"_s);
+        QCOMPARE(found(line.repeated(limit / 1024)), u"b, 1 too large"_s);
+        QCOMPARE(found(line.repeated(limit / 1024 - 1)), u"a b, 0 too large"_s);
     }
 
-    void readsTheSameInSlices_data()
-    {
-        columns<int, qsizetype>("maxEvents", "maxBytes");
-        row("three events", 3, qsizetype(1'000'000));
-        row("one byte", 100, qsizetype(1));
-        row("100 bytes", 2, qsizetype(100));
-    }
     void readsTheSameInSlices()
     {
-        QFETCH(int, maxEvents);
-        QFETCH(qsizetype, maxBytes);
         QByteArray text = "BEGIN:VCALENDAR\r\n";
         for (int i = 0; i < 20; ++i)
             text += "BEGIN:VEVENT\r\nUID:" + QByteArray::number(i)
                 + "\r\nSUMMARY:a long \r\n line in \r\n three pieces\r\nEXDATE:20260316T080000Z\r\nEND:VEVENT\r\n";
-        ICalParser::EventReader reader(text);
-        QList<Event> events;
-        while (!reader.atEnd()) {
-            const qsizetype before = reader.bytesRead();
-            const QList<Event> more = reader.read(maxEvents, maxBytes);
-            QVERIFY(more.size() <= maxEvents);
-            QVERIFY(reader.bytesRead() > before);
-            events.append(more);
+        for (const auto &[maxEvents, maxBytes] : { std::pair(3, 1'000'000), std::pair(100, 1), std::pair(2, 100) }) {
+            ICalParser::EventReader reader(text);
+            QList<Event> events;
+            while (!reader.atEnd()) {
+                const qsizetype before = reader.bytesRead();
+                const QList<Event> more = reader.read(maxEvents, maxBytes);
+                QVERIFY(more.size() <= maxEvents && reader.bytesRead() > before);
+                events.append(more);
+            }
+            QCOMPARE(events.size(), 20);
+            QCOMPARE(events[19].title, u"a long line in three pieces"_s);
+            QCOMPARE(events, ICalParser::parse(text));
         }
-        QCOMPARE(events.size(), 20);
-        QCOMPARE(events[19].title, u"a long line in three pieces"_s);
-        QCOMPARE(events, ICalParser::parse(text));
     }
 
-    void aSliceEndsWithinJunk_data()
-    {
-        columns<QByteArray>("piece");
-        row("lines", "no event here\n"_ba);
-        row("one line with many folds", "x\n "_ba);
-        row("begins without an end", "BEGIN:VEVENT\n"_ba);
-        row("ends without a UID", "BEGIN:VEVENT\nEND:VEVENT\n"_ba);
-    }
     void aSliceEndsWithinJunk()
     {
-        QFETCH(QByteArray, piece);
-        ICalParser::EventReader reader(piece.repeated(20'000));
-        QVERIFY(reader.read(10, 1000).isEmpty());
-        QVERIFY(reader.bytesRead() >= 1000 && reader.bytesRead() < 1100);
-        QVERIFY(reader.read(10, reader.size()).isEmpty());
-        QVERIFY(reader.atEnd());
+        for (const char *piece : { "no event here\n", "x\n ", "BEGIN:VEVENT\n", "BEGIN:VEVENT\nEND:VEVENT\n" }) {
+            ICalParser::EventReader reader(QByteArray(piece).repeated(20'000));
+            QVERIFY2(reader.read(10, 1000).isEmpty(), piece);
+            QVERIFY2(reader.bytesRead() >= 1000 && reader.bytesRead() < 1100, piece);
+            QVERIFY2(reader.read(10, reader.size()).isEmpty() && reader.atEnd(), piece);
+        }
     }
 
-    void durations_data()
+    void durationsAndTriggers()
     {
-        columns<QString, qint64>("text", "seconds");
-        row("RFC 5545 §3.3.6", "P15DT5H0M20S", qint64(15) * 86'400 + 5 * 3'600 + 20);
-        row("RFC 5545 §3.3.6, weeks", "P7W", qint64(7) * 604'800);
-        row("months", "P1M", qint64(30) * 86'400);
-        row("hours outside the time part", "P5H3S", qint64(0));
-        row("unknown letter takes its number", "P5X2D", qint64(2) * 86'400);
-        for (const char *text : { "", "-PT1H", "1H", "PT5" })
-            row(text, QString::fromLatin1(text), qint64(0));
-    }
-    void durations()
-    {
-        QFETCH(QString, text);
-        QTEST(ICalParser::parseDurationSeconds(text), "seconds");
-    }
-
-    void triggers()
-    {
-        QCOMPARE(ICalParser::parseTriggerMinutes(u" PT15M "), 15); // after counts as before
-        QCOMPARE(ICalParser::parseTriggerMinutes(u"+PT1H"), 60);
-        QCOMPARE(ICalParser::parseTriggerMinutes(u"-PT119S"), 1);
-        for (const QStringView text : { u"20260315T090000Z", u"", u"-" })
-            QCOMPARE(ICalParser::parseTriggerMinutes(text), -1);
+        const auto seconds = [](const char *text) {
+            return ICalParser::parseDurationSeconds(QString::fromLatin1(text));
+        };
+        QCOMPARE(seconds("P15DT5H0M20S"), qint64(15) * 86'400 + 5 * 3'600 + 20); // RFC 5545 §3.3.6
+        QCOMPARE(seconds("P7W"), qint64(7) * 604'800);
+        QCOMPARE(seconds("P1M"), qint64(30) * 86'400);
+        QCOMPARE(seconds("P5X2D"), qint64(2) * 86'400); // an unknown letter takes its number
+        for (const char *text : { "", "-PT1H", "1H", "PT5", "P5H3S" })
+            QCOMPARE(seconds(text), 0);
+        const auto minutes = [](const char *text) {
+            return ICalParser::parseTriggerMinutes(QString::fromLatin1(text));
+        };
+        QCOMPARE(minutes(" PT15M "), 15); // after counts as before
+        QCOMPARE(minutes("+PT1H"), 60);
+        QCOMPARE(minutes("-PT119S"), 1);
+        for (const char *text : { "", "20260315T090000Z", "-" })
+            QCOMPARE(minutes(text), -1);
     }
 
-    void escaping_data()
-    {
-        columns<QString, QString, QString>("text", "escaped", "readBack");
-        row("all", "a,b;c\\d\ne", "a\\,b\\;c\\\\d\\ne", "a,b;c\\d\ne");
-        row("line ends", "a\r\nb\rc\r\r\n", "a\\nb\\nc\\n\\n", "a\nb\nc\n\n");
-        row("backslash n", "\\n", "\\\\n", "\\n");
-    }
     void escaping()
     {
-        QFETCH(QString, text);
-        QFETCH(QString, escaped);
-        QCOMPARE(ICalParser::escapeText(text), escaped);
-        QTEST(ICalParser::unescapeText(escaped), "readBack");
+        const auto check = [](const QString &text, const QString &escaped, const QString &readBack) {
+            QCOMPARE(ICalParser::escapeText(text), escaped);
+            QCOMPARE(ICalParser::unescapeText(escaped), readBack);
+        };
+        check(u"a,b;c\\d\ne"_s, u"a\\,b\\;c\\\\d\\ne"_s, u"a,b;c\\d\ne"_s);
+        check(u"a\r\nb\rc\r\r\n"_s, u"a\\nb\\nc\\n\\n"_s, u"a\nb\nc\n\n"_s);
+        check(u"\\n"_s, u"\\\\n"_s, u"\\n"_s);
     }
 
     void replacesTimes_data()

@@ -31,14 +31,11 @@ private slots:
         row("no last semicolon", "A;\nB", "A|B");
         row("comment line between", "A;\n  -- x; y\nB;", "A|B");
         row("comment line inside", "A\n-- x;\nB;", "A\nB");
-        row("trailing comment stays", "A -- x\nB;", "A -- x\nB");
-        row("semicolon inside a line", "A; B;", "A; B");
         row("trigger stays whole", "CREATE TRIGGER t\nbegin\n  X;\n  Y;\nEND;\nB;",
             "CREATE TRIGGER t\nbegin\n  X;\n  Y;\nEND|B");
         row("column that begins like END", "T (\nend_time TEXT);", "T (\nend_time TEXT)");
         row("lone semicolons", ";\n ; \nA;", "A");
         row("carriage returns", "A;\r\nB;\r\n", "A|B");
-        row("nothing", "\n-- only this\n", "");
     }
     void splitsStatements()
     {

@@ -137,13 +137,6 @@ private slots:
         QVERIFY(qAbs(moved.lastModified.secsTo(QDateTime::currentDateTimeUtc())) < 60);
     }
 
-    void readsStampsOfSqlite()
-    {
-        m_database->execute(u"INSERT INTO events (id, calendar_id, uid, title, start_time, raw_icalendar, created)"
-                            " VALUES ('e', 'c', 'u', '', '2026-05-01T00:00:00Z', '', '2026-05-01 10:20:30')"_s);
-        QCOMPARE(storedEvent(u"e"_s).created, utc("2026-05-01T10:20:30"));
-    }
-
     void refusesWritesWithoutASavepoint()
     {
         Event event = meetingWithChildren(u"stored"_s);

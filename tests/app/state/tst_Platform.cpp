@@ -49,16 +49,15 @@ private slots:
 
     void sundayTerritories()
     {
+        const auto isSunday = [](int territory) {
+            return FirstDayOfWeek::ofTerritory(QLocale::Territory(territory)) == Qt::Sunday;
+        };
         int count = 0;
         for (int territory = 0; territory <= QLocale::LastTerritory; ++territory)
-            count += FirstDayOfWeek::ofTerritory(static_cast<QLocale::Territory>(territory)) == Qt::Sunday ? 1 : 0;
+            count += isSunday(territory) ? 1 : 0;
         QCOMPARE(count, 42);
-        for (const auto territory : { QLocale::UnitedStates, QLocale::Japan, QLocale::Brazil, QLocale::India,
-                                      QLocale::Egypt, QLocale::SouthAfrica })
-            QCOMPARE(FirstDayOfWeek::ofTerritory(territory), Qt::Sunday);
-        for (const auto territory :
-             { QLocale::Germany, QLocale::UnitedKingdom, QLocale::Portugal, QLocale::Argentina, QLocale::AnyTerritory })
-            QCOMPARE(FirstDayOfWeek::ofTerritory(territory), Qt::Monday);
+        QVERIFY(isSunday(QLocale::UnitedStates) && isSunday(QLocale::SouthAfrica) && isSunday(QLocale::Egypt));
+        QVERIFY(!isSunday(QLocale::Germany) && !isSunday(QLocale::Portugal) && !isSunday(QLocale::AnyTerritory));
     }
 
     void preferredCalendarFollowsTheLastUsedOne()
