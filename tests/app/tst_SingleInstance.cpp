@@ -197,7 +197,7 @@ private slots:
         QTRY_COMPARE(heard(), u"show-today new-event focus"_s);
     }
 
-    void waitingFilesComeInOrder()
+    void whatWaitsComesInOrderUpToALimit()
     {
         QDialog dialog;
         showModal(dialog);
@@ -211,23 +211,14 @@ private slots:
               << "{\"cmd\":\"open-ics\",\"path\":\"/last\"}\n";
         sendAndWait(lines.first(64).join());
         sendAndWait(lines.sliced(64).join());
-        expected << u"show-today"_s << u"open-ics:/last"_s;
+        for (int i = 0; i < 3; ++i) // 64 wait then: the files count as two
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"too many commands.*new-event"_s));
+        sendAndWait(QByteArray("{\"cmd\":\"new-event\"}\n").repeated(64));
+        expected << u"show-today"_s << u"open-ics:/last"_s << QStringList(61, u"new-event"_s);
         QCOMPARE(heard(), u""_s);
         dialog.close();
         QTRY_COMPARE(m_heard.size(), expected.size());
         QCOMPARE(m_heard, expected);
-    }
-
-    void tooManyWaitingAreDroppedAndLogged()
-    {
-        QDialog dialog;
-        showModal(dialog);
-        sendAndWait(QByteArray("{\"cmd\":\"new-event\"}\n").repeated(64));
-        for (int i = 0; i < 64; ++i)
-            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"too many commands.*show-today"_s));
-        sendAndWait(QByteArray("{\"cmd\":\"show-today\"}\n").repeated(64));
-        dialog.close();
-        QTRY_COMPARE(m_heard, QStringList(64, u"new-event"_s));
     }
 
     void anotherUsersServerIsNotTold()

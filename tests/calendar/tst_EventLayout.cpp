@@ -1,8 +1,6 @@
 #include "calendar/EventLayout.h"
 #include "support/TestData.h"
 
-#include <QRandomGenerator>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -54,35 +52,6 @@ private slots:
         for (const EventLayout::Placement &placed : EventLayout::compute(eventsFrom(events)))
             found.append(u"%1:%2/%3"_s.arg(placed.event.title).arg(placed.column).arg(placed.columnCount));
         QTEST(found.join(u' '), "expected");
-    }
-
-    void holdsForRandomDays()
-    {
-        QRandomGenerator random(3);
-        for (int round = 0; round < 200; ++round) {
-            QList<Event> events;
-            for (int i = random.bounded(40); i > 0; --i) {
-                const int startMin = random.bounded(96) * 15;
-                events.append(makeEvent(startMin, startMin + random.bounded(1, 12) * 15));
-            }
-            const QList<EventLayout::Placement> placements = EventLayout::compute(events);
-            QCOMPARE(placements.size(), events.size());
-            for (qsizetype i = 0; i < placements.size(); ++i) {
-                const EventLayout::Placement &a = placements.at(i);
-                QVERIFY(a.column >= 0 && a.column < a.columnCount);
-                QSet<int> taken; // columns of earlier events that still run
-                for (qsizetype j = 0; j < i; ++j) {
-                    const EventLayout::Placement &b = placements.at(j);
-                    QVERIFY(b.event.startTime <= a.event.startTime);
-                    if (*b.event.endTime <= a.event.startTime)
-                        continue;
-                    taken.insert(b.column);
-                    QCOMPARE(b.columnCount, a.columnCount);
-                }
-                for (int column = 0; column <= a.column; ++column)
-                    QCOMPARE(taken.contains(column), column < a.column);
-            }
-        }
     }
 
     void manyAtOnce()

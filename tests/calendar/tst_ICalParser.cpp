@@ -57,6 +57,7 @@ private slots:
         QCOMPARE(event.title, expected);
         QCOMPARE(event.description, expected);
         QCOMPARE(event.location, expected);
+        QCOMPARE(ICalParser::unescapeText(ICalParser::escapeText(expected)), expected);
     }
 
     void otherProperties()
@@ -77,6 +78,11 @@ private slots:
         event.rawIcalendar.clear();
         QCOMPARE(event, expected);
         QCOMPARE(eventOf("SEQUENCE:many").sequence, 0);
+
+        const Event override = eventOf("RECURRENCE-ID;TZID=Asia/Tokyo:20260315T050000");
+        QCOMPARE(override.recurrenceId + override.masterEventUid, u"20260314T200000Zu"_s);
+        QCOMPARE(eventOf("RECURRENCE-ID;VALUE=DATE:20260315").recurrenceId, u"20260315T000000Z"_s);
+        QCOMPARE(eventOf("RECURRENCE-ID:the third").recurrenceId, u"the third"_s);
     }
 
     void startTimes_data()
@@ -85,16 +91,14 @@ private slots:
         row("date", "DTSTART;VALUE=DATE:20260315", "2026-03-15", "UTC");
         row("leap day without its parameter", "DTSTART:20240229", "2024-02-29", "UTC");
         row("UTC", "DTSTART:20260315T090000Z", "2026-03-15T09:00:00Z", "UTC");
-        row("winter", "DTSTART;TZID=Europe/Paris:20260315T090000", "2026-03-15T08:00:00Z", "Europe/Paris");
-        row("summer", "dtstart;tzid=Europe/Paris:20260715T090000", "2026-07-15T07:00:00Z", "Europe/Paris");
+        row("zone", "dtstart;tzid=Europe/Paris:20260315T090000", "2026-03-15T08:00:00Z", "Europe/Paris");
         row("zone and Z", "DTSTART;TZID=Europe/Paris:20260315T090000Z", "2026-03-15T09:00:00Z", "Europe/Paris");
         row("quoted, with a colon", "DTSTART;TZID=\"tzone://Microsoft/Utc\";X=1:20260315T090000",
             "2026-03-15T09:00:00Z", "UTC");
         row("Windows", "DTSTART;TZID=Eastern Standard Time:20260315T090000", "2026-03-15T13:00:00Z",
             "America/New_York");
-        // RFC 5545 §3.3.5: the offset before the gap; the first of two.
+        // RFC 5545 §3.3.5: the offset before the gap.
         row("in the gap", "DTSTART;TZID=Europe/Paris:20260329T023000", "2026-03-29T01:30:00Z", "Europe/Paris");
-        row("in the overlap", "DTSTART;TZID=Europe/Paris:20261025T023000", "2026-10-25T00:30:00Z", "Europe/Paris");
         row("floating", "DTSTART:20260315T090000", "2026-03-15T09:00:00", "UTC");
         row("unknown zone", "DTSTART;TZID=Nowhere:20260315T090000", "2026-03-15T09:00:00", "Nowhere");
         for (const char *value : { "20260230", "20261315T090000Z", "20260315T250000Z", "20260315Z",
@@ -113,7 +117,6 @@ private slots:
     void endTimes_data()
     {
         columns<QString, QString>("lines", "expected"); // of an event at 09:00
-        row("DTEND", "DTEND:20260315T103000Z", "2026-03-15T10:30:00Z");
         row("90 minutes", "DURATION:PT90M", "2026-03-15T10:30:00Z");
         row("duration first, days of a date", "DURATION:P2D\nDTSTART:20260315", "2026-03-17");
         row("negative duration", "DURATION:-PT1H", "");
@@ -132,15 +135,6 @@ private slots:
         QTEST(shown(event.endTime.value_or(QDateTime()), event.isAllDay), "expected");
     }
 
-    void recurrenceIds()
-    {
-        const Event event = eventOf("RECURRENCE-ID;TZID=Asia/Tokyo:20260315T050000");
-        QCOMPARE(event.recurrenceId, u"20260314T200000Z"_s);
-        QCOMPARE(event.masterEventUid, u"u"_s);
-        QCOMPARE(eventOf("RECURRENCE-ID;VALUE=DATE:20260315").recurrenceId, u"20260315T000000Z"_s);
-        QCOMPARE(eventOf("RECURRENCE-ID:the third").recurrenceId, u"the third"_s);
-    }
-
     void exceptionDates_data()
     {
         columns<QString, QString>("lines", "expected");
@@ -152,7 +146,6 @@ private slots:
             u"EXDATE:20260309T080000Z\n"_s + timed + u"EXDATE;TZID=\"W. Europe Standard Time\":20260316T090000"_s,
             R"(["20260309T080000Z","20260316T080000Z"])");
         row("floating", "DTSTART:20260302T090000\nEXDATE:20260309T090000", R"(["20260309T090000"])");
-        row("dates", allDay + u"EXDATE;VALUE=DATE:20260309,20260316"_s, R"(["20260309","20260316"])");
         // 09:00 in Paris, before and after the clock change of 29 March.
         row("dates of a timed series, before DTSTART",
             u"EXDATE;VALUE=DATE:20260309,20260330\n"_s + timed + u"EXDATE:20260316T080000Z"_s,
@@ -188,7 +181,6 @@ private slots:
         row("before the end", "ACTION:DISPLAY\nTRIGGER;RELATED=end:-PT15M", -1, "");
         row("absolute", "ACTION:DISPLAY\nTRIGGER;VALUE=DATE-TIME:20260315T080000Z", -1, "");
         row("mail", "ACTION:EMAIL\nTRIGGER:-PT15M\nATTENDEE:mailto:a@e.org", -1, "");
-        row("no trigger", "ACTION:DISPLAY", -1, "");
     }
     void reminders()
     {
@@ -205,20 +197,7 @@ private slots:
         QCOMPARE(event.uid + event.title + event.location, u"uLunchHere"_s);
     }
 
-    void organizers()
-    {
-        const auto organizer = [](const QByteArray &line) {
-            const Event event = eventOf("ORGANIZER" + line);
-            return event.organizerEmail + u'|' + event.organizerName;
-        };
-        QCOMPARE(organizer(";CN=Jane:mailto:jane@e.org"), u"jane@e.org|Jane"_s);
-        QCOMPARE(organizer(";CN=\"Doe, Jane\":MAILTO:jane"), u"jane|\"Doe, Jane\""_s);
-        QCOMPARE(organizer(";SENT-BY=\"mailto:x@e.org\";CN=\"a;CN=b:c\":mailto:jane"), u"jane|\"a;CN=b:c\""_s);
-        QCOMPARE(organizer(";CN=\"Jane:mailto:jane"), u"jane|\"Jane"_s); // never closed
-        QCOMPARE(organizer(";CN;=x;:jane@e.org"), u"jane@e.org|"_s);
-    }
-
-    void attendees()
+    void people()
     {
         const Event event = eventOf("ATTENDEE;CUTYPE=INDIVIDUAL;PARTSTAT=ACCEPTED;CN=\"Doe, Jane\";RSVP=TRUE:jane\n"
                                     "ATTENDEE;ROLE=OPT-PARTICIPANT;PARTSTAT=declined;RSVP=FALSE:MAILTO:bob@e.org\n"
@@ -230,6 +209,15 @@ private slots:
         QCOMPARE(found,
                  QStringList({ u"jane|Doe, Jane|required|accepted|INDIVIDUAL|1"_s, u"bob@e.org||optional|declined||0"_s,
                                u"urn:uuid:1||chair|needs-action|ROOM|0"_s }));
+
+        const auto organizer = [](const QByteArray &line) {
+            const Event invitation = eventOf("ORGANIZER" + line);
+            return invitation.organizerEmail + u'|' + invitation.organizerName;
+        };
+        QCOMPARE(organizer(";CN=\"Doe, Jane\":MAILTO:jane"), u"jane|\"Doe, Jane\""_s);
+        QCOMPARE(organizer(";SENT-BY=\"mailto:x@e.org\";CN=\"a;CN=b:c\":mailto:jane"), u"jane|\"a;CN=b:c\""_s);
+        QCOMPARE(organizer(";CN=\"Jane:mailto:jane"), u"jane|\"Jane"_s); // never closed
+        QCOMPARE(organizer(";CN;=x;:jane@e.org"), u"jane@e.org|"_s);
     }
 
     void keepsTheTextOfTheEvent()
@@ -258,8 +246,6 @@ private slots:
         row("stray ends", QByteArray("END:VEVENT\n" + a + "END:VALARM\nEND:VEVENT\n" + b), "a b");
         row("alarm never closed", QByteArray("BEGIN:VEVENT\nUID:a\nBEGIN:VALARM\nUID:x\nEND:VEVENT\n" + b), "a b");
         row("alarm never opened", QByteArray("BEGIN:VEVENT\nEND:VALARM\nUID:a\nEND:VEVENT\n" + b), "a b");
-        row("without a UID", QByteArray("BEGIN:VEVENT\nSUMMARY:x\nEND:VEVENT\n" + b), "b");
-        row("one UID twice", QByteArray(a + a), "a a");
         row("other components", QByteArray("BEGIN:VTODO\nUID:x\nEND:VTODO\n" + a), "a");
         row("binary", QByteArray(QByteArray("\0\xFF\xFE\x01:;\"\r\r\n ", 12).repeated(500) + "\n" + a), "a");
         row("begins with a fold", QByteArray(" x\n" + a), "a");
@@ -268,29 +254,6 @@ private slots:
     {
         QFETCH(QByteArray, text);
         QTEST(uidsOf(ICalParser::parse(text)), "uids");
-    }
-
-    void countsWhatItSkips()
-    {
-        ICalParser::EventReader reader("BEGIN:VEVENT\nDTSTART:20260315\nEND:VEVENT\nBEGIN:VEVENT\nUID:\nEND:VEVENT\n"
-                                       "BEGIN:VEVENT\nUID:a\nDTSTART:soon\nEND:VEVENT\n"
-                                       "BEGIN:VEVENT\nUID:b\nDTSTART:20260315\nEND:VEVENT\n"_ba);
-        QCOMPARE(uidsOf(reader.read(100, reader.size())), u"a b"_s);
-        QCOMPARE(reader.skipped(), (ICalParser::Skipped{ .withoutUid = 2, .withoutStart = 1 }));
-        QVERIFY(reader.atEnd());
-    }
-
-    void keepsALimitOnAbsurdEvents()
-    {
-        const QByteArray alarm = "BEGIN:VALARM\r\nTRIGGER:-PT5M\r\nEND:VALARM\r\n";
-        const QByteArray text = "DTSTART:20260302T090000Z\r\n" + QByteArray("ATTENDEE:a\r\n").repeated(1001)
-            + alarm.repeated(101) + "EXDATE:" + QByteArray("20260303T090000Z,").repeated(9000)
-            + "\r\nEXDATE:" + QByteArray("20260304T090000Z,").repeated(1001);
-        const Event event = eventOf(text);
-        QCOMPARE(event.attendees.size(), 1000);
-        QCOMPARE(event.reminders.size(), 100);
-        QCOMPARE(event.exceptionDates.count(u'Z'), 10'000);
-        QVERIFY(event.rawIcalendar.contains(QString::fromLatin1(text)));
     }
 
     void leavesOutWhatIsTooLarge()
@@ -340,34 +303,16 @@ private slots:
 
     void durationsAndTriggers()
     {
-        const auto seconds = [](const char *text) {
-            return ICalParser::parseDurationSeconds(QString::fromLatin1(text));
-        };
-        QCOMPARE(seconds("P15DT5H0M20S"), qint64(15) * 86'400 + 5 * 3'600 + 20); // RFC 5545 §3.3.6
-        QCOMPARE(seconds("P7W"), qint64(7) * 604'800);
-        QCOMPARE(seconds("P1M"), qint64(30) * 86'400);
-        QCOMPARE(seconds("P5X2D"), qint64(2) * 86'400); // an unknown letter takes its number
-        for (const char *text : { "", "-PT1H", "1H", "PT5", "P5H3S" })
+        const auto seconds = [](QStringView text) { return ICalParser::parseDurationSeconds(text); };
+        QCOMPARE(seconds(u"P15DT5H0M20S"), qint64(15) * 86'400 + 5 * 3'600 + 20); // RFC 5545 §3.3.6
+        QCOMPARE(seconds(u"P7W"), qint64(7) * 604'800);
+        QCOMPARE(seconds(u"P1M"), qint64(30) * 86'400);
+        QCOMPARE(seconds(u"P5X2D"), qint64(2) * 86'400); // an unknown letter takes its number
+        for (const QStringView text : { u"", u"-PT1H", u"1H", u"PT5", u"P5H3S" })
             QCOMPARE(seconds(text), 0);
-        const auto minutes = [](const char *text) {
-            return ICalParser::parseTriggerMinutes(QString::fromLatin1(text));
-        };
-        QCOMPARE(minutes(" PT15M "), 15); // after counts as before
-        QCOMPARE(minutes("+PT1H"), 60);
-        QCOMPARE(minutes("-PT119S"), 1);
-        for (const char *text : { "", "20260315T090000Z", "-" })
-            QCOMPARE(minutes(text), -1);
-    }
-
-    void escaping()
-    {
-        const auto check = [](const QString &text, const QString &escaped, const QString &readBack) {
-            QCOMPARE(ICalParser::escapeText(text), escaped);
-            QCOMPARE(ICalParser::unescapeText(escaped), readBack);
-        };
-        check(u"a,b;c\\d\ne"_s, u"a\\,b\\;c\\\\d\\ne"_s, u"a,b;c\\d\ne"_s);
-        check(u"a\r\nb\rc\r\r\n"_s, u"a\\nb\\nc\\n\\n"_s, u"a\nb\nc\n\n"_s);
-        check(u"\\n"_s, u"\\\\n"_s, u"\\n"_s);
+        QCOMPARE(ICalParser::parseTriggerMinutes(u" PT15M "), 15); // after counts as before
+        QCOMPARE(ICalParser::parseTriggerMinutes(u"-PT119S"), 1);
+        QCOMPARE(ICalParser::parseTriggerMinutes(u"20260315T090000Z"), -1);
     }
 
     void replacesTimes_data()

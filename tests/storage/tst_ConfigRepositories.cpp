@@ -5,7 +5,6 @@
 #include "support/ScratchDatabase.h"
 #include "support/TestData.h"
 
-#include <QRegularExpression>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -155,22 +154,6 @@ private slots:
         QVERIFY(reads(QString(), 42, false)); // not the default: it was stored as empty
         QVERIFY(settings.setInt(u"key"_s, -12) && settings.setBool(u"yes"_s, true) && settings.setBool(u"no"_s, false));
         QCOMPARE(m_database->text(u"SELECT value FROM settings WHERE type = 'string' ORDER BY key"_s), u"-12 0 1"_s);
-    }
-
-    void failuresAreLoggedAndSilent()
-    {
-        ViewRepository views(m_database->get());
-        FilterRuleRepository filters(m_database->get());
-        QVERIFY(filters.insert(named<FilterRule>(u"1"_s, u"a"_s)));
-        QSignalSpy viewsChanged(&views, &ViewRepository::viewsChanged);
-        QSignalSpy filtersChanged(&filters, &FilterRuleRepository::filterRulesChanged);
-        m_database->execute(
-            u"CREATE TRIGGER refuse BEFORE UPDATE ON filter_rules BEGIN SELECT RAISE(ABORT, 'no'); END"_s);
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^ViewRepository::insert failed: UNIQUE"_s));
-        QVERIFY(!views.insert(named<ViewDef>(u"all-calendars"_s, u"a"_s)));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^FilterRuleRepository::update failed: no"_s));
-        QVERIFY(!filters.update(named<FilterRule>(u"1"_s, u"b"_s)));
-        QCOMPARE(viewsChanged.size() + filtersChanged.size(), 0);
     }
 
 private:

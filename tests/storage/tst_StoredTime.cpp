@@ -33,13 +33,6 @@ private slots:
         }
     }
 
-    void readsStampsOfSqliteAsUtc()
-    {
-        QCOMPARE(StoredTime::parseStamp(u"2026-05-01 10:20:30"_s), utc("2026-05-01T10:20:30"));
-        QCOMPARE(StoredTime::parseStamp(u"2026-05-01T10:20:30Z"_s), utc("2026-05-01T10:20:30"));
-        QVERIFY(!StoredTime::parseStamp(u"2026-99-01 10:20:30"_s).isValid());
-    }
-
     void keepsInstantsAndForms()
     {
         const auto check = [](const QDateTime &time, const QString &text) {
@@ -58,16 +51,6 @@ private slots:
         // Qt's ISO form has no years of five digits.
         QVERIFY(StoredTime::store(QDateTime()).isNull()
                 && StoredTime::store(utc("2026-07-04").addYears(9000)).isNull());
-    }
-
-    void wholeDaysKeepTheirDate()
-    {
-        const QDateTime expected = utc("2026-07-04");
-        QCOMPARE(StoredTime::wholeDay(QDateTime(QDate(2026, 7, 4), QTime(0, 0), QTimeZone("Pacific/Kiritimati"))),
-                 expected);
-        QCOMPARE(StoredTime::wholeDay(QDateTime(QDate(2026, 7, 4), QTime(23, 59), Qt::OffsetFromUTC, -39600)),
-                 expected);
-        QVERIFY(!StoredTime::wholeDay(QDateTime()).isValid());
     }
 
     void showsInKnownZonesOnly()

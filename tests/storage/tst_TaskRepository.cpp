@@ -2,7 +2,6 @@
 #include "support/ScratchDatabase.h"
 #include "support/TestData.h"
 
-#include <QRegularExpression>
 #include <QTimeZone>
 
 #include <limits>
@@ -248,24 +247,6 @@ private slots:
         changed.startDate.reset();
         QVERIFY(m_tasks->update(changed));
         QCOMPARE(stored().triggerTime, std::nullopt);
-    }
-
-    void failsWholly()
-    {
-        QVERIFY(m_tasks->insert(todo(u"t"_s)));
-        const Task before = storedTask();
-        m_database->execute(
-            u"CREATE TRIGGER refuse BEFORE INSERT ON task_reminders BEGIN SELECT RAISE(ABORT, 'no'); END"_s);
-        Task changed = before;
-        changed.title = u"changed"_s;
-        changed.reminders = { reminder(5) };
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^TaskRepository::writeReminders insert failed: no"_s));
-        QVERIFY(!m_tasks->update(changed));
-        QCOMPARE(storedTask(), before);
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^TaskRepository::insert failed: .*FOREIGN KEY"_s));
-        changed.calendarId = u"none"_s;
-        changed.id = u"u"_s;
-        QVERIFY(!m_tasks->insert(changed));
     }
 
 private:

