@@ -62,11 +62,8 @@ private slots:
         QLocalSocket socket;
         socket.connectToServer(SingleInstance::socketName());
         QVERIFY(socket.waitForConnected(5000));
-        socket.write("{\"cmd\":\"open-ics\",\"path\":\"/no/such/file.ics\"}\n{\"cmd\":\"new-event\"}\n");
-        socket.write(QByteArray("\xff\x00}{\n[[[[\n", 10) + QByteArray(100'000, '\n'));
-        QVERIFY(socket.waitForBytesWritten(5000));
-        QVERIFY(socket.state() == QLocalSocket::UnconnectedState || socket.waitForDisconnected(5000));
-        QVERIFY2(waitUntilItListens(), log());
+        socket.write("{\"cmd\":\"open-ics\",\"path\":\"/no/such/file.ics\"}\n" + QByteArray(100'000, '\n'));
+        QVERIFY(socket.waitForDisconnected(5000));
         QVERIFY2(endProgram(SIGTERM), log()); // with a message box open
         QCOMPARE(m_program->exitStatus(), QProcess::NormalExit);
     }
