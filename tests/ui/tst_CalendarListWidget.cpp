@@ -70,18 +70,6 @@ private slots:
         }
     }
 
-    void saysWhatMarksOnlyShow()
-    {
-        Calendar calendar = stored(m_work);
-        calendar.isReadOnly = true;
-        QVERIFY(calendars()->update(calendar));
-        const auto said = [this](const QString &id) {
-            return m_list->itemFor(id)->data(0, Qt::AccessibleTextRole).toString();
-        };
-        QTRY_COMPARE(said(m_work), u"Work, read-only"_qs);
-        QCOMPARE(said(m_personal), u"Personal, default calendar"_qs);
-    }
-
     void menuMakesDefault()
     {
         QVERIFY(!menuAction(m_personal, u"Make &Default"_qs));
@@ -91,7 +79,15 @@ private slots:
         QVERIFY(stored(m_work).isDefault);
         QVERIFY(!stored(m_personal).isDefault);
         QCOMPARE(DefaultCalendar::preferredCalendarId((*m_state)->preferences(), false), m_work);
-        QTRY_VERIFY(m_list->itemFor(m_work)->data(0, CalendarListWidget::DefaultRole).toBool());
+        // What a mark only shows is said too.
+        Calendar calendar = stored(m_personal);
+        calendar.isReadOnly = true;
+        QVERIFY(calendars()->update(calendar));
+        const auto said = [this](const QString &id) {
+            return m_list->itemFor(id)->data(0, Qt::AccessibleTextRole).toString();
+        };
+        QTRY_COMPARE(said(m_work), u"Work, default calendar"_qs);
+        QCOMPARE(said(m_personal), u"Personal, read-only"_qs);
     }
 
     void menuShowsOnlyThis()

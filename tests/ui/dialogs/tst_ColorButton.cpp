@@ -27,15 +27,6 @@ private slots:
         QVERIFY(button.accessibleName().contains(ColorButton::palette().at(8).name));
     }
 
-    void anUnreadableColorIsTheStandardOne()
-    {
-        ColorButton button;
-        button.setColor(u"no color"_qs);
-        QCOMPARE(button.color(), u"#4285F4"_qs);
-        button.setColor(u"#abcdef"_qs);
-        QCOMPARE(button.text(), u"#ABCDEF"_qs);
-    }
-
     void unusedColorsComeInTurn()
     {
         QStringList used;
@@ -44,6 +35,9 @@ private slots:
             used.append(swatch.color.toLower());
         }
         QCOMPARE(ColorButton::unusedColor(used), u"#4285F4"_qs);
+        ColorButton button;
+        button.setColor(u"no color"_qs);
+        QCOMPARE(button.color(), u"#4285F4"_qs);
     }
 };
 

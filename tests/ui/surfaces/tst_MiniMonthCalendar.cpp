@@ -59,6 +59,7 @@ private:
 private slots:
     void init()
     {
+        m_month.reset();
         m_scratch.emplace();
         state()->preferences()->set(u"ui/weekStartDay"_qs, u"1"_qs);
         state()->setCurrentDate(march(11));
@@ -67,20 +68,12 @@ private slots:
         m_month->resize(m_month->sizeHint());
     }
 
-    void cleanup()
-    {
-        m_month.reset();
-        m_scratch.reset();
-    }
-
     void gridStart()
     {
-        QCOMPARE(MiniMonthGeometry::gridStart(march(1), Qt::Sunday), march(1));
-        QCOMPARE(MiniMonthGeometry::gridStart(march(31), Qt::Monday), QDate(2026, 2, 23));
-        QCOMPARE(MiniMonthGeometry::gridStart(QDate(2027, 2, 1), Qt::Monday), QDate(2027, 2, 1)); // a Monday
+        QCOMPARE(MiniMonthGeometry::gridStart(march(31), Qt::Sunday), march(1));
+        QCOMPARE(MiniMonthGeometry::gridStart(march(1), Qt::Monday), QDate(2026, 2, 23));
         QCOMPARE(MiniMonthGeometry::gridStart(QDate(2026, 8, 1), Qt::Sunday), QDate(2026, 7, 26)); // a Saturday
         QCOMPARE(MiniMonthGeometry::gridStart(QDate(2026, 1, 1), Qt::Monday), QDate(2025, 12, 29));
-        QCOMPARE(MiniMonthGeometry::gridStart({}, Qt::Monday), QDate());
     }
 
     void cells()
@@ -92,31 +85,19 @@ private slots:
         QCOMPARE(geometry.cellRect(0, 0), QRect(4, 66, 34, 34));
         QCOMPARE(geometry.cellRect(2, 1), QRect(72, 100, 33, 34));
         QCOMPARE(geometry.cellRect(6, 5), QRect(204, 236, 33, 34));
-    }
-
-    void everyPixelHasItsCell()
-    {
-        for (const int width : { 0, 13, 239, 240, 245 }) {
-            const MiniMonthGeometry geometry{ .widthPx = width };
-            for (int y = 0; y < geometry.heightPx(); ++y) {
-                for (int x = 0; x < width; ++x) {
-                    const bool isInside = x >= 4 && x < width - 4 && y >= 66 && y < 66 + 6 * 34;
-                    const int cell = geometry.cellAt({ x, y });
-                    QCOMPARE(cell >= 0, isInside);
-                    QVERIFY(!isInside || geometry.cellRect(cell % 7, cell / 7).contains(x, y));
-                }
-            }
+        for (int x = 0; x < 241; ++x) { // no pixel is without a cell
+            const int cell = geometry.cellAt({ x, 200 });
+            QVERIFY(x >= 4 && x < 237 ? geometry.cellRect(cell % 7, cell / 7).contains(x, 200) : cell < 0);
         }
     }
 
     void wheelSteps()
     {
-        QCOMPARE(monthStepForWheel({ 0, 60 }), -1); // just enough
-        QCOMPARE(monthStepForWheel({ 0, -60 }), 1);
-        QCOMPARE(monthStepForWheel({ 59, -59 }), 0);
-        QCOMPARE(monthStepForWheel({ 60, 0 }), 1);
-        QCOMPARE(monthStepForWheel({ -60, 0 }), -1);
-        QCOMPARE(monthStepForWheel({ 120, 60 }), -1); // up counts before left and right
+        QList<int> steps;
+        for (const QPoint delta : { QPoint(0, 60), QPoint(0, -60), QPoint(59, -59), QPoint(60, 0), QPoint(-60, 0),
+                                    QPoint(120, 60) }) // up counts before left and right
+            steps.append(monthStepForWheel(delta));
+        QCOMPARE(steps, QList<int>({ -1, 1, 0, 1, -1, -1 }));
     }
 
     void sizeFollowsTheFont()
@@ -149,17 +130,20 @@ private slots:
 
     void changesShowWhileVisible()
     {
+        QSignalSpy stored(state()->events(), &EventRepository::eventsChanged);
+        m_scratch->addAllDayEvent(u"fair"_qs, march(20));
         const QString other = m_scratch->addCalendar(u"Other"_qs);
-        show();
-        m_scratch->addAllDayEvent(u"new"_qs, march(20));
-        QTRY_VERIFY(m_month->isBusy(march(20)));
-        QVERIFY(state()->calendars()->setVisible(ScratchState::calendarId(), false));
-        QTRY_VERIFY(!m_month->isBusy(march(20)));
+        QVERIFY(stored.wait()); // what follows alone may bring the loads below
         ViewDef group = m_scratch->addGroup(u"office"_qs, { ScratchState::calendarId() });
         state()->setActiveViewId(group.id);
+        show();
         QTRY_VERIFY(m_month->isBusy(march(20)));
         group.calendarIds = u"[\"%1\"]"_qs.arg(other);
         QVERIFY(state()->views()->update(group));
+        QTRY_VERIFY(!m_month->isBusy(march(20)));
+        QVERIFY(state()->views()->softDelete(group.id));
+        QTRY_VERIFY(m_month->isBusy(march(20)));
+        QVERIFY(state()->calendars()->setVisible(ScratchState::calendarId(), false));
         QTRY_VERIFY(!m_month->isBusy(march(20)));
     }
 
@@ -180,29 +164,33 @@ private slots:
     void loadsInATurnOfItsOwn()
     {
         const QDate inApril(2026, 4, 20);
+        m_scratch->addAllDayEvent(u"in March"_qs, march(20));
         m_scratch->addAllDayEvent(u"in April"_qs, inApril);
         show();
-        QCoreApplication::processEvents();
+        QTRY_VERIFY(m_month->isBusy(march(20)));
         m_month->stepMonth(1);
         std::optional<bool> busyInTheSameTurn;
-        // As a timeline that loads because of the same change.
-        QTimer::singleShot(0, this, [&] { busyInTheSameTurn = m_month->isBusy(inApril); });
+        QTimer other; // as a timeline that loads because of the same change
+        connect(&other, &QTimer::timeout, this, [&] {
+            busyInTheSameTurn = m_month->isBusy(inApril);
+            other.stop();
+        });
+        other.start(0);
         QTRY_VERIFY(m_month->isBusy(inApril));
         QCOMPARE(busyInTheSameTurn, std::optional(false));
     }
 
     void dots()
     {
-        const auto check = [](QSize cell, int numberWidth, qreal digitsBelow, qreal radius, qreal filledY,
-                              qreal emptyY) {
+        const auto check = [](QSize cell, int numberWidth, qreal digitsBelow, qreal radius, qreal filledY) {
             const QRect rect({}, cell);
             QCOMPARE(MiniMonthGeometry::dayRadius(rect, numberWidth), radius);
             QCOMPARE(MiniMonthGeometry::dotCentreY(rect, digitsBelow, radius, true), filledY);
-            QCOMPARE(MiniMonthGeometry::dotCentreY(rect, digitsBelow, radius, false), emptyY);
+            QCOMPARE(MiniMonthGeometry::dotCentreY(rect, digitsBelow, radius, false), cell.height() - 5.0);
         };
-        check({ 33, 34 }, 16, 4.5, 12.5, 25.5, 29.0);
-        check({ 30, 38 }, 22, 7.0, 14.0, 29.0, 33.0); // narrow with large digits
-        check({ 20, 34 }, 16, 4.5, 9.0, 29.0, 29.0); // no room in the circle
+        check({ 33, 34 }, 16, 4.5, 12.5, 25.5);
+        check({ 30, 38 }, 22, 7.0, 14.0, 29.0); // narrow with large digits
+        check({ 20, 34 }, 16, 4.5, 9.0, 29.0); // no room in the circle
     }
 
     void titleKeepsItsYear()
@@ -311,17 +299,6 @@ private slots:
         QVERIFY(m_month->minimumSizeHint().width() >= narrow);
         state()->preferences()->setBool(u"ui/showWeekNumbers"_qs, false);
         QVERIFY(m_month->dateAt({ 8, 70 }).isValid());
-    }
-
-    void selectedDayStandsOut()
-    {
-        const QImage image = m_month->grab().toImage();
-        const auto colorAtTop = [&](QDate date) {
-            const QRect cell = m_month->dateRect(date);
-            return image.pixelColor(cell.center() - QPoint(0, int(MiniMonthGeometry::dayRadius(cell)) - 2));
-        };
-        QCOMPARE(colorAtTop(march(11)), Theme::accent());
-        QVERIFY(colorAtTop(march(12)) != Theme::accent());
     }
 };
 
