@@ -65,6 +65,21 @@ private slots:
         }
         QVERIFY(!WallClock(QTimeZone()).at(QDate(), time).isValid());
     }
+
+    void wallClockSharesOnlyEqualTimes()
+    {
+        const QDateTime nine = utc("2026-05-04T09:00");
+        for (const char *zone : { "Europe/Berlin", "Asia/Kolkata", "Europe/Berlin" }) {
+            const WallClock clock{ QTimeZone(zone) };
+            // The same quarter of an hour, the same place in the table 512 days on, and before the epoch.
+            for (const QDateTime &instant :
+                 { nine, nine.addSecs(60), nine.addDays(512), nine.addDays(-512 * 40), nine }) {
+                const QDateTime shown = clock.sharedAt(instant.toMSecsSinceEpoch());
+                QCOMPARE(shown, instant);
+                QCOMPARE(shown.time(), instant.toTimeZone(QTimeZone(zone)).time());
+            }
+        }
+    }
 };
 
 QTEST_GUILESS_MAIN(tst_CivilDate)
