@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -23,12 +24,12 @@ bool isWord(QStringView text, QLatin1StringView word)
     return true;
 }
 
-/// The text up to the next \p separator, which is taken off \p rest with it.
+/// The text up to the next \p separator, which is taken off \p rest with it. Null is left if there is none.
 QStringView takePart(QStringView &rest, QChar separator)
 {
-    const qsizetype end = rest.indexOf(separator);
-    const QStringView part = end < 0 ? rest : rest.first(end);
-    rest = end < 0 ? QStringView() : rest.sliced(end + 1);
+    const qsizetype end = std::ranges::find(rest, separator) - rest.begin();
+    const QStringView part = rest.first(end);
+    rest = end == rest.size() ? QStringView() : rest.sliced(end + 1);
     return part;
 }
 
@@ -91,9 +92,9 @@ RecurrenceRule RecurrenceRule::parse(QStringView text)
     RecurrenceRule rule;
     while (!text.isEmpty()) {
         QStringView value = takePart(text, u';');
-        if (!value.contains(u'='))
-            continue;
         const QStringView key = takePart(value, u'=');
+        if (value.isNull())
+            continue;
         if (isWord(key, QLatin1StringView("FREQ"))) {
             rule.frequency = frequencyFrom(value);
         } else if (isWord(key, QLatin1StringView("INTERVAL"))) {

@@ -80,9 +80,7 @@ private slots:
         QVERIFY(!stored(m_personal).isDefault);
         QCOMPARE(DefaultCalendar::preferredCalendarId((*m_state)->preferences(), false), m_work);
         // What a mark only shows is said too.
-        Calendar calendar = stored(m_personal);
-        calendar.isReadOnly = true;
-        QVERIFY(calendars()->update(calendar));
+        m_state->makeReadOnly(m_personal);
         const auto said = [this](const QString &id) {
             return m_list->itemFor(id)->data(0, Qt::AccessibleTextRole).toString();
         };

@@ -1,7 +1,7 @@
 #include "storage/Database.h"
 #include "support/ScratchState.h"
-#include "ui/dialogs/IcsDrop.h"
 #include "ui/IcsImportFlow.h"
+#include "ui/dialogs/IcsDrop.h"
 #include "ui/dialogs/ImportDialog.h"
 #include "ui/dialogs/Prompt.h"
 
@@ -144,9 +144,7 @@ private slots:
 
     void needsAWritableCalendar()
     {
-        auto calendar = (*m_state)->calendars()->getById(ScratchState::calendarId()).value();
-        calendar.isReadOnly = true;
-        QVERIFY((*m_state)->calendars()->update(calendar));
+        m_state->makeReadOnly(ScratchState::calendarId());
         m_flow->start({ write(u"a.ics"_qs, vevent("a", "A")),
                         write(u"b.ics"_qs, vevent("", "Nameless") + vevent("b", "Never", "")) });
         QTRY_VERIFY(!m_flow->isRunning());

@@ -1,4 +1,5 @@
 #include "support/ScratchState.h"
+#include "support/TestData.h"
 #include "ui/ActionTable.h"
 #include "ui/CalendarListWidget.h"
 #include "ui/MainWindow.h"
@@ -12,18 +13,6 @@
 #include "ui/dialogs/WelcomeDialog.h"
 #include "ui/surfaces/WeekView.h"
 
-#include <QApplication>
-#include <QDropEvent>
-#include <QFile>
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QMenuBar>
-#include <QMimeData>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QSplitter>
-#include <QUrl>
 #include <QtTest>
 #include <QtWidgets>
 
@@ -100,14 +89,9 @@ private slots:
 
     void keysNavigate_data()
     {
-        QTest::addColumn<QKeySequence>("key");
-        QTest::addColumn<QDate>("date");
-        QTest::addColumn<QString>("mode");
-        QTest::addColumn<int>("horizon");
+        columns<QKeySequence, QDate, QString, int>("key", "date", "mode", "horizon");
         const auto row = [](const char *name, QKeyCombination key, QDate date, const char *mode = "week",
-                            int horizon = 7) {
-            QTest::newRow(name) << QKeySequence(key) << date << QString::fromLatin1(mode) << horizon;
-        };
+                            int horizon = 7) { ::row(name, QKeySequence(key), date, mode, horizon); };
         row("T", Qt::Key_T, QDate::currentDate());
         row("J", Qt::Key_J, QDate(2025, 11, 26));
         row("K", Qt::Key_K, QDate(2025, 11, 12));

@@ -1,3 +1,4 @@
+#include "support/TestData.h"
 #include "ui/ViewModes.h"
 
 #include <QtTest>
@@ -29,19 +30,16 @@ private slots:
 
     void titles_data()
     {
-        QTest::addColumn<QString>("mode");
-        QTest::addColumn<QDate>("date");
-        QTest::addColumn<int>("horizon");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("year") << "year" << Wednesday << 7 << "2025";
-        QTest::newRow("month") << "month" << Wednesday << 7 << "November 2025";
-        QTest::newRow("week") << "week" << QDate(2025, 11, 23) << 7 << "Nov 17 – 23, 2025"; // a Sunday is its last day
-        QTest::newRow("week across months") << "week" << QDate(2025, 10, 31) << 7 << "Oct 27 – Nov 2, 2025";
-        QTest::newRow("week across years") << "week" << QDate(2025, 12, 31) << 7 << "Dec 29 – Jan 4, 2026";
-        QTest::newRow("14 days") << "days" << Wednesday << 14 << "Nov 19 – Dec 2, 2025";
-        QTest::newRow("grid shows eight days") << "grid" << Wednesday << 7 << "Nov 19 – 26, 2025";
-        QTest::newRow("day") << "day" << Wednesday << 7 << "Wednesday, November 19, 2025";
-        QTest::newRow("today") << "day" << QDate(2025, 11, 22) << 7 << "Today · Saturday, November 22, 2025";
+        columns<QString, QDate, int, QString>("mode", "date", "horizon", "expected");
+        row("year", "year", Wednesday, 7, "2025");
+        row("month", "month", Wednesday, 7, "November 2025");
+        row("week", "week", QDate(2025, 11, 23), 7, "Nov 17 – 23, 2025"); // a Sunday is its last day
+        row("week across months", "week", QDate(2025, 10, 31), 7, "Oct 27 – Nov 2, 2025");
+        row("week across years", "week", QDate(2025, 12, 31), 7, "Dec 29 – Jan 4, 2026");
+        row("14 days", "days", Wednesday, 14, "Nov 19 – Dec 2, 2025");
+        row("grid shows eight days", "grid", Wednesday, 7, "Nov 19 – 26, 2025");
+        row("day", "day", Wednesday, 7, "Wednesday, November 19, 2025");
+        row("today", "day", QDate(2025, 11, 22), 7, "Today · Saturday, November 22, 2025");
     }
 
     void titles()

@@ -1,3 +1,4 @@
+#include "support/TestData.h"
 #include "ui/WheelPager.h"
 
 #include <QtTest>
@@ -6,6 +7,7 @@ struct Move {
     int dx;
     qint64 atMs;
 };
+using Moves = QList<Move>;
 
 class tst_WheelPager : public QObject {
     Q_OBJECT
@@ -13,24 +15,22 @@ class tst_WheelPager : public QObject {
 private slots:
     void pages_data()
     {
-        QTest::addColumn<QList<Move>>("moves");
-        QTest::addColumn<QList<int>>("directions");
-        const auto row = [](const char *name, const QList<Move> &moves, const QList<int> &directions) {
-            QTest::newRow(name) << moves << directions;
-        };
-        row("two notches back", { { 120, 0 }, { 120, 10 } }, { 0, -1 });
-        row("a reversal starts over", { { 200, 0 }, { -30, 10 }, { -210, 20 } }, { 0, 0, 1 });
-        row("small touchpad steps add up", { { -80, 0 }, { -80, 10 }, { -79, 20 }, { -1, 30 } }, { 0, 0, 0, 1 });
-        row("one big swipe is one page", { { -2400, 0 }, { -10, 400 } }, { 1, 0 });
-        row("no second page within the pause", { { -240, 0 }, { -240, 149 } }, { 1, 0 });
-        row("a second page after it", { { -240, 0 }, { -240, 150 } }, { 1, 1 });
-        row("what came in the pause is dropped", { { -240, 0 }, { -240, 100 }, { -120, 200 } }, { 1, 0, 0 });
-        row("the pause holds for both directions", { { -240, 0 }, { 240, 100 } }, { 1, 0 });
+        columns<Moves, QList<int>>("moves", "directions");
+        row("two notches back", Moves{ { 120, 0 }, { 120, 10 } }, QList<int>{ 0, -1 });
+        row("a reversal starts over", Moves{ { 200, 0 }, { -30, 10 }, { -210, 20 } }, QList<int>{ 0, 0, 1 });
+        row("small touchpad steps add up", Moves{ { -80, 0 }, { -80, 10 }, { -79, 20 }, { -1, 30 } },
+            QList<int>{ 0, 0, 0, 1 });
+        row("one big swipe is one page", Moves{ { -2400, 0 }, { -10, 400 } }, QList<int>{ 1, 0 });
+        row("no second page within the pause", Moves{ { -240, 0 }, { -240, 149 } }, QList<int>{ 1, 0 });
+        row("a second page after it", Moves{ { -240, 0 }, { -240, 150 } }, QList<int>{ 1, 1 });
+        row("what came in the pause is dropped", Moves{ { -240, 0 }, { -240, 100 }, { -120, 200 } },
+            QList<int>{ 1, 0, 0 });
+        row("the pause holds for both directions", Moves{ { -240, 0 }, { 240, 100 } }, QList<int>{ 1, 0 });
     }
 
     void pages()
     {
-        QFETCH(QList<Move>, moves);
+        QFETCH(Moves, moves);
         WheelPager pager;
         QList<int> directions;
         for (const Move &move : moves) {

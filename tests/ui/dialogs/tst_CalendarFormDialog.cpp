@@ -1,4 +1,5 @@
 #include "support/ScratchState.h"
+#include "support/TestData.h"
 #include "ui/dialogs/CalendarFormDialog.h"
 
 #include <QtTest>
@@ -10,11 +11,10 @@ class tst_CalendarFormDialog : public QObject {
 private slots:
     void createsALocalCalendar_data()
     {
-        QTest::addColumn<bool>("accountThere");
-        QTest::addColumn<bool>("tombstoneThere");
-        QTest::newRow("in the account that is there") << true << false;
-        QTest::newRow("with a new account") << false << false;
-        QTest::newRow("over a deleted account") << false << true;
+        columns<bool, bool>("accountThere", "tombstoneThere");
+        row("in the account that is there", true, false);
+        row("with a new account", false, false);
+        row("over a deleted account", false, true);
     }
 
     void createsALocalCalendar()

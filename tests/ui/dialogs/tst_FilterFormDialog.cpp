@@ -1,4 +1,5 @@
 #include "support/ScratchState.h"
+#include "support/TestData.h"
 #include "ui/dialogs/FilterEventChoice.h"
 #include "ui/dialogs/FilterFormDialog.h"
 #include "ui/dialogs/FilterPatternEditor.h"
@@ -84,8 +85,7 @@ private slots:
 
     void aStoredRuleComesBackFromTheForm_data()
     {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("conditions");
+        columns<QString, QString>("type", "conditions");
         QTest::newRow("pattern, every list")
             << Pattern
             << QStringLiteral(

@@ -1,5 +1,6 @@
 #include "app/state/DefaultCalendar.h"
 #include "support/ScratchState.h"
+#include "support/TestData.h"
 #include "ui/dialogs/ImportDialog.h"
 
 #include <QtTest>
@@ -31,9 +32,7 @@ private slots:
     {
         ScratchState state;
         const QString feed = state.addCalendar(u"A feed"_qs);
-        Calendar readOnly = state->calendars()->getById(feed).value();
-        readOnly.isReadOnly = true;
-        QVERIFY(state->calendars()->update(readOnly));
+        state.makeReadOnly(feed);
         const QString art = state.addCalendar(u"art"_qs);
         ImportDialog dialog(state.state(), { u"a.ics"_qs }, 1);
         auto *combo = dialog.findChild<QComboBox *>();
@@ -45,14 +44,13 @@ private slots:
 
     void picksTheTarget_data()
     {
-        QTest::addColumn<QString>("preferred"); // a calendar's name, or text of the setting
-        QTest::addColumn<QString>("flagged");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("the user's choice") << u"Work"_qs << u"Personal"_qs << u"Work"_qs;
-        QTest::newRow("the one used last") << QString(DefaultCalendar::sentinel()) << u"Personal"_qs << u"Zoo"_qs;
-        QTest::newRow("a choice that is gone") << u"gone"_qs << u"Work"_qs << u"Work"_qs;
-        QTest::newRow("no flag") << QString() << QString() << u"Art"_qs;
-        QTest::newRow("the flagged one is read-only") << QString() << u"Feed"_qs << u"Art"_qs;
+        // A calendar's name or text of the setting, and names.
+        columns<QString, QString, QString>("preferred", "flagged", "expected");
+        row("the user's choice", "Work", "Personal", "Work");
+        row("the one used last", QString(DefaultCalendar::sentinel()), "Personal", "Zoo");
+        row("a choice that is gone", "gone", "Work", "Work");
+        row("no flag", "", "", "Art");
+        row("the flagged one is read-only", "", "Feed", "Art");
     }
 
     void picksTheTarget()

@@ -1,4 +1,5 @@
 #include "support/Contrast.h"
+#include "support/TestData.h"
 #include "ui/surfaces/EventColors.h"
 
 #include <QtTest>
@@ -9,16 +10,15 @@ class TestEventColors : public QObject {
 private slots:
     void textCanBeRead_data()
     {
-        QTest::addColumn<QColor>("base");
-        QTest::addColumn<QColor>("text");
-        QTest::addColumn<int>("bodyAlpha");
+        columns<QColor, QColor, int>("base", "text", "bodyAlpha");
+        const QColor white(Qt::white);
         const QColor dark(24, 27, 34);
         const QColor light(231, 233, 238);
-        QTest::newRow("light mode") << QColor(Qt::white) << dark << 96;
-        QTest::newRow("light mode, faint") << QColor(Qt::white) << dark << 28;
-        QTest::newRow("dark mode") << QColor(28, 31, 38) << light << 96;
-        QTest::newRow("dark mode, faint") << QColor(28, 31, 38) << light << 28;
-        QTest::newRow("grey") << QColor(90, 90, 90) << QColor(Qt::white) << 96;
+        row("light mode", white, dark, 96);
+        row("light mode, faint", white, dark, 28);
+        row("dark mode", QColor(28, 31, 38), light, 96);
+        row("dark mode, faint", QColor(28, 31, 38), light, 28);
+        row("grey", QColor(90, 90, 90), white, 96);
     }
 
     void textCanBeRead()

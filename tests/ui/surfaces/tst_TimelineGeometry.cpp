@@ -1,3 +1,4 @@
+#include "support/TestData.h"
 #include "ui/surfaces/TimelineGeometry.h"
 
 #include <QtTest>
@@ -74,24 +75,21 @@ private slots:
 
     void blocks_data()
     {
-        QTest::addColumn<QString>("spans");
-        QTest::addColumn<QList<QRect>>("rects"); // in the order of the spans
-        const auto row = [](const char *name, const char *spans, const QList<QRect> &rects) {
-            QTest::newRow(name) << QString::fromLatin1(spans) << rects;
-        };
+        columns<QString, QList<QRect>>("spans", "rects"); // in the order of the spans
+        using Rects = QList<QRect>;
         // The first column begins at 64, its blocks at 68; they have 92 pixels.
-        row("touching", "9:00-10:00 10:00-11:00", { { 68, 540, 92, 60 }, { 68, 600, 92, 60 } });
-        row("overlapping", "9:00-10:00 9:30-11:00", { { 68, 540, 45, 60 }, { 115, 570, 45, 90 } });
+        row("touching", "9:00-10:00 10:00-11:00", Rects{ { 68, 540, 92, 60 }, { 68, 600, 92, 60 } });
+        row("overlapping", "9:00-10:00 9:30-11:00", Rects{ { 68, 540, 45, 60 }, { 115, 570, 45, 90 } });
         row("freed column is used again", "9:00-12:00 9:30-10:00 10:30-11:00",
-            { { 68, 540, 45, 180 }, { 115, 570, 45, 30 }, { 115, 630, 45, 30 } });
-        row("no end", "9:00", { { 68, 540, 92, 24 } });
-        row("five minutes", "9:00-9:05", { { 68, 540, 92, 24 } });
+            Rects{ { 68, 540, 45, 180 }, { 115, 570, 45, 30 }, { 115, 630, 45, 30 } });
+        row("no end", "9:00", Rects{ { 68, 540, 92, 24 } });
+        row("five minutes", "9:00-9:05", Rects{ { 68, 540, 92, 24 } });
         row("smallest blocks that would cover each other", "9:00-9:05 9:10-9:40",
-            { { 68, 540, 45, 24 }, { 115, 550, 45, 30 } });
-        row("smallest blocks that touch", "9:00-9:05 9:24-10:00", { { 68, 540, 92, 24 }, { 68, 564, 92, 36 } });
-        row("end of the day stays inside", "23:55-+0:00", { { 68, 1416, 92, 24 } });
-        row("end before start", "9:00-8:00", { { 68, 540, 92, 24 } });
-        row("past midnight", "22:00-+2:00", { { 68, 1320, 92, 120 }, { 168, 0, 92, 120 } });
+            Rects{ { 68, 540, 45, 24 }, { 115, 550, 45, 30 } });
+        row("smallest blocks that touch", "9:00-9:05 9:24-10:00", Rects{ { 68, 540, 92, 24 }, { 68, 564, 92, 36 } });
+        row("end of the day stays inside", "23:55-+0:00", Rects{ { 68, 1416, 92, 24 } });
+        row("end before start", "9:00-8:00", Rects{ { 68, 540, 92, 24 } });
+        row("past midnight", "22:00-+2:00", Rects{ { 68, 1320, 92, 120 }, { 168, 0, 92, 120 } });
     }
 
     void blocks()

@@ -391,6 +391,13 @@ private slots:
         QCOMPARE(requested.at(0).at(0).value<Event>().title, u"standup"_qs);
     }
 
+    void longNamesAreCut()
+    {
+        QCOMPARE(EventText::shortName(u" two\nlines "_qs), u"two lines"_qs);
+        QCOMPARE(EventText::shortName(QString(40, u'x')), QString(40, u'x'));
+        QCOMPARE(EventText::shortName(QString(41, u'x')), QString(39, u'x') + u'…');
+    }
+
     void timeFormatChangesTheTexts()
     {
         add(u"standup"_qs, Wednesday, QTime(15, 0));
