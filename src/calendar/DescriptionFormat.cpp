@@ -108,7 +108,8 @@ QString DescriptionFormat::linkifyUrls(const QString &text, const QString &linkC
     QString result;
     for (const TextLinks::Piece &piece : TextLinks::pieces(text)) {
         const QStringView before = QStringView(text).first(piece.text.data() - text.constData());
-        const bool isInMarkup = before.endsWith(u"href=\"") || before.endsWith(u"\">") || before.endsWith(u"'>");
+        const bool isHref = before.right(6).contains(u"href="); // in whichever quotes, or in none
+        const bool isInMarkup = isHref || before.endsWith(u"\">") || before.endsWith(u"'>");
         if (piece.isUrl && !isInMarkup)
             result += QStringLiteral("<a href=\"%1\"%2>%1</a>").arg(piece.text, style);
         else

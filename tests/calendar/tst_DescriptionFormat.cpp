@@ -44,6 +44,8 @@ private slots:
         row("bracket", "(https://x.org/a)!?", u'(' + link + u")!?"_s);
         row("two", "https://x.org/a https://x.org/a", link + u' ' + link);
         row("in a tag", "<a href=\"https://x.org/a.\">b</a>", u"<a href=\"https://x.org/a.\">b</a>"_s);
+        row("in other quotes", "<a href='https://x.org/a'>b</a>", u"<a href='https://x.org/a'>b</a>"_s);
+        row("without quotes", "<a href=https://x.org/a>b</a>", u"<a href=https://x.org/a>b</a>"_s);
         row("in an anchor", "<a href='b'>https://x.org/a</a>", u"<a href='b'>https://x.org/a</a>"_s);
         row("other scheme", "ftp://x.org", u"ftp://x.org"_s);
     }
