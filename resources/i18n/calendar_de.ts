@@ -1556,6 +1556,10 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
         <source>Show more or fewer, while none is selected</source>
         <translation>Mehr oder weniger anzeigen, solange keiner ausgewählt ist</translation>
     </message>
+    <message>
+        <source>Undo (drag/resize/delete)</source>
+        <translation>Rückgängig (Ziehen/Größe ändern/Löschen)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

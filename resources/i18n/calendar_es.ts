@@ -1556,6 +1556,10 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
         <source>Show more or fewer, while none is selected</source>
         <translation>Mostrar más o menos, si no hay ninguno seleccionado</translation>
     </message>
+    <message>
+        <source>Undo (drag/resize/delete)</source>
+        <translation>Deshacer (mover/redimensionar/eliminar)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -1556,6 +1556,10 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
         <source>Show more or fewer, while none is selected</source>
         <translation>Afficher plus ou moins, si rien n’est sélectionné</translation>
     </message>
+    <message>
+        <source>Undo (drag/resize/delete)</source>
+        <translation>Annuler (déplacement/redimensionnement/suppression)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -1548,6 +1548,10 @@ Please check file permissions and try again.</source>
         <source>Show more or fewer, while none is selected</source>
         <translation>選択していないときに表示数を切り替え</translation>
     </message>
+    <message>
+        <source>Undo (drag/resize/delete)</source>
+        <translation>元に戻す(移動/長さの変更/削除)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
