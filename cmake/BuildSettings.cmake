@@ -20,11 +20,12 @@ endfunction()
 
 quillon_setting(QUILLON_ORGANIZATION_DOMAIN "quillon.example" "Domain of the maker")
 quillon_setting(QUILLON_DOWNLOAD_URL "" "Base URL of releases, ending in /calendar/stable/; empty: no update check")
-quillon_setting(QUILLON_FEEDBACK_URL "" "URL of the feedback page; empty: no feedback entry")
+quillon_setting(QUILLON_FEEDBACK_URL "" "Where feedback is POSTed, or a mailto: address; empty: users copy its text")
 quillon_setting(QUILLON_AUTH_URL "" "Base URL of the sign-in service")
 quillon_setting(QUILLON_ACCOUNT_API_URL "" "Base URL of the account service, ending in /account/v1")
 quillon_setting(QUILLON_SYNC_API_URL "" "Base URL of the cloud calendar service, ending in /calendar/v1")
 quillon_setting(QUILLON_ACCOUNT_PORTAL_URL "" "URL of the account portal")
 quillon_setting(QUILLON_AUTH_CLIENT_ID "7e2d40a1b95c3f6e08d1c47ab2963ef5" "Client identifier for sign-in")
+quillon_setting(QUILLON_TEAMS_HOST "teams.microsoft.com" "Web host of the Microsoft Teams meetings in invitations")
 
 configure_file(${CMAKE_SOURCE_DIR}/cmake/BuildSettings.h.in ${CMAKE_BINARY_DIR}/generated/BuildSettings.h @ONLY)

@@ -6,9 +6,13 @@
 #include "app/TerminationSignals.h"
 #include "app/state/AppState.h"
 #include "app/state/Platform.h"
+#include "storage/EventRepository.h"
 #include "storage/PreferencesRepository.h"
 #include "ui/MainWindow.h"
+#include "ui/dialogs/FeedbackDialog.h"
+#include "ui/dialogs/ManualUpdateCheck.h"
 #include "ui/dialogs/UpdateDialog.h"
+#include "ui/dialogs/WhatsNewDialog.h"
 #include "ui/theme/Theme.h"
 
 #include <QDebug>
@@ -26,6 +30,7 @@
 
 namespace {
 
+constexpr int WelcomeDelayMs = 300; // when the window has been painted
 constexpr int UpdateCheckDelayMs = 1500;
 
 const QString LanguageKey = QStringLiteral("ui/language");
@@ -88,6 +93,11 @@ QuillonUpdate::Config Application::updateConfig()
              .version = QString::fromLatin1(BuildSettings::Version) };
 }
 
+QuillonFeedback::Config Application::feedbackConfig()
+{
+    return { .product = QStringLiteral("calendar"), .url = QString::fromLatin1(BuildSettings::FeedbackUrl) };
+}
+
 QLocale Application::localeFor(const QString &language, const QLocale &system)
 {
     // The system's own locale also knows what was set apart from it, such as LC_TIME.
@@ -141,11 +151,24 @@ int Application::run()
         return reportDatabaseFailure();
     m_mainWindow = new MainWindow(m_appState);
     StartupTrace::watch(m_mainWindow);
-    showFirstWindow();
+    // Until the window has been seen, a dialog that closes is no reason to leave.
+    setQuitOnLastWindowClosed(false);
+    m_mainWindow->installEventFilter(this);
     connectCommands();
-    replayInitialCommand();
+    connectHelp();
+    // The first week would else have to wait for what is being read in slices.
+    connect(m_appState->events(), &EventRepository::warmedUp, this, &Application::begin, Qt::SingleShotConnection);
     QTimer::singleShot(UpdateCheckDelayMs, this, &Application::checkForUpdate);
     return exec();
+}
+
+void Application::begin()
+{
+    showFirstWindow();
+    if (hasInitialCommand())
+        replayInitialCommand();
+    else if (m_mainWindow->isVisible())
+        QTimer::singleShot(WelcomeDelayMs, m_mainWindow, &MainWindow::welcomeOnFirstLaunch);
 }
 
 int Application::reportDatabaseFailure()
@@ -167,13 +190,8 @@ void Application::showFirstWindow()
 {
     const bool startsHidden = m_appState->preferences()->getBool(QStringLiteral("ui/startMinimized"), false)
         || arguments().contains(QLatin1StringView("--background"));
-    if (!startsHidden) {
+    if (!startsHidden)
         m_mainWindow->show();
-        return;
-    }
-    // Until the window has been seen, a dialog that closes is no reason to leave.
-    setQuitOnLastWindowClosed(false);
-    m_mainWindow->installEventFilter(this);
 }
 
 bool Application::eventFilter(QObject *watched, QEvent *event)
@@ -192,18 +210,32 @@ void Application::connectCommands()
     connect(m_singleInstance, &SingleInstance::focusRequested, m_mainWindow, &MainWindow::focusWindow);
     connect(m_singleInstance, &SingleInstance::showTodayRequested, m_mainWindow, &MainWindow::showToday);
     connect(m_singleInstance, &SingleInstance::openIcsRequested, m_mainWindow, &MainWindow::importIcsFromCommand);
-    // Until the event form and quick add are there, the window is the next best answer.
-    connect(m_singleInstance, &SingleInstance::newEventRequested, m_mainWindow, &MainWindow::focusWindow);
-    connect(m_singleInstance, &SingleInstance::quickAddRequested, m_mainWindow, &MainWindow::focusWindow);
+    connect(m_singleInstance, &SingleInstance::newEventRequested, m_mainWindow, &MainWindow::openNewEventDialog);
+    connect(m_singleInstance, &SingleInstance::quickAddRequested, m_mainWindow, &MainWindow::quickAddFromCommand);
+}
+
+void Application::connectHelp()
+{
+    const QString appName = QStringLiteral("Quillon Calendar");
+    const QuillonUpdate::StatusHandler status = [window = m_mainWindow](const QString &text) {
+        window->showMessage(text);
+    };
+    connect(m_mainWindow, &MainWindow::whatsNewRequested, m_mainWindow,
+            [=, window = m_mainWindow] { QuillonUpdate::showWhatsNewManual(updateConfig(), appName, window, status); });
+    connect(m_mainWindow, &MainWindow::updateCheckRequested, m_mainWindow,
+            [=, window = m_mainWindow] { QuillonUpdate::runManualCheck(updateConfig(), appName, window, status); });
+    connect(m_mainWindow, &MainWindow::feedbackRequested, m_mainWindow,
+            [window = m_mainWindow] { QuillonFeedback::openFeedback(feedbackConfig(), window); });
+}
+
+bool Application::hasInitialCommand() const
+{
+    const QString cmd = QJsonDocument::fromJson(m_initialCommand).object().value(QLatin1StringView("cmd")).toString();
+    return m_singleInstance && !cmd.isEmpty() && cmd != QLatin1StringView("focus");
 }
 
 void Application::replayInitialCommand()
 {
-    if (m_initialCommand.isEmpty() || !m_singleInstance)
-        return;
-    const QString cmd = QJsonDocument::fromJson(m_initialCommand).object().value(QLatin1StringView("cmd")).toString();
-    if (cmd == QLatin1StringView("focus"))
-        return;
     QTimer::singleShot(0, m_singleInstance, [instance = m_singleInstance, command = m_initialCommand] {
         QMetaObject::invokeMethod(instance, "dispatchCommand", Qt::QueuedConnection, Q_ARG(QByteArray, command));
     });
@@ -227,6 +259,5 @@ void Application::onTerminationSignal()
 {
     if (m_mainWindow)
         m_mainWindow->quitApplication();
-    else
-        quit();
+    exit(0); // an open form would stop quit(), to ask a question that nobody is there to answer
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/QuillonFeedback.h"
 #include "platform/QuillonUpdate.h"
 
 #include <QApplication>
@@ -33,6 +34,7 @@ public:
     /// no such locale is known (English in Germany is; English in Japan is not, and gives en_US).
     static QLocale localeFor(const QString &language, const QLocale &system);
     static QuillonUpdate::Config updateConfig();
+    static QuillonFeedback::Config feedbackConfig();
 
     void setSingleInstance(SingleInstance *singleInstance) { m_singleInstance = singleInstance; }
     /// The command line of this very launch, as SingleInstance::parseArgsToCommand gives it.
@@ -46,8 +48,11 @@ private:
     QTranslator *installed(QTranslator *translator, bool loaded);
     void loadFonts();
     int reportDatabaseFailure();
+    void begin();
     void showFirstWindow();
     void connectCommands();
+    void connectHelp();
+    [[nodiscard]] bool hasInitialCommand() const; // more than to show the window
     void replayInitialCommand();
     void checkForUpdate();
     void onTerminationSignal();

@@ -11,7 +11,7 @@ Q_LOGGING_CATEGORY(lcExpansion, "calendar.expansion", QtInfoMsg)
 
 namespace {
 
-using RruleExpander::Occurrence;
+using RruleExpander::Occurrences;
 
 /// The overrides of one series by recurrence id. Of several with one id the last counts.
 struct Override {
@@ -55,19 +55,18 @@ struct Rows {
     }
 };
 
-void appendInstances(QList<Event> &result, const Event &master, QList<Occurrence> &occurrences,
-                     SeriesOverrides *overrides)
+void appendInstances(QList<Event> &result, const Occurrences &occurrences, SeriesOverrides *overrides)
 {
-    for (Occurrence &occurrence : occurrences) {
+    for (const qint64 startMs : occurrences.starts()) {
         if (overrides) {
-            const auto found = overrides->find(occurrence.recurrenceId);
+            const auto found = overrides->find(RruleExpander::formatRecurrenceId(startMs));
             if (found != overrides->end()) {
                 found->isUsed = true;
                 result.append(*found->row);
                 continue;
             }
         }
-        RruleExpander::appendInstance(result, master, std::move(occurrence));
+        occurrences.appendAt(startMs, result);
     }
 }
 
@@ -88,13 +87,13 @@ QList<Event> EventExpansion::expand(const QList<Event> &events, const QDateTime 
     const qint64 toMs = to.toMSecsSinceEpoch();
 
     // Records are large: counting first spares moving them when the list grows.
-    std::vector<QList<Occurrence>> occurrences;
-    occurrences.reserve(rows.masters.size());
+    std::vector<Occurrences> occurrences;
+    occurrences.reserve(size_t(rows.masters.size()));
     qsizetype total = rows.singles.size() + rows.overrides.size();
     for (const Event *master : std::as_const(rows.masters)) {
-        occurrences.push_back(RruleExpander::occurrences(*master, fromMs, toMs));
-        total += occurrences.back().size();
-        if (occurrences.back().isEmpty())
+        const Occurrences &found = occurrences.emplace_back(*master, fromMs, toMs);
+        total += found.starts().size();
+        if (found.starts().isEmpty())
             logNothing(*master, from, to);
     }
 
@@ -103,7 +102,7 @@ QList<Event> EventExpansion::expand(const QList<Event> &events, const QDateTime 
     for (const Event *single : std::as_const(rows.singles))
         result.append(*single);
     for (qsizetype i = 0; i < rows.masters.size(); ++i)
-        appendInstances(result, *rows.masters.at(i), occurrences[i], rows.overridesOf(*rows.masters.at(i)));
+        appendInstances(result, occurrences[size_t(i)], rows.overridesOf(*rows.masters.at(i)));
     for (const Event *row : std::as_const(rows.overrides)) {
         if (rows.isLeftOver(row))
             result.append(*row);

@@ -2,7 +2,7 @@
 
 #include "calendar/ICalAlarm.h"
 #include "calendar/ICalDateTime.h"
-#include "calendar/ICalLine.h"
+#include "calendar/ICalTexts.h"
 #include "calendar/RruleExpander.h"
 
 #include <limits>
@@ -14,9 +14,12 @@ constexpr QStringView LineBreak{ u"\r\n" };
 /// Copies lines, and puts other times into the first VEVENT among them.
 class TimePatcher {
 public:
-    TimePatcher(const QString &start, const QString &end)
-        : m_start(QStringLiteral("DTSTART:") + start)
-        , m_end(QStringLiteral("DTEND:") + end)
+    enum class Kind { Times, Dates };
+
+    TimePatcher(Kind kind, const QString &start, const QString &end)
+        : m_kind(kind)
+        , m_start(startProperty(kind) + start)
+        , m_end(endProperty(kind) + end)
     {
     }
 
@@ -41,9 +44,20 @@ private:
         return line.startsWith(prefix, Qt::CaseInsensitive);
     }
 
-    static bool isTime(QStringView line, QStringView property)
+    static QString startProperty(Kind kind)
     {
-        return startsWith(line, property) && !startsWith(line.sliced(property.size()), u";VALUE=DATE");
+        return kind == Kind::Dates ? QStringLiteral("DTSTART;VALUE=DATE:") : QStringLiteral("DTSTART:");
+    }
+
+    static QString endProperty(Kind kind)
+    {
+        return kind == Kind::Dates ? QStringLiteral("DTEND;VALUE=DATE:") : QStringLiteral("DTEND:");
+    }
+
+    [[nodiscard]] bool isReplaced(QStringView line, QStringView property) const
+    {
+        return startsWith(line, property)
+            && (m_kind == Kind::Dates || !startsWith(line.sliced(property.size()), u";VALUE=DATE"));
     }
 
     void addEventLine(QStringView line)
@@ -53,9 +67,9 @@ private:
         if (m_isInAlarm && !startsWith(line, u"END:VEVENT")) {
             add(line);
             m_isInAlarm = !startsWith(line, u"END:VALARM");
-        } else if (isTime(line, u"DTSTART")) {
+        } else if (isReplaced(line, u"DTSTART")) {
             addStart();
-        } else if (isTime(line, u"DTEND")) {
+        } else if (isReplaced(line, u"DTEND")) {
             addEnd();
         } else if (startsWith(line, u"END:VEVENT")) {
             if (!m_hasStart)
@@ -89,6 +103,7 @@ private:
         m_text += line;
     }
 
+    Kind m_kind;
     QString m_start;
     QString m_end;
     QString m_text;
@@ -98,6 +113,18 @@ private:
     bool m_hasEnd = false;
     bool m_isFirst = true;
 };
+
+QString patched(const QString &text, TimePatcher patcher)
+{
+    QStringView rest = text;
+    for (qsizetype lineFeed = rest.indexOf(u'\n'); lineFeed >= 0; lineFeed = rest.indexOf(u'\n')) {
+        const QStringView line = rest.first(lineFeed);
+        patcher.addLine(line.endsWith(u'\r') ? line.chopped(1) : line);
+        rest = rest.sliced(lineFeed + 1);
+    }
+    patcher.addLine(rest);
+    return patcher.foundEvent() ? patcher.text() : text;
+}
 
 }
 
@@ -121,15 +148,15 @@ QString ICalParser::replaceVeventDtstartDtend(const QString &text, const QDateTi
     if (!newStart.isValid())
         return text;
     const QDateTime &end = newEnd.isValid() ? newEnd : newStart;
-    TimePatcher patcher(RruleExpander::formatRecurrenceId(newStart), RruleExpander::formatRecurrenceId(end));
-    QStringView rest = text;
-    for (qsizetype lineFeed = rest.indexOf(u'\n'); lineFeed >= 0; lineFeed = rest.indexOf(u'\n')) {
-        const QStringView line = rest.first(lineFeed);
-        patcher.addLine(line.endsWith(u'\r') ? line.chopped(1) : line);
-        rest = rest.sliced(lineFeed + 1);
-    }
-    patcher.addLine(rest);
-    return patcher.foundEvent() ? patcher.text() : text;
+    return patched(text,
+                   TimePatcher(TimePatcher::Kind::Times, RruleExpander::formatRecurrenceId(newStart),
+                               RruleExpander::formatRecurrenceId(end)));
+}
+
+QString ICalParser::replaceVeventDates(const QString &text, QDate newFirst, QDate newEnd)
+{
+    const QString format = QStringLiteral("yyyyMMdd");
+    return patched(text, TimePatcher(TimePatcher::Kind::Dates, newFirst.toString(format), newEnd.toString(format)));
 }
 
 QString ICalParser::escapeText(const QString &text)

@@ -23,7 +23,8 @@ QList<Event> parse(const QByteArray &utf8);
 QList<Event> parse(const QString &text);
 
 /// One task for each VTODO with a UID, in file order. An override of one instance is no task of its own:
-/// its text follows that of its series in rawIcalendar.
+/// its text follows that of its series in rawIcalendar. Without its series in the text there is no row that could
+/// keep it, and it is left out.
 QList<Task> parseTasks(const QByteArray &utf8);
 QList<Task> parseTasks(const QString &text);
 
@@ -33,6 +34,8 @@ QString serializeTaskToVCalendar(const Task &task);
 /// \p text with DTSTART and DTEND of its first VEVENT replaced by UTC times, all else untouched.
 /// An invalid \p newEnd repeats the start; an invalid \p newStart changes nothing.
 QString replaceVeventDtstartDtend(const QString &text, const QDateTime &newStart, const QDateTime &newEnd);
+/// The same for an all-day event: DTSTART and DTEND become these dates. Both must be valid; \p newEnd is exclusive.
+QString replaceVeventDates(const QString &text, QDate newFirst, QDate newEnd);
 
 /// RFC 5545 §3.3.11. Line breaks of any kind become "\n".
 QString escapeText(const QString &text);

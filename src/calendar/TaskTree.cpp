@@ -12,17 +12,52 @@ struct Node {
     int depth;
 };
 
+constexpr qsizetype NoParent = -1;
+
+/// The place of each task's parent in the list.
+std::vector<qsizetype> parentsOf(const QList<Task> &tasks)
+{
+    QHash<QString, qsizetype> places;
+    places.reserve(tasks.size());
+    for (qsizetype i = tasks.size() - 1; i >= 0; --i) // where two tasks have one UID, the first is the parent
+        places.insert(tasks.at(i).uid, i);
+    std::vector<qsizetype> parents;
+    parents.reserve(static_cast<size_t>(tasks.size()));
+    for (const Task &task : tasks)
+        parents.push_back(task.parentTaskUid.isEmpty() ? NoParent : places.value(task.parentTaskUid, NoParent));
+    return parents;
+}
+
+/// Makes the first task of each cycle a root.
+void breakCycles(std::vector<qsizetype> &parents)
+{
+    const auto parentOf = [&](qsizetype task) -> qsizetype & { return parents[static_cast<size_t>(task)]; };
+    std::vector<qsizetype> walks(parents.size(), NoParent); // which walk came to a task
+    const auto walkOf = [&](qsizetype task) -> qsizetype & { return walks[static_cast<size_t>(task)]; };
+    for (qsizetype walk = 0; walk < std::ssize(parents); ++walk) {
+        qsizetype task = walk;
+        while (task != NoParent && walkOf(task) == NoParent) {
+            walkOf(task) = walk;
+            task = parentOf(task);
+        }
+        if (task == NoParent || walkOf(task) != walk)
+            continue;
+        qsizetype first = task; // the walk came round to where it had been
+        for (qsizetype next = parentOf(task); next != task; next = parentOf(next))
+            first = std::min(first, next);
+        parentOf(first) = NoParent;
+    }
+}
+
 /// The children of each task by its UID, roots under the empty one; as indices, in list order.
 QHash<QString, std::vector<qsizetype>> groupByParent(const QList<Task> &tasks)
 {
-    QSet<QString> uids;
-    uids.reserve(tasks.size());
-    for (const Task &task : tasks)
-        uids.insert(task.uid);
+    std::vector<qsizetype> parents = parentsOf(tasks);
+    breakCycles(parents);
     QHash<QString, std::vector<qsizetype>> groups;
     for (qsizetype i = 0; i < tasks.size(); ++i) {
-        const QString &parent = tasks.at(i).parentTaskUid;
-        groups[uids.contains(parent) ? parent : QString()].push_back(i);
+        const qsizetype parent = parents[static_cast<size_t>(i)];
+        groups[parent == NoParent ? QString() : tasks.at(parent).uid].push_back(i);
     }
     return groups;
 }

@@ -131,3 +131,9 @@ QTimeZone TimeZones::ianaZone(const QString &id)
     thread_local Cache cache;
     return id.size() > MaxNameLength ? QTimeZone() : remembered(cache, id, strictZone);
 }
+
+QString TimeZones::systemName()
+{
+    const QString name = QString::fromUtf8(QTimeZone::systemTimeZoneId());
+    return ianaZone(name).isValid() ? name : QStringLiteral("UTC");
+}

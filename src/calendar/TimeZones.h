@@ -15,4 +15,7 @@ QTimeZone find(QStringView tzid);
 /// none. Answers from a cache.
 QTimeZone ianaZone(const QString &id);
 
+/// The IANA name of the machine's zone; "UTC" if it has none.
+QString systemName();
+
 } // namespace TimeZones

@@ -11,9 +11,10 @@ struct WallClockShift {
     [[nodiscard]] bool isNull() const { return days == 0 && seconds == 0; }
     bool operator==(const WallClockShift &) const = default;
 
-    /// From \p from to \p to as the local clock shows both; the seconds lie within a day either way.
+    /// From \p from to \p to, as the clock of \p from shows both; the seconds lie within a day either way.
+    /// Null if one of them is invalid.
     static WallClockShift between(const QDateTime &from, const QDateTime &to);
-    /// \p when moved on the clock of its own zone; keeps that zone. An hour that a clock change skips
-    /// moves on as QDateTime has it.
+    /// \p when moved on the clock of its own zone; keeps that zone. A result in an hour that a clock change
+    /// skips or repeats is read as WallClock has it.
     [[nodiscard]] QDateTime applied(const QDateTime &when) const;
 };

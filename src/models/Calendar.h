@@ -38,6 +38,9 @@ struct Calendar {
         return allowTasksOverride || supportedComponents.contains(QLatin1StringView("VTODO"), Qt::CaseInsensitive);
     }
 
+    /// True if it lives on this device and not on a server.
+    [[nodiscard]] bool isLocal() const { return url.startsWith(LocalDefaults::CalendarUrlPrefix); }
+
     bool operator==(const Calendar &) const = default;
 };
 

@@ -52,6 +52,7 @@ inline constexpr QLatin1StringView AllCalendarsId{"all-calendars"};
 namespace LocalDefaults {
 inline constexpr QLatin1StringView LocalAccountId{"personal-local-account"};
 inline constexpr QLatin1StringView SampleAccountId{"sample-account"};
+inline constexpr QLatin1StringView CalendarUrlPrefix{"local://calendar/"}; ///< an id follows
 inline constexpr QLatin1StringView PersonalCalendarId{"quillon-personal-default"};
 inline constexpr QLatin1StringView PersonalCalendarUrl{"local://calendar/quillon-personal-default"};
 }

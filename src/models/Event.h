@@ -53,6 +53,7 @@ struct Event {
 
     [[nodiscard]] bool isRecurring() const { return !recurrenceRule.isEmpty(); }
     [[nodiscard]] bool isOverride() const { return !masterEventUid.isEmpty() && !recurrenceId.isEmpty(); }
+    [[nodiscard]] bool isSeries() const { return isRecurring() && !isOverride(); }
 
     /// The smallest minutesBefore of the reminders, if there are any.
     [[nodiscard]] std::optional<int> firstReminderMinutes() const;

@@ -63,8 +63,10 @@ void Client::readAnswer(const QByteArray &json, const QUrl &source)
         emit checkFailed(QStringLiteral("no version in the answer (%1)").arg(error.errorString()));
         return;
     }
-    if (offered <= QVersionNumber::fromString(m_config.version))
+    if (offered <= QVersionNumber::fromString(m_config.version)) {
+        emit nothingNewer();
         return;
+    }
     const QUrl url = source.resolved(QUrl(text("url")));
     if (text("url").isEmpty() || !isDownloadUrl(url)) {
         emit checkFailed(QStringLiteral("no usable download address in the answer"));

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QUrl>
 
+#include <functional>
+
 class QNetworkAccessManager;
 class QNetworkReply;
 
@@ -24,6 +26,9 @@ struct Artifact {
     QString sha256; ///< hexadecimal; may be empty
 };
 
+/// Shows what goes on meanwhile, in a status bar say; an empty text takes it back.
+using StatusHandler = std::function<void(const QString &text)>;
+
 /// Asks once whether there is a newer release. The answer is a JSON object with "version", "url", "notes"
 /// and "sha256".
 class Client : public QObject {
@@ -34,12 +39,13 @@ public:
 
     explicit Client(const Config &config, QObject *parent = nullptr);
 
-    /// Ends in one of the signals, or in silence when there is nothing newer. Ignored while it runs.
+    /// Ends in exactly one of the signals. Ignored while it runs, and without an address.
     void checkForUpdate();
 
 signals:
     void updateAvailable(const QuillonUpdate::Artifact &artifact);
     void checkFailed(const QString &message);
+    void nothingNewer();
 
 private:
     void onFinished();

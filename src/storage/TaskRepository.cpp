@@ -11,8 +11,6 @@
 #include "storage/StoredAs.h"
 #include "storage/Tables.h"
 
-#include <QTimeZone>
-
 #include <limits>
 
 namespace {
@@ -79,17 +77,15 @@ void fillDefaults(Task &task, QLatin1StringView syncStatus)
         task.itemType = Task().itemType;
 }
 
-// The zone whose wall clock the steps of a rule keep.
-QString zoneOf(const QDateTime &time)
+// A timed date is stored as an instant, but repeats by the clock on the wall: 09:00 stays 09:00.
+QDateTime repeatBase(const QDateTime &date, bool isDateOnly)
 {
-    switch (time.timeSpec()) {
-    case Qt::LocalTime:
-        return QString::fromUtf8(QTimeZone::systemTimeZoneId());
-    case Qt::TimeZone:
-        return QString::fromUtf8(time.timeZone().id());
-    default:
-        return QStringLiteral("UTC");
-    }
+    return isDateOnly ? date : date.toLocalTime();
+}
+
+QDateTime repeated(const QDateTime &next, bool isDateOnly)
+{
+    return isDateOnly ? StoredTime::wholeDay(next) : next.toUTC();
 }
 
 // The first date of the task's rule after the one it has, or after now. Invalid if there is none.
@@ -100,15 +96,14 @@ QDateTime nextOccurrence(const Task &task)
     if (task.repeatMode == QLatin1StringView("fromCompletionDate"))
         base = QDateTime::currentDateTime();
     else if (task.dueDate)
-        base = *task.dueDate;
+        base = repeatBase(*task.dueDate, task.dueIsDateOnly);
     else if (task.startDate)
-        base = *task.startDate;
+        base = repeatBase(*task.startDate, task.startIsDateOnly);
     if (!base.isValid())
         return {};
 
     Event series;
     series.startTime = base;
-    series.timezone = zoneOf(base);
     series.recurrenceRule = task.recurrenceRule;
     // The instance at the base itself may reach into the window: an event without an end has a length too.
     for (const Event &occurrence : RruleExpander::expand(series, base.addSecs(1), base.addYears(horizonYears))) {
@@ -125,9 +120,9 @@ bool advance(Task &task)
     if (!next.isValid())
         return false;
     if (task.dueDate)
-        task.dueDate = task.dueIsDateOnly ? StoredTime::wholeDay(next) : next;
+        task.dueDate = repeated(next, task.dueIsDateOnly);
     else if (task.startDate)
-        task.startDate = task.startIsDateOnly ? StoredTime::wholeDay(next) : next;
+        task.startDate = repeated(next, task.startIsDateOnly);
     task.status = TaskStatus::NeedsAction;
     task.percentComplete = 0;
     return true;
@@ -160,7 +155,7 @@ QList<Task> TaskRepository::getByCalendarIncludingDeleted(const QString &calenda
 
 QList<Task> TaskRepository::getInDueRange(const QDateTime &start, const QDateTime &end, const QStringList &calendarIds)
 {
-    const CalendarFilter filter(calendarIds);
+    const CalendarFilter filter(m_database, calendarIds);
     const QVariant from = start.toString(Qt::ISODate);
     const QVariant to = end.toString(Qt::ISODate);
     const QString tail = QStringLiteral(" WHERE deleted_at IS NULL"
@@ -172,7 +167,7 @@ QList<Task> TaskRepository::getInDueRange(const QDateTime &start, const QDateTim
 
 QList<Task> TaskRepository::getUndated(const QStringList &calendarIds)
 {
-    const CalendarFilter filter(calendarIds);
+    const CalendarFilter filter(m_database, calendarIds);
     const QString tail =
         QStringLiteral(" WHERE deleted_at IS NULL AND due_date IS NULL AND status NOT IN ('completed', 'cancelled')")
         + filter.clause() + QStringLiteral(" ORDER BY sort_order, last_modified DESC");
@@ -191,7 +186,11 @@ std::optional<Task> TaskRepository::getByUid(const QString &uid, const QString &
 
 std::optional<Task> TaskRepository::findByUid(const QString &uid)
 {
-    return firstTask(m_database, QStringLiteral(" WHERE uid = ? AND deleted_at IS NULL LIMIT 1"), { uid });
+    const CalendarFilter anyCalendar(m_database, {});
+    return firstTask(m_database,
+                     QStringLiteral(" WHERE uid = ? AND deleted_at IS NULL") + anyCalendar.clause()
+                         + QStringLiteral(" LIMIT 1"),
+                     QVariantList{ uid } + anyCalendar.values());
 }
 
 QList<Task> TaskRepository::getPending(const QString &calendarId)

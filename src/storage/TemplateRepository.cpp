@@ -1,5 +1,6 @@
 #include "storage/TemplateRepository.h"
 
+#include "storage/Reorder.h"
 #include "storage/Statement.h"
 #include "storage/StoredTime.h"
 #include "storage/Tables.h"
@@ -42,6 +43,14 @@ bool TemplateRepository::update(const EventTemplate &eventTemplate)
     EventTemplate row = eventTemplate;
     row.updatedAt = QDateTime::currentDateTimeUtc();
     return announce(Tables::templates().update(m_database, row, "TemplateRepository::update failed:"));
+}
+
+bool TemplateRepository::reorder(const QStringList &ids)
+{
+    return announce(storeOrder(m_database, "TemplateRepository::reorder failed:",
+                               QStringLiteral("UPDATE event_templates SET sort_order = ?, sync_status = 'pending',"
+                                              " updated_at = ? WHERE id = ?"),
+                               ids));
 }
 
 bool TemplateRepository::softDelete(const QString &id)

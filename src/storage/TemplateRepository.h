@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QStringList>
 
 #include <optional>
 
@@ -21,6 +22,7 @@ public:
     std::optional<EventTemplate> getById(const QString &id); ///< live only
     bool insert(const EventTemplate &eventTemplate); ///< an empty id gets a new one
     bool update(const EventTemplate &eventTemplate);
+    bool reorder(const QStringList &ids); ///< their new order; all or none
     bool softDelete(const QString &id);
     bool hardDelete(const QString &id);
 

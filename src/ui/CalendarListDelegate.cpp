@@ -1,9 +1,11 @@
 #include "ui/CalendarListDelegate.h"
 
 #include "ui/CalendarListWidget.h"
+#include "ui/dialogs/FormDialog.h"
 #include "ui/theme/Theme.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -41,6 +43,8 @@ QWidget *CalendarListDelegate::createEditor(QWidget *parent, const QStyleOptionV
     QWidget *editor = QStyledItemDelegate::createEditor(parent, option, index);
     // The padding of an ordinary field leaves no room for the text in a row.
     editor->setStyleSheet(QStringLiteral("padding: 0px 2px;"));
+    if (auto *field = qobject_cast<QLineEdit *>(editor))
+        FormDialog::showName(field, index.data().toString());
     return editor;
 }
 

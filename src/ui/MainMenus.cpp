@@ -1,6 +1,7 @@
 #include "ui/MainMenus.h"
 
 #include "app/state/AppState.h"
+#include "app/state/UndoStack.h"
 #include "ui/ActionTable.h"
 #include "ui/GroupMenu.h"
 #include "ui/HorizonChip.h"
@@ -10,6 +11,8 @@
 
 #include <QActionGroup>
 #include <QMenuBar>
+
+#include <functional>
 
 MainMenus::MainMenus(AppState *state, MainWindow *window, ViewArea *viewArea)
     : QObject(window)
@@ -30,6 +33,27 @@ void MainMenus::buildFileMenu()
 {
     const QString group = tr("General");
     QMenu *menu = m_window->menuBar()->addMenu(tr("&File"));
+    menu->addAction(m_table->add({ .id = QStringLiteral("newEvent"),
+                                   .group = group,
+                                   .text = tr("&New Event…"),
+                                   .keys = ActionTable::keysFor(QKeySequence::New, Qt::CTRL | Qt::Key_N),
+                                   .run = [this] { m_window->openNewEventDialog(); },
+                                   .needsCalendar = true }));
+    menu->addAction(m_table->add({ .id = QStringLiteral("newTask"),
+                                   .group = group,
+                                   .text = tr("New &Task…"),
+                                   .keys = { Qt::CTRL | Qt::SHIFT | Qt::Key_T },
+                                   .run = [this] { m_window->openNewTaskDialog(); },
+                                   .needsCalendar = true }));
+    QAction *quickAdd = m_table->add({ .id = QStringLiteral("quickAdd"),
+                                       .group = group,
+                                       .text = tr("Quick &Add…"),
+                                       .keys = { Qt::CTRL | Qt::SHIFT | Qt::Key_N },
+                                       .run = [this] { m_window->showQuickAddDialog(); },
+                                       .needsCalendar = true });
+    quickAdd->setStatusTip(tr("Type an event in plain English (\"lunch Thursday 1pm\")"));
+    menu->addAction(quickAdd);
+    menu->addSeparator();
     menu->addAction(m_table->add(
         { .id = QStringLiteral("newCalendar"), .group = group, .text = tr("New &Calendar…"), .run = [this] {
              m_window->openNewCalendarDialog();
@@ -52,6 +76,16 @@ void MainMenus::buildFileMenu()
 void MainMenus::buildEditMenu()
 {
     QMenu *menu = m_window->menuBar()->addMenu(tr("&Edit"));
+    m_undo = m_table->add({ .id = QStringLiteral("undo"),
+                            .group = tr("General"),
+                            .text = tr("&Undo"),
+                            .helpText = tr("Undo (drag/resize/delete)"),
+                            .keys = ActionTable::keysFor(QKeySequence::Undo, Qt::CTRL | Qt::Key_Z),
+                            .run = [this] { m_window->undo(); } });
+    menu->addAction(m_undo);
+    menu->addSeparator();
+    connect(m_state->undoStack(), &UndoStack::changed, this, &MainMenus::showUndo);
+    showUndo();
     menu->addAction(m_table->add({ .id = QStringLiteral("preferences"),
                                    .group = tr("General"),
                                    .text = tr("&Preferences…"),
@@ -72,6 +106,13 @@ void MainMenus::buildViewMenu()
                                .checkable = true });
     m_sidebar->setChecked(m_window->isSidebarWanted());
     menu->addAction(m_sidebar);
+    m_tasksPane = m_table->add({ .id = QStringLiteral("toggleTasksPane"),
+                                 .group = group,
+                                 .text = tr("Toggle &Tasks Pane"),
+                                 .keys = { Qt::CTRL | Qt::SHIFT | Qt::Key_K },
+                                 .run = [this] { m_window->setTasksPaneVisible(m_tasksPane->isChecked()); },
+                                 .checkable = true });
+    m_tasksPane->setChecked(m_window->isTasksPaneWanted());
     m_compact = m_table->add({ .id = QStringLiteral("compactDensity"),
                                .group = group,
                                .text = tr("&Compact Density"),
@@ -84,6 +125,7 @@ void MainMenus::buildViewMenu()
                                    },
                                .checkable = true });
     menu->addAction(m_compact);
+    menu->addAction(m_tasksPane);
     menu->addSeparator();
     addModes(menu);
     addHorizons(menu->addMenu(tr("Days Timeline S&pan")));
@@ -191,11 +233,13 @@ void MainMenus::buildToolsMenu()
                                        .needsCalendar = true }));
     };
     add("addFilter", tr("Add &Filter…"), [this] { m_window->openAddFilterDialog(); });
-    add("manageFilters", tr("&Manage Filters…"), [this] { m_window->openManageFiltersDialog(); });
+    add("manageFilters", tr("Manage Fil&ters…"), [this] { m_window->openManageFiltersDialog(); });
     menu->addSeparator();
     add("addGroup", tr("Add Calendar &Group…"), [this] { m_window->openAddViewDialog(); });
     add("manageGroups", tr("Manage Calendar Gr&oups…"), [this] { m_window->openManageViewsDialog(); });
     new GroupMenu(m_state, m_table, menu->addMenu(tr("&Calendar Groups")));
+    menu->addSeparator();
+    add("manageTemplates", tr("Manage Te&mplates…"), [this] { m_window->openManageTemplatesDialog(); });
 }
 
 void MainMenus::buildHelpMenu()
@@ -207,11 +251,45 @@ void MainMenus::buildHelpMenu()
                                    .keys = ActionTable::keysFor(QKeySequence::HelpContents, Qt::Key_F1),
                                    .run = [this] { m_window->openKeyboardHelp(); } }));
     menu->addSeparator();
+    const auto add = [&](const char *id, const QString &text, void (MainWindow::*requested)()) {
+        menu->addAction(m_table->add({ .id = QLatin1StringView(id),
+                                       .group = tr("General"),
+                                       .text = text,
+                                       .run = std::bind_front(requested, m_window) }));
+    };
+    add("whatsNew", tr("&What's New"), &MainWindow::whatsNewRequested);
+    add("sendFeedback", tr("Send &Feedback…"), &MainWindow::feedbackRequested);
+    add("checkForUpdates", tr("Check for &Updates…"), &MainWindow::updateCheckRequested);
+    menu->addSeparator();
     menu->addAction(m_table->add({ .id = QStringLiteral("about"),
                                    .group = tr("General"),
                                    .text = tr("&About Quillon Calendar"),
                                    .run = [this] { m_window->openAboutBox(); },
                                    .role = QAction::AboutRole }));
+}
+
+QList<ShortcutInfo> MainMenus::keysOfSurfaces()
+{
+    const QString events = tr("Events in the calendar");
+    const QString allDay = tr("All-day events that do not all fit");
+    constexpr auto ShiftAlt = Qt::SHIFT | Qt::ALT;
+    return { { events, tr("Select the next one or the one before"), { Qt::Key_Down, Qt::Key_Up } },
+             { events, tr("Open the selected one"), { Qt::Key_Return } },
+             { events, tr("Delete it"), { Qt::Key_Delete, Qt::Key_Backspace } },
+             { events, tr("Move it by a day"), { Qt::SHIFT | Qt::Key_Right, Qt::SHIFT | Qt::Key_Left } },
+             { events, tr("Move it by a quarter of an hour"), { Qt::SHIFT | Qt::Key_Down, Qt::SHIFT | Qt::Key_Up } },
+             { events, tr("Let it end later or earlier"), { ShiftAlt | Qt::Key_Down, ShiftAlt | Qt::Key_Up } },
+             { events, tr("Select none"), { Qt::Key_Escape } },
+             { allDay, tr("Show all"), { Qt::Key_Plus } },
+             { allDay, tr("Show the first ones only"), { Qt::Key_Minus } },
+             { allDay, tr("Show more or fewer, while none is selected"), { Qt::Key_Return } } };
+}
+
+void MainMenus::showUndo()
+{
+    const UndoStack *stack = m_state->undoStack();
+    m_undo->setEnabled(stack->canUndo());
+    m_undo->setStatusTip(stack->topSummary());
 }
 
 void MainMenus::followViewState()

@@ -9,6 +9,7 @@ class MainWindow;
 class QAction;
 class QMenu;
 class ViewArea;
+struct ShortcutInfo;
 
 /// The menu bar of the main window and all its shortcuts. What the actions do is with the window and the
 /// view area; here stand their texts, keys and places.
@@ -19,6 +20,8 @@ public:
     MainMenus(AppState *state, MainWindow *window, ViewArea *viewArea);
 
     [[nodiscard]] ActionTable *table() const { return m_table; }
+    /// What a surface with the focus answers by itself, for the keyboard help.
+    static QList<ShortcutInfo> keysOfSurfaces();
 
 private:
     void buildFileMenu();
@@ -30,6 +33,7 @@ private:
     void addZoom(QMenu *menu);
     void buildToolsMenu();
     void buildHelpMenu();
+    void showUndo();
     void followViewState();
     void showViewState();
 
@@ -38,5 +42,7 @@ private:
     ViewArea *m_viewArea;
     ActionTable *m_table;
     QAction *m_sidebar = nullptr;
+    QAction *m_tasksPane = nullptr;
     QAction *m_compact = nullptr;
+    QAction *m_undo = nullptr;
 };

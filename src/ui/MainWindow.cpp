@@ -1,14 +1,17 @@
 #include "ui/MainWindow.h"
 
 #include "app/state/AppState.h"
+#include "app/state/UndoStack.h"
+#include "calendar/WallClockShift.h"
+#include "calendar/services/QuickAdd.h"
 #include "models/Event.h"
 #include "models/FilterRule.h"
 #include "storage/CalendarRepository.h"
+#include "storage/EventRepository.h"
 #include "storage/PreferencesRepository.h"
 #include "ui/ActionTable.h"
 #include "ui/FiltersPill.h"
 #include "ui/GroupButton.h"
-#include "ui/IcsDrop.h"
 #include "ui/IcsImportFlow.h"
 #include "ui/MainMenus.h"
 #include "ui/NoAccountsPage.h"
@@ -16,14 +19,21 @@
 #include "ui/Sidebar.h"
 #include "ui/ViewArea.h"
 #include "ui/WindowLayout.h"
+#include "ui/actions/EventActions.h"
+#include "ui/actions/TaskActions.h"
 #include "ui/dialogs/AboutBox.h"
 #include "ui/dialogs/CalendarFormDialog.h"
 #include "ui/dialogs/FilterFormDialog.h"
+#include "ui/dialogs/IcsDrop.h"
 #include "ui/dialogs/KeyboardHelpDialog.h"
 #include "ui/dialogs/ManageFiltersDialog.h"
 #include "ui/dialogs/ManageViewsDialog.h"
 #include "ui/dialogs/PreferencesDialog.h"
 #include "ui/dialogs/Prompt.h"
+#include "ui/dialogs/WelcomeDialog.h"
+#include "ui/forms/ManageTemplatesDialog.h"
+#include "ui/forms/QuickAddDialog.h"
+#include "ui/tasks/TasksPane.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -37,7 +47,10 @@
 namespace {
 
 constexpr QSize FirstSize(1440, 900);
+constexpr int MessageMs = 5000;
 const QString SidebarVisibleKey = QStringLiteral("ui/sidebarVisible");
+const QString FirstLaunchSeenKey = QStringLiteral("ui/firstLaunchSeen");
+const QString TasksPaneVisibleKey = QStringLiteral("ui/tasksPaneVisible");
 
 }
 
@@ -48,6 +61,7 @@ MainWindow::MainWindow(AppState *state, QWidget *parent)
     setWindowTitle(tr("Quillon Calendar"));
     resize(FirstSize);
     setAcceptDrops(true);
+    buildActions();
     buildCentralPanes();
     m_menus = new MainMenus(state, this, m_viewArea);
     m_import = new IcsImportFlow(state, this);
@@ -71,6 +85,22 @@ ActionTable *MainWindow::actionTable() const
     return m_menus->table();
 }
 
+void MainWindow::buildActions()
+{
+    m_eventActions = new EventActions(m_state, this);
+    m_taskActions = new TaskActions(m_state, this);
+    m_eventActions->setTaskActions(m_taskActions);
+    connect(m_eventActions, &EventActions::message, this, &MainWindow::showMessage);
+    connect(m_taskActions, &TaskActions::message, this, &MainWindow::showMessage);
+    connect(m_taskActions, &TaskActions::eventRequested, this, [this](const QString &id) { focusEvent(id, {}); });
+    connect(m_eventActions, &EventActions::filterEditRequested, this,
+            [this](const FilterRule &rule) { (new FilterFormDialog(m_state, rule, this))->open(); });
+    connect(m_eventActions, &EventActions::filterFromEventRequested, this, &MainWindow::onFilterFromEvent);
+    connect(m_state->undoStack(), &UndoStack::undone, this,
+            [this](const QString &summary) { showMessage(tr("Undid: %1").arg(summary)); });
+    connect(m_state->undoStack(), &UndoStack::failed, this, &MainWindow::showMessage);
+}
+
 void MainWindow::buildCentralPanes()
 {
     m_panes = new QSplitter(Qt::Horizontal, this);
@@ -81,17 +111,23 @@ void MainWindow::buildCentralPanes()
     m_viewArea = new ViewArea(m_state);
     m_center->addWidget(empty);
     m_center->addWidget(m_viewArea);
+    m_rightPanes = new QSplitter(Qt::Vertical);
+    m_rightPanes->setChildrenCollapsible(false);
+    m_tasksPane = new TasksPane(m_state, m_taskActions);
+    m_rightPanes->addWidget(m_tasksPane);
     m_panes->addWidget(m_sidebar);
     m_panes->addWidget(m_center);
+    m_panes->addWidget(m_rightPanes);
     m_panes->setStretchFactor(0, 0);
     m_panes->setStretchFactor(1, 1);
     setCentralWidget(m_panes);
     m_sidebar->setVisible(isSidebarWanted());
+    m_rightPanes->setVisible(isTasksPaneWanted());
 
     connect(empty, &NoAccountsPage::addRequested, this, &MainWindow::openNewCalendarDialog);
-    connect(m_viewArea, &ViewArea::filterEditRequested, this,
-            [this](const FilterRule &rule) { (new FilterFormDialog(m_state, rule, this))->open(); });
-    connect(m_viewArea, &ViewArea::filterFromEventRequested, this, &MainWindow::onFilterFromEvent);
+    m_viewArea->connectActions(m_eventActions);
+    connect(m_viewArea, &ViewArea::icsDropped, this, &MainWindow::importIcsFiles);
+    connect(m_viewArea, &ViewArea::message, this, &MainWindow::showMessage);
 }
 
 void MainWindow::buildStatusBar()
@@ -118,6 +154,22 @@ void MainWindow::setSidebarVisible(bool visible)
 {
     m_sidebar->setVisible(visible);
     m_state->preferences()->setBool(SidebarVisibleKey, visible);
+}
+
+bool MainWindow::isTasksPaneWanted() const
+{
+    return m_state->preferences()->getBool(TasksPaneVisibleKey, true);
+}
+
+void MainWindow::setTasksPaneVisible(bool visible)
+{
+    m_rightPanes->setVisible(visible);
+    m_state->preferences()->setBool(TasksPaneVisibleKey, visible);
+}
+
+void MainWindow::showMessage(const QString &text)
+{
+    statusBar()->showMessage(text, MessageMs);
 }
 
 void MainWindow::focusWindow()
@@ -156,6 +208,68 @@ void MainWindow::openNewCalendarDialog()
     (new CalendarFormDialog(m_state, this))->open();
 }
 
+void MainWindow::openNewEventDialog()
+{
+    focusWindow();
+    m_eventActions->createNow();
+}
+
+void MainWindow::openNewTaskDialog()
+{
+    m_taskActions->create();
+}
+
+void MainWindow::openManageTemplatesDialog()
+{
+    (new ManageTemplatesDialog(m_state, this))->open();
+}
+
+void MainWindow::undo()
+{
+    m_state->undoStack()->undo();
+}
+
+void MainWindow::showQuickAddDialog()
+{
+    focusWindow();
+    auto *dialog = new QuickAddDialog(m_state, this);
+    connect(dialog, &QuickAddDialog::added, this,
+            [this](const QString &title) { showMessage(tr("Added: %1").arg(title)); });
+    dialog->open();
+}
+
+void MainWindow::quickAddFromCommand(const QString &text)
+{
+    if (text.trimmed().isEmpty())
+        return showQuickAddDialog();
+    if (m_state->calendars()->getAll().isEmpty())
+        return showMessage(tr("Quick-add ignored: no calendars configured."));
+    const bool isStored = !QuickAdd::commit(m_state, text).isEmpty();
+    showMessage((isStored ? tr("Added: %1") : tr("Quick-add couldn't parse: \"%1\"")).arg(text));
+}
+
+void MainWindow::focusEvent(const QString &id, QDate date)
+{
+    if (date.isValid())
+        m_state->setCurrentDate(date);
+    focusWindow();
+    const auto event = m_state->events()->getById(id);
+    if (!event)
+        return;
+    QDateTime occurrence = event->startTime;
+    if (event->isRecurring() && !event->isOverride() && date.isValid())
+        occurrence = event->isAllDay
+            ? QDateTime(date, QTime(0, 0), Qt::UTC)
+            : WallClockShift{ event->startTime.toLocalTime().date().daysTo(date), 0 }.applied(event->startTime);
+    m_eventActions->open(id, occurrence, {});
+}
+
+void MainWindow::focusTask(const QString &uid)
+{
+    focusWindow();
+    m_taskActions->openByUid(uid);
+}
+
 void MainWindow::openPreferencesDialog()
 {
     (new PreferencesDialog(m_state, this))->open();
@@ -183,12 +297,24 @@ void MainWindow::openManageViewsDialog()
 
 void MainWindow::openKeyboardHelp()
 {
-    (new KeyboardHelpDialog(m_menus->table()->shortcuts(), this))->open();
+    (new KeyboardHelpDialog(m_menus->table()->shortcuts() + MainMenus::keysOfSurfaces(), this))->open();
 }
 
 void MainWindow::openAboutBox()
 {
     showAboutBox(this);
+}
+
+void MainWindow::welcomeOnFirstLaunch()
+{
+    PreferencesRepository *preferences = m_state->preferences();
+    if (!isVisible() || QApplication::activeModalWidget() || preferences->getBool(FirstLaunchSeenKey, false))
+        return;
+    preferences->setBool(FirstLaunchSeenKey, true);
+    auto *dialog = new WelcomeDialog(m_state, this);
+    connect(dialog, &WelcomeDialog::importRequested, this, &MainWindow::chooseIcsFiles);
+    connect(dialog, &WelcomeDialog::addCalendarRequested, this, &MainWindow::openNewCalendarDialog);
+    dialog->open();
 }
 
 void MainWindow::onFilterFromEvent(const Event &event)

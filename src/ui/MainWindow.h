@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QMainWindow>
 #include <QStringList>
 
@@ -7,6 +8,7 @@
 
 class ActionTable;
 class AppState;
+class EventActions;
 class FiltersPill;
 class IcsImportFlow;
 class MainMenus;
@@ -14,6 +16,8 @@ class PlainKeyGuard;
 class QSplitter;
 class QStackedWidget;
 class Sidebar;
+class TaskActions;
+class TasksPane;
 class ViewArea;
 class WindowLayout;
 struct Event;
@@ -30,6 +34,7 @@ public:
 
     [[nodiscard]] bool isQuitting() const { return m_quitting; }
     [[nodiscard]] bool isSidebarWanted() const; ///< the stored choice, also while the window is hidden
+    [[nodiscard]] bool isTasksPaneWanted() const;
     [[nodiscard]] ActionTable *actionTable() const;
     [[nodiscard]] ViewArea *viewArea() const { return m_viewArea; }
     [[nodiscard]] Sidebar *sidebar() const { return m_sidebar; }
@@ -50,8 +55,28 @@ public slots:
     void openManageViewsDialog();
     void openKeyboardHelp();
     void openAboutBox();
+    /// Greets whoever has not been greeted yet. Holds back while the window is hidden or another dialog is open:
+    /// the next launch will do.
+    void welcomeOnFirstLaunch();
+    void showMessage(const QString &text); ///< in the status bar, for a while
+    void openNewEventDialog();
+    void openNewTaskDialog();
+    void showQuickAddDialog();
+    void openManageTemplatesDialog();
+    void undo(); ///< the last change of an event
+    void quickAddFromCommand(const QString &text);
+    /// Shows the event's details, on \p date if that is valid.
+    void focusEvent(const QString &id, QDate date);
+    void focusTask(const QString &uid);
     void setSidebarVisible(bool visible);
+    void setTasksPaneVisible(bool visible);
     void quitApplication();
+
+signals:
+    /// From the help menu. The program answers them: it knows where releases come from and feedback goes.
+    void whatsNewRequested();
+    void feedbackRequested();
+    void updateCheckRequested();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -60,12 +85,17 @@ protected:
 
 private:
     void buildCentralPanes();
+    void buildActions();
     void buildStatusBar();
     void refreshCenterPane();
     void onFilterFromEvent(const Event &event);
 
     AppState *m_state;
+    EventActions *m_eventActions = nullptr;
+    TaskActions *m_taskActions = nullptr;
     QSplitter *m_panes = nullptr;
+    QSplitter *m_rightPanes = nullptr;
+    TasksPane *m_tasksPane = nullptr;
     Sidebar *m_sidebar = nullptr;
     QStackedWidget *m_center = nullptr; // the page without calendars, and the view area
     ViewArea *m_viewArea = nullptr;

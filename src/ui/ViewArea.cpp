@@ -10,6 +10,8 @@
 #include "ui/GroupButton.h"
 #include "ui/ModeBar.h"
 #include "ui/ViewModes.h"
+#include "ui/actions/EventActions.h"
+#include "ui/actions/TaskDropHandler.h"
 #include "ui/surfaces/DayView.h"
 #include "ui/surfaces/WeekView.h"
 #include "ui/theme/Theme.h"
@@ -121,14 +123,37 @@ void ViewArea::buildSurfaces()
     m_day = new DayView(m_state);
     m_week = new WeekView(m_state, WeekView::Form::Week);
     m_days = new WeekView(m_state, WeekView::Form::Days);
-    for (TimelineView *view : std::initializer_list<TimelineView *>{ m_day, m_week, m_days }) {
+    for (TimelineView *view : timelines()) {
         m_stack->addWidget(view);
-        connect(view, &TimelineView::filterEditRequested, this, &ViewArea::filterEditRequested);
-        connect(view, &TimelineView::filterFromEventRequested, this, &ViewArea::filterFromEventRequested);
+        connect(view, &TimelineView::icsDropped, this, &ViewArea::icsDropped);
+        connect(view, &TimelineView::refused, this, &ViewArea::message);
+        connect(view, &TimelineView::taskDropped, this,
+                [this](const QString &taskId, const QDateTime &when, bool allDay, const QPoint &globalPos) {
+                    TaskDropHandler::handleDrop(m_state, taskId, when, allDay, globalPos, this);
+                });
     }
     for (WeekView *view : { m_week, m_days }) {
         connect(view, &WeekView::dayActivated, this,
                 [this](QDate date) { m_state->setViewModeAndDate(QStringLiteral("day"), date); });
+    }
+}
+
+QList<TimelineView *> ViewArea::timelines() const
+{
+    return { m_day, m_week, m_days };
+}
+
+void ViewArea::connectActions(EventActions *actions)
+{
+    for (TimelineView *view : timelines()) {
+        connect(view, &TimelineView::eventSelected, actions, &EventActions::open);
+        connect(view, &TimelineView::eventActivated, actions, &EventActions::edit);
+        connect(view, &TimelineView::contextMenuRequested, actions, &EventActions::showContextMenu);
+        connect(view, &TimelineView::moveRequested, actions, &EventActions::move);
+        connect(view, &TimelineView::resizeRequested, actions, &EventActions::resize);
+        connect(view, &TimelineView::deleteRequested, actions, &EventActions::remove);
+        connect(view, &TimelineView::createRequested, actions, &EventActions::create);
+        connect(view, &TimelineView::createAllDayRequested, actions, &EventActions::createAllDay);
     }
 }
 

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "models/Event.h"
-#include "models/FilterRule.h"
 #include "ui/WheelPager.h"
 
 #include <QDate>
 #include <QElapsedTimer>
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
@@ -13,12 +12,14 @@
 class AppState;
 class DayView;
 class ElidedLabel;
+class EventActions;
 class GroupButton;
 class ModeBar;
 class QHBoxLayout;
 class QStackedWidget;
 class QTimer;
 class QToolButton;
+class TimelineView;
 class WeekView;
 
 /// The centre of the window: the navigation bar above the calendar surfaces. Drives the navigation state
@@ -28,6 +29,9 @@ class ViewArea : public QWidget {
 
 public:
     explicit ViewArea(AppState *state, QWidget *parent = nullptr);
+
+    /// What the user asks of an event on any surface goes to \p actions.
+    void connectActions(EventActions *actions);
 
     /// The modes that have a surface, in the order of their buttons.
     static QStringList availableModes();
@@ -46,8 +50,8 @@ public slots:
     void zoomBy(int steps);
 
 signals:
-    void filterEditRequested(const FilterRule &rule);
-    void filterFromEventRequested(const Event &event);
+    void icsDropped(const QStringList &paths);
+    void message(const QString &text); ///< for the status bar
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -57,6 +61,7 @@ private:
     QHBoxLayout *buildNavigationRow();
     QToolButton *addStepButton(QHBoxLayout *row, const QString &text, const QString &name, int direction);
     void buildSurfaces();
+    [[nodiscard]] QList<TimelineView *> timelines() const;
     void connectState();
     void onCurrentDateChanged(QDate date);
     void updateDateLabel();

@@ -48,8 +48,9 @@ private slots:
         row("child before parent before grandparent", "c<b b<a a", "a -b --c", "a -b --c");
         row("siblings", "z b<z a<z y", "z -b -a y", "y z -a -b");
         row("unknown parent", "a<gone b<a", "a -b", "a -b");
-        row("cycle", "a<b b<a c<b d", "d", "d");
-        row("its own parent", "a<a b", "b", "b");
+        row("cycle", "a<b b<a c<b d", "a -b --c d", "a -b --c d");
+        row("below a cycle", "c<b b<a a<b", "b -c -a", "b -a -c");
+        row("its own parent", "a<a b", "a b", "a b");
         // Two calendars can hold a task of one UID. A child is still listed once, and nothing goes round.
         row("one UID twice", "a a c<a a<a", "a -c -a a", "a -a -c a");
         row("sorted by hand first", "b a y=5 x=7 z=-2", "b a y x z", "z y x a b");

@@ -39,6 +39,7 @@ private slots:
         Client client(config(server));
         QSignalSpy available(&client, &Client::updateAvailable);
         QSignalSpy failed(&client, &Client::checkFailed);
+        QSignalSpy nothingNewer(&client, &Client::nothingNewer);
         client.checkForUpdate();
         client.checkForUpdate(); // while it runs: the same question
         QTRY_COMPARE(server.requests().size(), 1);
@@ -53,6 +54,7 @@ private slots:
         QTRY_VERIFY(isSecond());
         QCOMPARE(server.requests().size(), 2);
         QTEST(!failed.isEmpty(), "fails");
+        QCOMPARE(nothingNewer.size(), offered.isEmpty() && failed.isEmpty() ? 1 : 0);
         QCOMPARE(available.size(), offered.isEmpty() ? 1 : 2);
         if (offered.isEmpty())
             return;

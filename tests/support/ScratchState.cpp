@@ -1,10 +1,10 @@
 #include "support/ScratchState.h"
 
 #include "calendar/services/VisibleEvents.h"
-#include "models/Calendar.h"
-#include "storage/CalendarRepository.h"
-#include "storage/EventRepository.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QUuid>
 
 namespace {
@@ -71,4 +71,37 @@ QString ScratchState::addCalendar(const QString &name, const QString &color, con
     if (!m_state.calendars()->insert(calendar))
         qFatal("cannot store a scratch calendar");
     return calendar.id;
+}
+
+ViewDef ScratchState::addGroup(const QString &name, const QStringList &calendarIds)
+{
+    ViewDef group;
+    group.id = group.name = name;
+    group.calendarIds =
+        QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(calendarIds)).toJson(QJsonDocument::Compact));
+    if (!m_state.views()->insert(group))
+        qFatal("cannot store a scratch group");
+    return m_state.views()->getById(group.id).value();
+}
+
+FilterRule ScratchState::addFilter(const QString &name, const QString &titlePart, const QString &action)
+{
+    FilterRule rule;
+    rule.id = rule.name = name;
+    rule.type = FilterType::Pattern;
+    rule.action = action;
+    const QJsonObject conditions{ { QStringLiteral("runtimeType"), QStringLiteral("pattern") },
+                                  { QStringLiteral("titleContains"), QJsonArray{ titlePart } } };
+    rule.conditions = QString::fromUtf8(QJsonDocument(conditions).toJson(QJsonDocument::Compact));
+    if (!m_state.filterRules()->insert(rule))
+        qFatal("cannot store a scratch filter");
+    return m_state.filterRules()->getById(rule.id).value();
+}
+
+void ScratchState::makeReadOnly(const QString &calendarId)
+{
+    Calendar calendar = m_state.calendars()->getById(calendarId).value();
+    calendar.isReadOnly = true;
+    if (!m_state.calendars()->update(calendar))
+        qFatal("cannot change a scratch calendar");
 }

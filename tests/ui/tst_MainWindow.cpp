@@ -1,8 +1,5 @@
-#include "models/ViewDef.h"
-#include "storage/CalendarRepository.h"
-#include "storage/PreferencesRepository.h"
-#include "storage/ViewRepository.h"
 #include "support/ScratchState.h"
+#include "support/TestData.h"
 #include "ui/ActionTable.h"
 #include "ui/CalendarListWidget.h"
 #include "ui/MainWindow.h"
@@ -12,24 +9,16 @@
 #include "ui/ViewArea.h"
 #include "ui/dialogs/CalendarFormDialog.h"
 #include "ui/dialogs/ImportDialog.h"
+#include "ui/dialogs/Prompt.h"
+#include "ui/dialogs/WelcomeDialog.h"
 #include "ui/surfaces/WeekView.h"
 
-#include <QApplication>
-#include <QDropEvent>
-#include <QFile>
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QMenuBar>
-#include <QMimeData>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QSplitter>
-#include <QTest>
-#include <QUrl>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
+const QDate Tuesday(2025, 11, 18);
 const QDate Wednesday(2025, 11, 19);
 
 }
@@ -37,365 +26,256 @@ const QDate Wednesday(2025, 11, 19);
 class tst_MainWindow : public QObject {
     Q_OBJECT
 
-private slots:
-    void everyKeyHasOneAction();
-    void menusHaveUniqueMnemonics();
-    void fallbackKeysAreThere();
-    void keysNavigate_data();
-    void keysNavigate();
-    void plainKeys_data();
-    void plainKeys();
-    void plainKeysBelongToWhoUsesThem();
-    void keysActivateGroups();
-    void mouseButtonsWalkTheHistory();
-    void emptyDatabaseShowsThePage();
-    void layoutSurvivesARestart();
-    void unreadableLayoutIsSkipped();
-    void defaultSizeNeedsNoHorizontalScrolling();
-    void sidebarToggleIsKept();
-    void densityFollowsTheMode();
-    void droppedFileIsImported();
-    void quittingIsKnown();
-
 private:
-    static void checkMnemonics(const QList<QAction *> &actions);
-};
-
-void tst_MainWindow::everyKeyHasOneAction()
-{
-    ScratchState state;
-    const MainWindow window(state.state());
-    QList<QKeySequence> keys;
-    const QList<QAction *> actions = window.findChildren<QAction *>();
-    for (const QAction *action : actions) {
-        for (const QKeySequence &key : action->shortcuts()) {
-            QVERIFY2(!keys.contains(key), qPrintable(key.toString() + u' ' + action->text()));
-            keys.append(key);
+    static void checkMnemonics(const QList<QAction *> &actions)
+    {
+        QList<QKeySequence> seen;
+        for (const QAction *action : actions) {
+            const QKeySequence mnemonic = QKeySequence::mnemonic(action->text());
+            QVERIFY2(mnemonic.isEmpty() || !seen.contains(mnemonic), qPrintable(action->text()));
+            seen.append(mnemonic);
+            if (action->menu())
+                checkMnemonics(action->menu()->actions());
         }
     }
-    QVERIFY(keys.size() > 30);
-    // What the help lists is what works.
-    qsizetype listed = 0;
-    const QList<ShortcutInfo> infos = window.actionTable()->shortcuts();
-    for (const ShortcutInfo &info : infos) {
-        QVERIFY(!info.label.contains(u'&'));
-        listed += info.keys.size();
-    }
-    const int unusedGroupKeys = 9 - int(state->views()->getAll().size());
-    QCOMPARE(listed, keys.size() - unusedGroupKeys);
-}
 
-void tst_MainWindow::checkMnemonics(const QList<QAction *> &actions)
-{
-    QList<QKeySequence> seen;
-    for (const QAction *action : actions) {
-        const QKeySequence mnemonic = QKeySequence::mnemonic(action->text());
-        if (!mnemonic.isEmpty())
-            QVERIFY2(!seen.contains(mnemonic), qPrintable(action->text()));
-        seen.append(mnemonic);
-        if (action->menu())
-            checkMnemonics(action->menu()->actions());
-    }
-}
-
-void tst_MainWindow::menusHaveUniqueMnemonics()
-{
-    ScratchState state;
-    const MainWindow window(state.state());
-    const QList<QAction *> menus = window.menuBar()->actions();
-    QCOMPARE(menus.size(), 5);
-    checkMnemonics(menus);
-}
-
-void tst_MainWindow::fallbackKeysAreThere()
-{
-    ScratchState state;
-    const MainWindow window(state.state());
-    const auto keys = [&window](const char *id) {
-        return window.actionTable()->action(QLatin1StringView(id))->shortcuts();
-    };
-    QVERIFY(keys("keyboardHelp").contains(QKeySequence(Qt::Key_F1)));
-    QVERIFY(keys("preferences").contains(QKeySequence(Qt::CTRL | Qt::Key_Comma)));
-    QVERIFY(keys("quit").contains(QKeySequence(Qt::CTRL | Qt::Key_Q)));
-}
-
-void tst_MainWindow::keysNavigate_data()
-{
-    QTest::addColumn<QKeySequence>("key");
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<QString>("mode");
-    QTest::addColumn<int>("horizon");
-    const auto row = [](const char *name, QKeyCombination key, QDate date, const char *mode = "week", int horizon = 7) {
-        QTest::newRow(name) << QKeySequence(key) << date << QString::fromLatin1(mode) << horizon;
-    };
-    row("T", Qt::Key_T, QDate::currentDate());
-    row("J", Qt::Key_J, QDate(2025, 11, 26));
-    row("K", Qt::Key_K, QDate(2025, 11, 12));
-    row("H", Qt::Key_H, QDate(2025, 11, 12));
-    row("L", Qt::Key_L, QDate(2025, 11, 26));
-    row("Shift+J", Qt::SHIFT | Qt::Key_J, QDate(2025, 12, 19));
-    row("Shift+K", Qt::SHIFT | Qt::Key_K, QDate(2025, 10, 19));
-    row("1", Qt::Key_1, Wednesday, "day");
-    row("2", Qt::Key_2, Wednesday, "days");
-    row("5, which has no surface yet", Qt::Key_5, Wednesday);
-    row("Ctrl+Shift+5", Qt::CTRL | Qt::SHIFT | Qt::Key_5, Wednesday, "days", 14);
-    row("Alt+Left", Qt::ALT | Qt::Key_Left, QDate(2025, 11, 18));
-}
-
-void tst_MainWindow::keysNavigate()
-{
-    QFETCH(QKeySequence, key);
-    ScratchState state;
-    state->setCurrentDate(QDate(2025, 11, 18));
-    state->setCurrentDate(Wednesday);
-    MainWindow window(state.state());
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    window.viewArea()->setFocus();
-    QTest::keySequence(&window, key);
-    QTEST(state->currentDate(), "date");
-    QTEST(state->viewMode(), "mode");
-    QTEST(state->weekHorizon(), "horizon");
-}
-
-void tst_MainWindow::plainKeys_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("isPlain");
-    const auto row = [](const char *name, int key, Qt::KeyboardModifiers modifiers, const QString &text, bool isPlain) {
-        QTest::newRow(name) << key << modifiers << text << isPlain;
-    };
-    row("Latin", Qt::Key_J, {}, QStringLiteral("j"), true);
-    row("Cyrillic", 0x041E, {}, QStringLiteral("о"), true);
-    row("Greek capital", 0x039E, Qt::ShiftModifier, QStringLiteral("Ξ"), true);
-    row("outside the BMP", 0x1F600, {}, QStringLiteral("😀"), true);
-    row("digit of the keypad", Qt::Key_1, Qt::KeypadModifier, QStringLiteral("1"), true);
-    row("space", Qt::Key_Space, {}, QStringLiteral(" "), true);
-    row("Ctrl+letter", Qt::Key_J, Qt::ControlModifier, QStringLiteral("\n"), false);
-    row("Alt+Cyrillic", 0x041E, Qt::AltModifier, QStringLiteral("о"), false);
-    row("Return", Qt::Key_Return, {}, QStringLiteral("\r"), false);
-    row("Delete", Qt::Key_Delete, {}, QStringLiteral("\x7f"), false);
-    row("F1", Qt::Key_F1, {}, {}, false);
-}
-
-void tst_MainWindow::plainKeys()
-{
-    QFETCH(int, key);
-    QFETCH(Qt::KeyboardModifiers, modifiers);
-    QFETCH(QString, text);
-    QTEST(PlainKeyGuard::isPlainKey(QKeyEvent(QEvent::ShortcutOverride, key, modifiers, text)), "isPlain");
-}
-
-void tst_MainWindow::plainKeysBelongToWhoUsesThem()
-{
-    ScratchState state;
-    state->setCurrentDate(Wednesday);
-    state.addCalendar(QStringLiteral("Journal"));
-    MainWindow window(state.state());
-    auto *edit = new QLineEdit(&window);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-
-    edit->setFocus();
-    QTest::keyClicks(edit, QStringLiteral("jk1"));
-    QCOMPARE(edit->text(), QStringLiteral("jk1"));
-    QCOMPARE(state->currentDate(), Wednesday);
-
-    CalendarListWidget *list = window.sidebar()->calendarList();
-    window.menuBar()->setFocus();
-    QTest::keyClick(window.menuBar(), Qt::Key_J);
-    QCOMPARE(state->currentDate(), Wednesday);
-
-    list->setFocus();
-    QTest::keyClick(list, Qt::Key_J);
-    QCOMPARE(state->currentDate(), Wednesday);
-    QCOMPARE(list->currentItem()->text(0), QStringLiteral("Journal"));
-    QTest::keyClick(list, Qt::Key_Left, Qt::AltModifier); // no plain key
-    QVERIFY(state->currentDate() != Wednesday);
-}
-
-void tst_MainWindow::keysActivateGroups()
-{
-    ScratchState state;
-    for (const char *name : { "a", "b" }) {
-        ViewDef group;
-        group.id = QLatin1StringView(name);
-        group.name = group.id;
-        group.sortOrder = 1;
-        QVERIFY(state->views()->insert(group));
-    }
-    QStringList ids;
-    const QList<ViewDef> groups = state->views()->getAll();
-    for (const ViewDef &group : groups)
-        ids.append(group.id);
-    QCOMPARE(ids.size(), 3);
-    MainWindow window(state.state());
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    QTest::keyClick(&window, Qt::Key_3, Qt::ControlModifier);
-    QCOMPARE(state->activeViewId(), ids.at(2));
-    QTest::keyClick(&window, Qt::Key_BracketRight, Qt::ControlModifier);
-    QCOMPARE(state->activeViewId(), ids.at(0));
-    QTest::keyClick(&window, Qt::Key_BracketLeft, Qt::ControlModifier);
-    QCOMPARE(state->activeViewId(), ids.at(2));
-    QTest::keyClick(&window, Qt::Key_9, Qt::ControlModifier);
-    QCOMPARE(state->activeViewId(), ids.at(2));
-}
-
-void tst_MainWindow::mouseButtonsWalkTheHistory()
-{
-    ScratchState state;
-    state->setCurrentDate(QDate(2025, 11, 18));
-    state->setCurrentDate(Wednesday);
-    MainWindow window(state.state());
-    window.show();
-    QTest::mouseClick(window.viewArea(), Qt::BackButton);
-    QCOMPARE(state->currentDate(), QDate(2025, 11, 18));
-    QTest::mouseClick(window.sidebar()->calendarList()->viewport(), Qt::ForwardButton);
-    QCOMPARE(state->currentDate(), Wednesday);
-}
-
-void tst_MainWindow::emptyDatabaseShowsThePage()
-{
-    ScratchState state;
-    QVERIFY(state->calendars()->removeDeep(ScratchState::calendarId()));
-    MainWindow window(state.state());
-    window.show();
-    auto *page = window.findChild<NoAccountsPage *>();
-    QVERIFY(page->isVisible());
-    QVERIFY(!window.actionTable()->action(QStringLiteral("importIcs"))->isEnabled());
-    QVERIFY(window.actionTable()->action(QStringLiteral("newCalendar"))->isEnabled());
-
-    page->findChild<QPushButton *>()->click();
-    auto *dialog = window.findChild<CalendarFormDialog *>();
-    QVERIFY(dialog);
-    dialog->findChild<QLineEdit *>()->setText(QStringLiteral("Home"));
-    dialog->accept();
-    QVERIFY(window.viewArea()->isVisible());
-    QVERIFY(window.actionTable()->action(QStringLiteral("importIcs"))->isEnabled());
-}
-
-void tst_MainWindow::layoutSurvivesARestart()
-{
-    ScratchState state;
-    QList<int> sizes;
+    void open()
     {
-        MainWindow window(state.state());
-        window.show();
-        window.resize(780, 640);
-        auto *panes = window.findChild<QSplitter *>();
-        panes->setSizes({ 280, 500 });
-        sizes = panes->sizes();
-        QVERIFY(window.close());
+        m_window.reset(); // a restart, if there was one
+        m_window = std::make_unique<MainWindow>(m_scratch->state());
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
-    MainWindow window(state.state());
-    window.show();
-    QCOMPARE(window.size(), QSize(780, 640));
-    QCOMPARE(window.findChild<QSplitter *>()->sizes(), sizes);
-}
+    AppState *state() { return m_scratch->state(); }
+    QAction *action(const char *id) { return m_window->actionTable()->action(QLatin1StringView(id)); }
 
-void tst_MainWindow::unreadableLayoutIsSkipped()
-{
-    ScratchState state;
-    for (const char *key : { "ui/window/geometry", "ui/window/state", "ui/window/splitter" })
-        state->preferences()->set(QLatin1StringView(key), QStringLiteral("no, this is %% not it"));
-    MainWindow window(state.state());
-    // The first size, or what a screen leaves beside the frame.
-    const QSize screen = window.screen()->availableSize();
-    QCOMPARE(window.width(), std::min(1440, screen.width()));
-    QVERIFY(window.height() <= std::min(900, screen.height()) && window.height() > std::min(900, screen.height()) - 60);
-    window.show();
-    const QList<int> sizes = window.findChild<QSplitter *>()->sizes();
-    QVERIFY(sizes.at(0) > 0 && sizes.at(1) > 0);
-}
+    std::unique_ptr<ScratchState> m_scratch;
+    std::unique_ptr<MainWindow> m_window;
 
-void tst_MainWindow::defaultSizeNeedsNoHorizontalScrolling()
-{
-    ScratchState state;
-    MainWindow window(state.state());
-    window.show();
-    window.resize(1440, 900);
-    auto *panes = window.findChild<QSplitter *>();
-    panes->setSizes({ 360, 1080 });
-    QTRY_COMPARE(window.width(), 1440);
-    QVERIFY(window.sidebar()->isVisible());
-    const QScrollArea *scroll = nullptr;
-    const QList<WeekView *> views = window.viewArea()->findChildren<WeekView *>();
-    for (const WeekView *view : views) {
-        if (view->isVisible())
-            scroll = view->scrollArea();
-    }
-    QVERIFY(scroll);
-    QVERIFY(!scroll->horizontalScrollBar()->isVisible());
-    QCOMPARE(scroll->horizontalScrollBar()->maximum(), 0);
-}
-
-void tst_MainWindow::sidebarToggleIsKept()
-{
-    ScratchState state;
+private slots:
+    void init()
     {
-        MainWindow window(state.state());
-        window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
-        QVERIFY(!window.sidebar()->isVisible());
+        m_window.reset();
+        m_scratch = std::make_unique<ScratchState>();
+        state()->setCurrentDate(Tuesday);
+        state()->setCurrentDate(Wednesday);
     }
-    MainWindow window(state.state());
-    window.show();
-    QVERIFY(!window.sidebar()->isVisible());
-    QAction *toggle = window.actionTable()->action(QStringLiteral("toggleSidebar"));
-    QVERIFY(!toggle->isChecked());
-    toggle->trigger();
-    QVERIFY(window.sidebar()->isVisible());
-}
 
-void tst_MainWindow::densityFollowsTheMode()
-{
-    ScratchState state;
-    const MainWindow window(state.state());
-    QAction *compact = window.actionTable()->action(QStringLiteral("compactDensity"));
-    compact->trigger();
-    QVERIFY(state->isCompact(QStringLiteral("week")));
-    state->setViewMode(QStringLiteral("day"));
-    QVERIFY(!compact->isChecked());
-    state->setViewMode(QStringLiteral("week"));
-    QVERIFY(compact->isChecked());
-}
+    void everyKeyHasOneAction()
+    {
+        open();
+        QList<QKeySequence> keys;
+        const QList<QAction *> actions = m_window->findChildren<QAction *>();
+        for (const QAction *action : actions) {
+            for (const QKeySequence &key : action->shortcuts()) {
+                QVERIFY2(!keys.contains(key), qPrintable(key.toString() + u' ' + action->text()));
+                keys.append(key);
+            }
+        }
+        // What the help lists is what works.
+        qsizetype listed = 0;
+        const QList<ShortcutInfo> infos = m_window->actionTable()->shortcuts();
+        for (const ShortcutInfo &info : infos) {
+            QVERIFY(!info.label.contains(u'&'));
+            listed += info.keys.size();
+        }
+        const int unusedGroupKeys = 9 - int(state()->views()->getAll().size());
+        QCOMPARE(listed, keys.size() - unusedGroupKeys);
+        for (const QKeySequence &fallback :
+             { QKeySequence(Qt::Key_F1), QKeySequence(Qt::CTRL | Qt::Key_Comma), QKeySequence(Qt::CTRL | Qt::Key_Q) })
+            QVERIFY2(keys.contains(fallback), qPrintable(fallback.toString()));
+        checkMnemonics(m_window->menuBar()->actions());
+    }
 
-void tst_MainWindow::droppedFileIsImported()
-{
-    ScratchState state;
-    QFile file(state.path(QStringLiteral("a.ics")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(
-        "BEGIN:VCALENDAR\r\nBEGIN:VEVENT\r\nUID:a\r\nDTSTART:20251119T100000Z\r\nEND:VEVENT\r\nEND:VCALENDAR\r\n");
-    file.close();
-    MainWindow window(state.state());
-    window.show();
-    QMimeData data;
-    data.setUrls({ QUrl::fromLocalFile(file.fileName()) });
-    QDragEnterEvent enter(QPoint(20, 20), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&window, &enter);
-    QVERIFY(enter.isAccepted());
-    QDropEvent drop(QPointF(20, 20), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&window, &drop);
-    QVERIFY(drop.isAccepted());
-    QTRY_VERIFY(window.findChild<ImportDialog *>());
-    window.findChild<ImportDialog *>()->reject();
-}
+    void keysNavigate_data()
+    {
+        columns<QKeySequence, QDate, QString, int>("key", "date", "mode", "horizon");
+        const auto row = [](const char *name, QKeyCombination key, QDate date, const char *mode = "week",
+                            int horizon = 7) { ::row(name, QKeySequence(key), date, mode, horizon); };
+        row("T", Qt::Key_T, QDate::currentDate());
+        row("J", Qt::Key_J, QDate(2025, 11, 26));
+        row("K", Qt::Key_K, QDate(2025, 11, 12));
+        row("H", Qt::Key_H, QDate(2025, 11, 12));
+        row("L", Qt::Key_L, QDate(2025, 11, 26));
+        row("Shift+J", Qt::SHIFT | Qt::Key_J, QDate(2025, 12, 19));
+        row("Shift+K", Qt::SHIFT | Qt::Key_K, QDate(2025, 10, 19));
+        row("1", Qt::Key_1, Wednesday, "day");
+        row("2", Qt::Key_2, Wednesday, "days");
+        row("5, which has no surface yet", Qt::Key_5, Wednesday);
+        row("Ctrl+Shift+5", Qt::CTRL | Qt::SHIFT | Qt::Key_5, Wednesday, "days", 14);
+        row("Alt+Left", Qt::ALT | Qt::Key_Left, Tuesday);
+    }
 
-void tst_MainWindow::quittingIsKnown()
-{
-    ScratchState state;
-    MainWindow window(state.state());
-    window.show();
-    QVERIFY(!window.isQuitting());
-    window.quitApplication();
-    QVERIFY(window.isQuitting());
-    QVERIFY(!window.isVisible());
-}
+    void keysNavigate()
+    {
+        QFETCH(QKeySequence, key);
+        open();
+        m_window->viewArea()->setFocus();
+        QTest::keySequence(m_window.get(), key);
+        QTEST(state()->currentDate(), "date");
+        QTEST(state()->viewMode(), "mode");
+        QTEST(state()->weekHorizon(), "horizon");
+    }
+
+    void plainKeys()
+    {
+        const auto isPlain = [](int key, Qt::KeyboardModifiers modifiers, const QString &text) {
+            return PlainKeyGuard::isPlainKey(QKeyEvent(QEvent::ShortcutOverride, key, modifiers, text));
+        };
+        QVERIFY(isPlain(0x041E, {}, u"о"_qs)); // Cyrillic
+        QVERIFY(isPlain(0x039E, Qt::ShiftModifier, u"Ξ"_qs));
+        QVERIFY(isPlain(0x1F600, {}, u"😀"_qs)); // outside the BMP
+        QVERIFY(isPlain(Qt::Key_1, Qt::KeypadModifier, u"1"_qs));
+        QVERIFY(!isPlain(Qt::Key_J, Qt::ControlModifier, u"\n"_qs));
+        QVERIFY(!isPlain(0x041E, Qt::AltModifier, u"о"_qs));
+        QVERIFY(!isPlain(Qt::Key_Return, {}, u"\r"_qs));
+        QVERIFY(!isPlain(Qt::Key_F1, {}, {}));
+    }
+
+    void plainKeysBelongToWhoUsesThem()
+    {
+        m_scratch->addCalendar(u"Journal"_qs);
+        open();
+        QLineEdit edit(m_window.get());
+        edit.show();
+        edit.setFocus();
+        QTest::keyClicks(&edit, u"jk1"_qs);
+        QCOMPARE(edit.text(), u"jk1"_qs);
+        m_window->menuBar()->setFocus();
+        QTest::keyClick(m_window->menuBar(), Qt::Key_J);
+        CalendarListWidget *list = m_window->sidebar()->calendarList();
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_J);
+        QCOMPARE(list->currentItem()->text(0), u"Journal"_qs);
+        QCOMPARE(state()->currentDate(), Wednesday);
+        QTest::keyClick(list, Qt::Key_Left, Qt::AltModifier); // no plain key
+        QCOMPARE(state()->currentDate(), Tuesday);
+    }
+
+    void keysActivateGroups()
+    {
+        m_scratch->addGroup(u"a"_qs);
+        m_scratch->addGroup(u"b"_qs); // after "a" and the built-in group
+        open();
+        const auto activeAfter = [this](Qt::Key key) {
+            QTest::keyClick(m_window.get(), key, Qt::ControlModifier);
+            return state()->activeViewId();
+        };
+        QCOMPARE(activeAfter(Qt::Key_3), u"b"_qs);
+        QCOMPARE(activeAfter(Qt::Key_BracketRight), QString(ViewDefaults::AllCalendarsId));
+        QCOMPARE(activeAfter(Qt::Key_BracketLeft), u"b"_qs);
+        QCOMPARE(activeAfter(Qt::Key_9), u"b"_qs);
+    }
+
+    void mouseButtonsWalkTheHistory()
+    {
+        open();
+        QTest::mouseClick(m_window->viewArea(), Qt::BackButton);
+        QCOMPARE(state()->currentDate(), Tuesday);
+        QTest::mouseClick(m_window->sidebar()->calendarList()->viewport(), Qt::ForwardButton);
+        QCOMPARE(state()->currentDate(), Wednesday);
+    }
+
+    void emptyDatabaseShowsThePage()
+    {
+        QVERIFY(state()->calendars()->removeDeep(ScratchState::calendarId()));
+        open();
+        auto *page = m_window->findChild<NoAccountsPage *>();
+        QVERIFY(page->isVisible());
+        QVERIFY(!action("importIcs")->isEnabled());
+        QVERIFY(action("newCalendar")->isEnabled());
+        page->findChild<QPushButton *>()->click();
+        auto *dialog = m_window->findChild<CalendarFormDialog *>();
+        QVERIFY(dialog);
+        dialog->findChild<QLineEdit *>()->setText(u"Home"_qs);
+        dialog->accept();
+        QVERIFY(m_window->viewArea()->isVisible());
+        QVERIFY(action("importIcs")->isEnabled());
+    }
+
+    void layoutSurvivesARestart()
+    {
+        open();
+        m_window->resize(780, 640);
+        m_window->findChild<QSplitter *>()->setSizes({ 280, 500 });
+        const QList<int> sizes = m_window->findChild<QSplitter *>()->sizes();
+        QVERIFY(m_window->close());
+        open();
+        QCOMPARE(m_window->size(), QSize(780, 640));
+        QCOMPARE(m_window->findChild<QSplitter *>()->sizes(), sizes);
+        QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+        open();
+        QVERIFY(!m_window->sidebar()->isVisible());
+        QVERIFY(!action("toggleSidebar")->isChecked());
+        action("toggleSidebar")->trigger();
+        QVERIFY(m_window->sidebar()->isVisible());
+    }
+
+    void unreadableLayoutIsSkipped()
+    {
+        for (const char *key : { "ui/window/geometry", "ui/window/state", "ui/window/splitter" })
+            state()->preferences()->set(QLatin1StringView(key), u"no, this is %% not it"_qs);
+        open();
+        // The first size, or what a screen leaves beside the frame.
+        const QSize screen = m_window->screen()->availableSize();
+        const int height = std::min(900, screen.height());
+        QCOMPARE(m_window->width(), std::min(1440, screen.width()));
+        QVERIFY(m_window->height() <= height && m_window->height() > height - 60);
+        const QList<int> sizes = m_window->findChild<QSplitter *>()->sizes();
+        QVERIFY(sizes.at(0) > 0 && sizes.at(1) > 0);
+    }
+
+    void defaultSizeNeedsNoHorizontalScrolling()
+    {
+        open();
+        m_window->resize(1440, 900);
+        m_window->findChild<QSplitter *>()->setSizes({ 360, 1080 });
+        QTRY_COMPARE(m_window->width(), 1440);
+        const QList<WeekView *> views = m_window->viewArea()->findChildren<WeekView *>();
+        const auto shown =
+            std::find_if(views.begin(), views.end(), [](const WeekView *view) { return view->isVisible(); });
+        QVERIFY(shown != views.end());
+        QCOMPARE((*shown)->scrollArea()->horizontalScrollBar()->maximum(), 0);
+    }
+
+    void droppedFileIsImported()
+    {
+        QFile file(m_scratch->path(u"a.ics"_qs));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("BEGIN:VCALENDAR\r\nBEGIN:VEVENT\r\nUID:a\r\nDTSTART:20251119T100000Z\r\nEND:VEVENT\r\n"
+                   "END:VCALENDAR\r\n");
+        file.close();
+        open();
+        QMimeData data;
+        data.setUrls({ QUrl::fromLocalFile(file.fileName()) });
+        QDragEnterEvent enter(QPoint(20, 20), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window.get(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPointF(20, 20), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window.get(), &drop);
+        QVERIFY(drop.isAccepted());
+        QTRY_VERIFY(m_window->findChild<ImportDialog *>());
+        m_window->findChild<ImportDialog *>()->reject();
+    }
+
+    void greetsOnce()
+    {
+        m_window = std::make_unique<MainWindow>(state());
+        m_window->welcomeOnFirstLaunch();
+        QVERIFY(!m_window->findChild<WelcomeDialog *>()); // nobody would see it
+        m_window->show();
+        m_window->welcomeOnFirstLaunch();
+        auto *welcome = m_window->findChild<WelcomeDialog *>();
+        QVERIFY(welcome && welcome->isVisible());
+        const Prompt::ScopedAnswers answers;
+        welcome->findChild<QPushButton *>()->click(); // to import a file
+        QVERIFY(!welcome->isVisible());
+        QCOMPARE(answers.asked.size(), 1);
+        QCOMPARE(answers.asked.constFirst().kind, u"openFiles"_qs);
+        m_window->welcomeOnFirstLaunch();
+        QVERIFY(!QApplication::activeModalWidget());
+    }
+};
 
 QTEST_MAIN(tst_MainWindow)
 #include "tst_MainWindow.moc"

@@ -45,10 +45,10 @@ void AppState::restoreViewState()
     m_currentDate = m_today; // always opens on today; the stored date is for other devices
     const QString storedMode = m_preferences->get(ViewModeKey, QStringLiteral("week"));
     m_viewMode = normalizedMode(storedMode);
-    if (!isKnownMode(m_viewMode)) // of a newer version, say
-        m_viewMode = QStringLiteral("week");
     if (m_viewMode != storedMode)
         storeSoon(ViewModeKey, m_viewMode);
+    if (!isKnownMode(m_viewMode)) // of a newer version, which finds it again if the user picks no other
+        m_viewMode = QStringLiteral("week");
     m_hourHeight = std::clamp(m_preferences->getInt(HourHeightKey, MinHourHeight), MinHourHeight, MaxHourHeight);
     m_weekHorizon =
         std::clamp(m_preferences->getInt(WeekHorizonKey, DefaultWeekHorizon), MinWeekHorizon, MaxWeekHorizon);

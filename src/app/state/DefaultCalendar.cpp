@@ -25,6 +25,6 @@ QString DefaultCalendar::preferredCalendarId(PreferencesRepository *preferences,
 
 void DefaultCalendar::recordLastUsed(PreferencesRepository *preferences, bool forTasks, const QString &id)
 {
-    if (!id.isEmpty())
+    if (!id.isEmpty() && preferences->get(defaultKey(forTasks), QString()) == sentinel())
         preferences->set(lastUsedKey(forTasks), id);
 }

@@ -13,6 +13,7 @@ QString lastUsedKey(bool forTasks);
 QString sentinel();
 /// May be empty: the form then picks by a rule of its own.
 QString preferredCalendarId(PreferencesRepository *preferences, bool forTasks);
+/// Remembers the calendar of a new item, while the choice is "the one used last".
 void recordLastUsed(PreferencesRepository *preferences, bool forTasks, const QString &id);
 
 } // namespace DefaultCalendar

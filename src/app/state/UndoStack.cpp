@@ -22,9 +22,13 @@ void UndoStack::undo()
     if (m_actions.isEmpty())
         return;
     const Action action = m_actions.takeLast();
+    m_why.clear();
     action.undo();
     emit changed();
-    emit undone(action.summary);
+    if (m_why.isEmpty())
+        emit undone(action.summary);
+    else
+        emit failed(m_why);
 }
 
 void UndoStack::clear()

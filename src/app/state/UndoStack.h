@@ -27,12 +27,16 @@ public:
     [[nodiscard]] QString topSummary() const; ///< of the change that undo() takes back next
     /// Takes the last change back; does nothing if there is none.
     void undo();
+    /// To be called by an action's undo that cannot take its change back, with a translated reason.
+    void fail(const QString &why) { m_why = why; }
     void clear();
 
 signals:
     void changed();
     void undone(const QString &summary);
+    void failed(const QString &why); ///< in place of undone()
 
 private:
     QList<Action> m_actions; // oldest first
+    QString m_why; // of the action that runs
 };

@@ -3,25 +3,59 @@
 #include "models/Event.h"
 
 #include <QDateTime>
+#include <QList>
+#include <QString>
 
 #include <optional>
 
 class EventRepository;
 
-/// Changes of time of a series: one occurrence, that and all later ones, or all.
+/// Changes of time of a series: one occurrence, that and all later ones, or all. Each is one transaction, and
+/// makes what it wrote pending. No instance shows twice afterwards, and none that was excluded comes back.
 namespace RecurringEdits {
 
 enum class Scope { Cancel, ThisOnly, ThisAndFollowing, All };
 
-/// Moves the occurrence of \p master that begins at \p originalStart to \p newStart. A \p newEnd sets its
-/// duration too. All of it is one transaction; false, and nothing changed, if that fails or there is no
-/// repository. Cancel changes nothing and is a success.
+/// Moves the occurrence of \p master that begins at \p originalStart to \p newStart, and others with it as far
+/// as \p scope says. A \p newEnd sets the duration too, else it stays. Cancel changes nothing and is a success.
 ///
-/// \p master is the row as stored now. The occurrence may be named in any zone.
-bool apply(EventRepository *repository, const Event &master, const QDateTime &originalStart,
-           const QDateTime &newStart, const std::optional<QDateTime> &newEnd, Scope scope);
+/// \p master is the row as stored now. All times may come in any zone; of an all-day series their dates count.
+/// Days and hours count on the clock of the series. One that is in UTC for want of a zone takes the
+/// machine's, where that leaves its instances on their days.
+///
+/// - ThisOnly makes an override with the content of the series.
+/// - ThisAndFollowing ends the series before the occurrence, and makes a new one without an end, which takes
+///   the later overrides and exception dates over. \p tailUid, if given, is set to its UID. The first
+///   occurrence and all following are All.
+/// - All moves the master as replaceMaster() has it. The rule keeps its weekdays.
+///
+/// False, and nothing changed, if there is no repository, if the series has no such occurrence or that has
+/// an override already, if a time is invalid or the end before the start, or if the database refuses.
+bool apply(EventRepository *repository, const Event &master, const QDateTime &originalStart, const QDateTime &newStart,
+           const std::optional<QDateTime> &newEnd, Scope scope, QString *tailUid = nullptr);
+
+/// Stores \p after in place of the master \p before, pending and with the next sequence. Its exception dates
+/// and the keys of its overrides go where their instances go (see SeriesMove), and so does an UNTIL that would
+/// change which instances there are. An override that stands where the series had it goes along; one that
+/// was moved stays.
+bool replaceMaster(EventRepository *repository, const Event &before, const Event &after);
 
 /// \p rule ending at the last instance that begins no later than \p cut: UNTIL in UTC in place of COUNT and UNTIL.
 QString withUntil(const QString &rule, const QDateTime &cut);
+
+/// What takes an edit of a series back.
+struct SeriesSnapshot {
+    QList<Event> rows; ///< master and overrides as stored before the edit, tombstones too
+    QString tailUid; ///< as apply() gave it; empty if it made no series
+};
+
+/// The rows of the series of \p master as they are stored now.
+SeriesSnapshot snapshot(EventRepository *repository, const Event &master);
+
+/// Gives every row of the snapshot its content back, pending. What a sync learnt of it since stays (address,
+/// etag, sequence). A row that was purged comes back as a new one; rows of the series and of its tail that
+/// are not in the snapshot become tombstones. False, and nothing changed, if the snapshot is empty or the
+/// database refuses.
+bool restore(EventRepository *repository, const SeriesSnapshot &before);
 
 } // namespace RecurringEdits

@@ -1,17 +1,13 @@
 #include "ui/dialogs/AboutBox.h"
 
 #include "ui/dialogs/FormDialog.h"
-#include "ui/theme/Theme.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
 namespace {
-
-constexpr int IconSize = 64;
 
 QString text(const char *source)
 {
@@ -23,7 +19,9 @@ public:
     explicit AboutBox(QWidget *parent)
         : FormDialog(text(QT_TRANSLATE_NOOP("AboutBox", "About Quillon Calendar")), parent)
     {
-        body()->addLayout(makeHeader());
+        const QString version = text(QT_TRANSLATE_NOOP("AboutBox", "Version %1"));
+        addProgramHeader(QStringLiteral("Quillon Calendar"), version.arg(QCoreApplication::applicationVersion()))
+            ->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
         body()->addSpacing(4);
         addSection(text(QT_TRANSLATE_NOOP("AboutBox", "Built with")));
         QFormLayout *parts = addForm();
@@ -37,34 +35,6 @@ public:
                 text(QT_TRANSLATE_NOOP("AboutBox", "Apache License 2.0 (Apache-2.0)")));
         body()->addStretch();
         addCloseButton();
-    }
-
-private:
-    QHBoxLayout *makeHeader()
-    {
-        auto *icon = new QLabel(this);
-        icon->setPixmap(QApplication::windowIcon().pixmap(QSize(IconSize, IconSize), devicePixelRatioF()));
-        icon->setVisible(!QApplication::windowIcon().isNull());
-        auto *name = new QLabel(QStringLiteral("Quillon Calendar"), this);
-        QFont font = name->font();
-        font.setPointSize(Theme::FontSizeXl);
-        font.setBold(true);
-        name->setFont(font);
-        auto *version =
-            makeHint(text(QT_TRANSLATE_NOOP("AboutBox", "Version %1")).arg(QCoreApplication::applicationVersion()));
-        version->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-
-        auto *texts = new QVBoxLayout;
-        texts->setSpacing(4);
-        texts->addStretch();
-        texts->addWidget(name);
-        texts->addWidget(version);
-        texts->addStretch();
-        auto *header = new QHBoxLayout;
-        header->setSpacing(16);
-        header->addWidget(icon);
-        header->addLayout(texts, 1);
-        return header;
     }
 };
 

@@ -69,7 +69,7 @@ Calendar CalendarFormDialog::newCalendar() const
     Calendar calendar;
     calendar.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
     calendar.accountId = LocalDefaults::LocalAccountId;
-    calendar.url = QStringLiteral("local://calendar/") + calendar.id;
+    calendar.url = LocalDefaults::CalendarUrlPrefix + calendar.id;
     calendar.supportedComponents = QStringLiteral("[\"VEVENT\",\"VTODO\"]");
     calendar.syncEnabled = true;
     calendar.isDefault = others.isEmpty();

@@ -1,9 +1,9 @@
 #include "ui/dialogs/ColorButton.h"
 
 #include "models/Constants.h"
+#include "ui/dialogs/Prompt.h"
 #include "ui/theme/Theme.h"
 
-#include <QColorDialog>
 #include <QEvent>
 #include <QFrame>
 #include <QGridLayout>
@@ -182,10 +182,8 @@ void ColorButton::showPalette()
 
 void ColorButton::chooseCustom()
 {
-    auto *dialog = new QColorDialog(QColor(m_color), this);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QColorDialog::colorSelected, this, [this](const QColor &color) { pick(color.name().toUpper()); });
-    dialog->open();
+    Prompt::chooseColor(this, m_dialogTitle, QColor(m_color), this,
+                        [this](const QColor &color) { pick(color.name().toUpper()); });
 }
 
 void ColorButton::pick(const QString &color)

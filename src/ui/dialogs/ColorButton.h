@@ -20,6 +20,8 @@ public:
     [[nodiscard]] QString color() const { return m_color; }
     void setColor(const QString &color); ///< unreadable text means the standard colour; no signal
 
+    void setDialogTitle(const QString &title) { m_dialogTitle = title; } ///< of the dialog behind "Custom…"
+
     static const QList<Swatch> &palette();
     /// The first colour of the palette that is in none of \p used; the standard colour if all are.
     static QString unusedColor(const QStringList &used);
@@ -37,4 +39,5 @@ private:
     void refresh();
 
     QString m_color;
+    QString m_dialogTitle;
 };

@@ -1,17 +1,21 @@
 #include "ui/dialogs/FormDialog.h"
 
 #include "ui/dialogs/InlineMessage.h"
+#include "ui/dialogs/Prompt.h"
 #include "ui/theme/Theme.h"
 
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QEvent>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
@@ -23,6 +27,7 @@ constexpr int Margin = 16;
 constexpr int Spacing = 12;
 constexpr int RowSpacing = 8;
 constexpr int MinWidth = 480;
+constexpr int ProgramIconSize = 64;
 constexpr double ScreenShare = 0.85; // of the height; what does not fit scrolls
 
 /// Takes the size that its content wants as long as the screen has it, and scrolls only beyond that.
@@ -112,6 +117,14 @@ void FormDialog::accept()
         QDialog::accept();
 }
 
+void FormDialog::reject()
+{
+    if (!hasUnsavedChanges())
+        return QDialog::reject();
+    Prompt::question(this, tr("Discard changes?"), tr("Your changes have not been saved."), this,
+                     [this] { QDialog::reject(); });
+}
+
 QString FormDialog::problemText() const
 {
     return m_problem->isHidden() ? QString() : m_problem->text();
@@ -156,6 +169,35 @@ QLabel *FormDialog::addSection(const QString &title)
     return label;
 }
 
+QLabel *FormDialog::addProgramHeader(const QString &title, const QString &text)
+{
+    const QIcon programIcon = QApplication::windowIcon();
+    auto *icon = new QLabel(this);
+    icon->setPixmap(programIcon.pixmap(QSize(ProgramIconSize, ProgramIconSize), devicePixelRatioF()));
+    icon->setVisible(!programIcon.isNull());
+    auto *large = new QLabel(title, this);
+    large->setTextFormat(Qt::PlainText);
+    large->setWordWrap(true);
+    QFont font = large->font();
+    font.setPointSize(Theme::FontSizeXl);
+    font.setBold(true);
+    large->setFont(font);
+    QLabel *small = makeHint(text);
+
+    auto *texts = new QVBoxLayout;
+    texts->setSpacing(4);
+    texts->addStretch();
+    texts->addWidget(large);
+    texts->addWidget(small);
+    texts->addStretch();
+    auto *header = new QHBoxLayout;
+    header->setSpacing(16);
+    header->addWidget(icon);
+    header->addLayout(texts, 1);
+    m_body->addLayout(header);
+    return small;
+}
+
 void FormDialog::showName(QLineEdit *field, const QString &name)
 {
     field->setMaxLength(std::max(MaxNameLength, int(name.size())));
@@ -176,6 +218,8 @@ QPushButton *FormDialog::addSaveButtons(const QString &acceptText)
     QPushButton *button = m_buttons->addButton(acceptText, QDialogButtonBox::AcceptRole);
     button->setDefault(true);
     m_buttons->addButton(QDialogButtonBox::Cancel);
+    // Return alone belongs to the fields of several lines.
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Return, this), &QShortcut::activated, this, &FormDialog::accept);
     return button;
 }
 

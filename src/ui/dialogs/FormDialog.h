@@ -20,12 +20,16 @@ public:
     /// Shows the dialog over its parent's window; it deletes itself once closed.
     void open() override;
     void accept() override;
+    /// Cancel, Escape and the close button: asks first where changes would be lost.
+    void reject() override;
     [[nodiscard]] QString problemText() const; ///< of the error on show; empty if there is none
 
     /// The layout of every form: labels left, fields as wide as the dialog allows.
     static void styleForm(QFormLayout *form);
 
-    static constexpr int MaxNameLength = 200; ///< of what the user names in a form
+    static constexpr int MaxNameLength = 200; ///< of what the user names
+    /// Limits the field to MaxNameLength, or to a stored \p name that is longer.
+    static void showName(QLineEdit *field, const QString &name);
 
 protected:
     FormDialog(const QString &title, QWidget *parent);
@@ -34,8 +38,8 @@ protected:
     [[nodiscard]] QDialogButtonBox *buttons() const { return m_buttons; }
     QFormLayout *addForm(); ///< below what the body holds already
     QLabel *addSection(const QString &title);
-    /// Limits the field to MaxNameLength, or to a stored \p name that is longer.
-    static void showName(QLineEdit *field, const QString &name);
+    /// The program's icon beside a large \p title. Returns the muted label below it, which shows \p text.
+    QLabel *addProgramHeader(const QString &title, const QString &text);
     static QLabel *makeHint(const QString &text); ///< muted, wrapped, plain
 
     /// Cancel, and the button that accepts.
@@ -45,6 +49,8 @@ protected:
 
     /// Stores the form. On refusal it has called showProblem() and returns false.
     virtual bool save() { return true; }
+    /// True if closing the form would lose what the user entered.
+    [[nodiscard]] virtual bool hasUnsavedChanges() const { return false; }
     void showEvent(QShowEvent *event) override;
     void showProblem(const QString &text, QWidget *at); ///< and puts the focus on \p at
     void clearProblem();

@@ -6,6 +6,7 @@
 #include "storage/PreferencesRepository.h"
 #include "ui/dialogs/ColorButton.h"
 #include "ui/dialogs/ImportDialog.h"
+#include "ui/dialogs/SettingFields.h"
 #include "ui/theme/Theme.h"
 #include "ui/theme/ThemeManager.h"
 
@@ -14,7 +15,6 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QSettings>
 #include <QSpinBox>
 #include <QTabBar>
@@ -32,11 +32,8 @@ constexpr int HoursInDay = 24;
 constexpr int DefaultWorkdayStart = 8;
 constexpr int DefaultWorkdayEnd = 18;
 
-constexpr QLatin1StringView WeekStartKey{ "ui/weekStartDay" };
-constexpr QLatin1StringView WeekStartChosenKey{ "ui/weekStartDay/customized" };
 constexpr QLatin1StringView WorkdayStartKey{ "ui/workdayStart" };
 constexpr QLatin1StringView WorkdayEndKey{ "ui/workdayEnd" };
-constexpr QLatin1StringView TimeFormatKey{ "ui/timeFormat" };
 constexpr QLatin1StringView LanguageKey{ "ui/language" };
 
 QFormLayout *makePageForm(QWidget *page)
@@ -92,10 +89,6 @@ QWidget *PreferencesDialog::buildAppearancePage()
     QFormLayout *form = makePageForm(page);
     ThemeManager *theme = m_state->theme();
 
-    auto *mode = new QComboBox;
-    mode->addItem(tr("Like the system"), QStringLiteral("system"));
-    mode->addItem(tr("Light"), QStringLiteral("light"));
-    mode->addItem(tr("Dark"), QStringLiteral("dark"));
     m_accent = new ColorButton;
     m_accent->setColor(Theme::accentOverride()); // the standard one has the same name in both modes
     auto *reset = new QPushButton(tr("&Reset"));
@@ -117,15 +110,12 @@ QWidget *PreferencesDialog::buildAppearancePage()
     m_fontScaleTimer->setSingleShot(true);
     m_fontScaleTimer->setInterval(FontScaleDelayMs);
 
-    form->addRow(tr("&Theme"), mode);
+    form->addRow(tr("&Theme"), SettingFields::makeThemeMode(m_state));
     form->addRow(labelFor(tr("Accent c&olor"), m_accent), accentRow);
     form->addRow(tr("&Font size"), m_fontScale);
     page->setEnabled(theme != nullptr);
     if (!theme)
         return page;
-    mode->setCurrentIndex(qMax(0, mode->findData(theme->mode())));
-    connect(mode, &QComboBox::currentIndexChanged, this,
-            [mode, theme] { theme->setMode(mode->currentData().toString()); });
     connect(m_accent, &ColorButton::colorChanged, theme, &ThemeManager::setAccentOverride);
     connect(reset, &QPushButton::clicked, theme, [theme] { theme->setAccentOverride({}); });
     const auto showAccent = [this, reset] {
@@ -149,8 +139,6 @@ QWidget *PreferencesDialog::buildCalendarPage()
 {
     auto *page = new QWidget;
     QFormLayout *form = makePageForm(page);
-    auto *weekStart = new QComboBox;
-    fillWeekStart(weekStart);
     m_workdayStart = new QComboBox;
     m_workdayEnd = new QComboBox;
     m_workdayStart->setAccessibleName(tr("Workday begins"));
@@ -164,36 +152,17 @@ QWidget *PreferencesDialog::buildCalendarPage()
     workday->addWidget(new QLabel(QStringLiteral("–")));
     workday->addWidget(m_workdayEnd, 1);
 
-    auto *timeFormat = new QComboBox;
-    timeFormat->addItem(tr("12 hours (1:30 PM)"), QStringLiteral("12"));
-    timeFormat->addItem(tr("24 hours (13:30)"), QStringLiteral("24"));
-    timeFormat->setCurrentIndex(TimeFormat::use24Hour(m_state) ? 1 : 0);
-    connect(timeFormat, &QComboBox::activated, this, [this, timeFormat] {
-        m_state->preferences()->set(TimeFormatKey, timeFormat->currentData().toString());
-        fillWorkdayHours();
-    });
+    QComboBox *timeFormat = SettingFields::makeTimeFormat(m_state);
+    connect(timeFormat, &QComboBox::activated, this, &PreferencesDialog::fillWorkdayHours);
     auto *defaultCalendar = new QComboBox;
     fillDefaultCalendar(defaultCalendar);
 
-    form->addRow(tr("&First day of the week"), weekStart);
+    form->addRow(tr("&First day of the week"), SettingFields::makeWeekStart(m_state));
+    form->addRow(QString(), makeSwitch(m_state, tr("Show week n&umbers"), QStringLiteral("ui/showWeekNumbers"), false));
     form->addRow(labelFor(tr("&Workday"), m_workdayStart), workday);
     form->addRow(tr("&Time format"), timeFormat);
     form->addRow(tr("Calendar for &new events"), defaultCalendar);
     return page;
-}
-
-void PreferencesDialog::fillWeekStart(QComboBox *combo)
-{
-    const QLocale locale;
-    combo->addItem(tr("Automatic"), 0);
-    for (int day = Qt::Monday; day <= Qt::Sunday; ++day)
-        combo->addItem(locale.standaloneDayName(day), day);
-    combo->setCurrentIndex(qMax(0, combo->findData(m_state->preferences()->getInt(WeekStartKey, 0))));
-    connect(combo, &QComboBox::activated, this, [this, combo] {
-        // Before the day itself: whoever hears of the day finds it marked as the user's own.
-        m_state->preferences()->setBool(WeekStartChosenKey, true);
-        m_state->preferences()->setInt(WeekStartKey, combo->currentData().toInt());
-    });
 }
 
 void PreferencesDialog::fillWorkdayHours()

@@ -20,7 +20,6 @@ private:
     QWidget *buildAppearancePage();
     QWidget *buildCalendarPage();
     QWidget *buildGeneralPage();
-    void fillWeekStart(QComboBox *combo);
     void fillWorkdayHours();
     void fillDefaultCalendar(QComboBox *combo);
     void fillLanguages(QComboBox *combo);

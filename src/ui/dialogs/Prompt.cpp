@@ -1,8 +1,10 @@
 #include "ui/dialogs/Prompt.h"
 
+#include "ui/dialogs/ChoiceDialog.h"
 #include "ui/dialogs/PlainText.h"
 #include "ui/theme/Theme.h"
 
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QMessageBox>
@@ -110,6 +112,39 @@ void openFiles(QWidget *parent, const QString &title, const QString &filter, QOb
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFiles);
     QObject::connect(dialog, &QFileDialog::filesSelected, context, std::move(onFiles));
+    dialog->open();
+}
+
+void chooseColor(QWidget *parent, const QString &title, const QColor &current, QObject *context,
+                 std::function<void(const QColor &)> onColor)
+{
+    if (record(QStringLiteral("color"), title, current.name())) {
+        if (s_answers->color.isValid())
+            QMetaObject::invokeMethod(
+                context, [onColor = std::move(onColor), color = s_answers->color] { onColor(color); },
+                Qt::QueuedConnection);
+        return;
+    }
+    auto *dialog = new QColorDialog(current, parent);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(title);
+    QObject::connect(dialog, &QColorDialog::colorSelected, context, std::move(onColor));
+    dialog->open();
+}
+
+void choose(QWidget *parent, const QString &title, const QString &heading, const QString &text,
+            const QList<Choice> &choices, QObject *context, std::function<void(int index)> onChosen)
+{
+    if (record(QStringLiteral("choice"), title, text)) {
+        if (s_answers->choice >= 0)
+            QMetaObject::invokeMethod(
+                context, [onChosen = std::move(onChosen), choice = s_answers->choice] { onChosen(choice); },
+                Qt::QueuedConnection);
+        return;
+    }
+    auto *dialog = new ChoiceDialog(title, heading, text, choices, parent);
+    QObject::connect(dialog, &QDialog::accepted, context,
+                     [dialog, onChosen = std::move(onChosen)] { onChosen(dialog->chosen()); });
     dialog->open();
 }
 

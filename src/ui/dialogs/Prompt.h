@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -22,13 +23,25 @@ void question(QWidget *parent, const QString &title, const QString &text, QObjec
 void openFiles(QWidget *parent, const QString &title, const QString &filter, QObject *context,
                std::function<void(const QStringList &)> onFiles);
 
+/// A colour, beginning with \p current; nothing is called when the user cancels.
+void chooseColor(QWidget *parent, const QString &title, const QColor &current, QObject *context,
+                 std::function<void(const QColor &)> onColor);
+
+struct Choice {
+    QString text;
+    QString explanation; ///< below it, muted
+};
+/// One of several, the first of them chosen at the start; nothing is called when the user cancels.
+void choose(QWidget *parent, const QString &title, const QString &heading, const QString &text,
+            const QList<Choice> &choices, QObject *context, std::function<void(int index)> onChosen);
+
 /// While one lives, nothing is shown: each prompt is recorded and answered as told here. For tests.
 class ScopedAnswers {
 public:
     struct Asked {
-        QString kind; ///< "warning", "information", "question" or "openFiles"
+        QString kind; ///< "warning", "information", "question", "openFiles", "color" or "choice"
         QString title;
-        QString text; ///< for "openFiles" the filter
+        QString text; ///< for "openFiles" the filter, for "color" the current one
 
         bool operator==(const Asked &) const = default;
     };
@@ -39,6 +52,8 @@ public:
 
     bool sayYes = true;
     QStringList files; ///< empty: the file dialog is cancelled
+    QColor color; ///< invalid: the colour dialog is cancelled
+    int choice = -1; ///< -1: the choice is cancelled
     QList<Asked> asked;
 
 private:

@@ -1,7 +1,7 @@
 #include "ui/surfaces/AllDayStrip.h"
 
+#include "calendar/services/EventText.h"
 #include "ui/surfaces/EventColors.h"
-#include "ui/surfaces/EventText.h"
 #include "ui/surfaces/SurfaceFonts.h"
 #include "ui/theme/Theme.h"
 
@@ -254,6 +254,7 @@ void AllDayStrip::paintEvent(QPaintEvent *)
     paintChips(painter);
     paintChevron(painter);
     paintFocusMark(painter, m_columns.gutterPx);
+    paintDropPlace(painter);
 }
 
 void AllDayStrip::paintBar(QPainter &painter, const EventBlock &block, const AllDayBar &bar) const
@@ -365,10 +366,22 @@ void AllDayStrip::mousePressEvent(QMouseEvent *event)
 void AllDayStrip::mouseDoubleClickEvent(QMouseEvent *event)
 {
     // After a click on a chip an event lies where the chip was: the second click was not meant for it.
+    const QPoint point = event->position().toPoint();
     if (event->button() == Qt::LeftButton && m_lastPressOnControl)
-        m_pressedControl = controlAt(event->position().toPoint());
-    else
+        m_pressedControl = controlAt(point);
+    else if (event->button() != Qt::LeftButton || !eventIdAt(point).isEmpty())
         EventCanvas::mouseDoubleClickEvent(event);
+    else if (const int column = m_columns.columnAt(point.x()); column >= 0 && m_first.isValid())
+        emit emptyDayActivated(m_first.addDays(column));
+}
+
+std::optional<EventCanvas::DropPlace> AllDayStrip::dropPlaceAt(QPoint point) const
+{
+    const int column = m_columns.columnAt(point.x());
+    if (column < 0 || !m_first.isValid())
+        return std::nullopt;
+    const QRect rect(m_columns.left(column) + 2, 2, m_columns.columnWidthPx() - 4, height() - 5);
+    return DropPlace{ QDateTime(m_first.addDays(column), QTime(0, 0)), true, rect };
 }
 
 void AllDayStrip::mouseReleaseEvent(QMouseEvent *event)

@@ -37,10 +37,14 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
+signals:
+    void emptyDayActivated(QDate day); ///< a double click beside all events
+
 protected:
     void relayout() override;
     [[nodiscard]] QList<EventKey> walkOrder() const override;
     void reveal(const EventKey &key) override;
+    [[nodiscard]] std::optional<DropPlace> dropPlaceAt(QPoint point) const override;
     [[nodiscard]] Qt::CursorShape cursorAt(QPoint point) const override;
 
     bool event(QEvent *event) override;

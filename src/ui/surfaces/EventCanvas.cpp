@@ -1,16 +1,20 @@
 #include "ui/surfaces/EventCanvas.h"
 
+#include "calendar/services/EventText.h"
 #include "models/Constants.h"
+#include "ui/dialogs/IcsDrop.h"
+#include "ui/dialogs/TaskDragMime.h"
 #include "ui/surfaces/EventCanvasAccessible.h"
 #include "ui/surfaces/EventColors.h"
-#include "ui/surfaces/EventText.h"
 #include "ui/surfaces/TimelineGeometry.h"
 #include "ui/theme/Theme.h"
 
 #include <QAccessible>
 #include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -25,6 +29,7 @@ EventCanvas::EventCanvas(AppState *state, QWidget *parent)
     EventCanvasAccessible::install();
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
+    setAcceptDrops(true);
 }
 
 void EventCanvas::setSelectedOccurrence(const QString &id, const QDateTime &occurrenceStart)
@@ -163,15 +168,9 @@ void EventCanvas::setShowsFocus(bool shows)
         update();
 }
 
-Qt::CursorShape EventCanvas::cursorOver(const EventBlock &) const
-{
-    return Qt::PointingHandCursor;
-}
-
 Qt::CursorShape EventCanvas::cursorAt(QPoint point) const
 {
-    const int index = blockIndexAt(blocks(), point);
-    return index < 0 ? Qt::ArrowCursor : cursorOver(m_blocks.at(index));
+    return blockIndexAt(blocks(), point) < 0 ? Qt::ArrowCursor : Qt::PointingHandCursor;
 }
 
 void EventCanvas::setSelection(const EventKey &key)
@@ -312,8 +311,109 @@ void EventCanvas::resizeEvent(QResizeEvent *event)
 
 void EventCanvas::keyPressEvent(QKeyEvent *event)
 {
-    if (!handleKey(event->key()))
+    const bool isPlain = !(event->modifiers() & ~Qt::KeypadModifier);
+    if (!handleEditKey(*event) && !(isPlain && handleKey(event->key())))
         QWidget::keyPressEvent(event);
+}
+
+bool EventCanvas::handleEditKey(const QKeyEvent &event)
+{
+    const Event *selected = findEvent(m_selection);
+    if (!selected)
+        return false;
+    const EventKey key{ selected->id, selected->startTime };
+    if (event.key() == Qt::Key_Delete || event.key() == Qt::Key_Backspace) {
+        if (checkWritable(*selected))
+            emit eventDeleteRequested(key.id);
+        return true;
+    }
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    const bool resizes = modifiers == (Qt::ShiftModifier | Qt::AltModifier);
+    if (!resizes && modifiers != Qt::ShiftModifier)
+        return false;
+    int days = 0;
+    int minutes = 0;
+    switch (event.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        days = event.key() == Qt::Key_Right ? 1 : -1;
+        break;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        minutes = event.key() == Qt::Key_Down ? SlotMinutes : -SlotMinutes;
+        break;
+    default:
+        return false;
+    }
+    if ((selected->isAllDay && minutes != 0) || (resizes && days != 0))
+        return false;
+    if (!checkWritable(*selected))
+        return true;
+    if (resizes)
+        emit eventResizeRequested(key.id, key.occurrenceStart, minutes);
+    else
+        emit eventMoveRequested(key.id, key.occurrenceStart, days, minutes);
+    return true;
+}
+
+bool EventCanvas::checkWritable(const Event &event)
+{
+    if (!isReadOnly(event))
+        return true;
+    emit refused(tr("\"%1\" belongs to a read-only calendar.").arg(EventText::title(event)));
+    return false;
+}
+
+void EventCanvas::dragEnterEvent(QDragEnterEvent *event)
+{
+    dragMoveEvent(event);
+}
+
+void EventCanvas::dragMoveEvent(QDragMoveEvent *event)
+{
+    const bool isTask = event->mimeData()->hasFormat(QLatin1StringView(TaskDragMime::kTaskRowId));
+    if (!isTask && !IcsDrop::hasIcs(event->mimeData()))
+        return event->ignore();
+    event->acceptProposedAction();
+    const auto place = isTask ? dropPlaceAt(event->position().toPoint()) : std::nullopt;
+    showDropPlace(place ? place->rect : QRect());
+}
+
+void EventCanvas::dragLeaveEvent(QDragLeaveEvent *)
+{
+    showDropPlace({});
+}
+
+void EventCanvas::dropEvent(QDropEvent *event)
+{
+    showDropPlace({});
+    if (const QStringList paths = IcsDrop::localPathsIn(event->mimeData()); !paths.isEmpty()) {
+        event->acceptProposedAction();
+        emit icsDropped(paths);
+        return;
+    }
+    const QPoint point = event->position().toPoint();
+    const QString taskId = QString::fromUtf8(event->mimeData()->data(QLatin1StringView(TaskDragMime::kTaskRowId)));
+    const auto place = dropPlaceAt(point);
+    if (taskId.isEmpty() || !place)
+        return event->ignore();
+    event->acceptProposedAction();
+    emit taskDropped(taskId, place->when, place->allDay, mapToGlobal(point));
+}
+
+void EventCanvas::showDropPlace(const QRect &rect)
+{
+    if (std::exchange(m_dropPlace, rect) != rect)
+        update();
+}
+
+void EventCanvas::paintDropPlace(QPainter &painter) const
+{
+    if (m_dropPlace.isEmpty())
+        return;
+    painter.setPen(QPen(Theme::accent(), 1.6, Qt::DashLine));
+    painter.setBrush(EventColors::withAlpha(Theme::accent(), 40));
+    painter.drawRoundedRect(m_dropPlace, 4, 4);
 }
 
 bool EventCanvas::handleKey(int key)

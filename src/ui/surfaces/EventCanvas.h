@@ -20,7 +20,8 @@ struct BlockColors;
 /// nothing stored: what the user asks for goes out as a signal.
 ///
 /// Tab walks the events and leaves at the ends; the arrows up and down walk and wrap; Return opens; Escape
-/// clears the selection.
+/// clears the selection; Delete asks to delete. With Shift the arrows move the selected event by slots and days,
+/// with Shift and Alt those up and down move its end.
 class EventCanvas : public QWidget {
     Q_OBJECT
 
@@ -37,6 +38,8 @@ public:
         layOutIfDirty();
         return m_blocks;
     }
+    /// Calendars whose events may be looked at and not changed.
+    void setReadOnlyCalendarIds(const QSet<QString> &ids) { m_readOnlyCalendarIds = ids; }
     [[nodiscard]] QString eventIdAt(QPoint point) const; ///< empty if there is none
     [[nodiscard]] const Event &eventOf(const EventBlock &block) const { return m_events.at(block.eventIndex); }
     /// The instance shown for \p key, the first one if it names no occurrence; or null.
@@ -55,9 +58,22 @@ signals:
     void eventFocused(const QString &id, const QDateTime &occurrenceStart); ///< by keyboard
     void eventActivated(const QString &id);
     void eventContextRequested(const QString &id, const QPoint &globalPos);
+    void eventMoveRequested(const QString &id, const QDateTime &occurrenceStart, int days, int minutes);
+    void eventResizeRequested(const QString &id, const QDateTime &occurrenceStart, int minutes);
+    void eventDeleteRequested(const QString &id);
+    void taskDropped(const QString &taskId, const QDateTime &when, bool allDay, const QPoint &globalPos);
+    void icsDropped(const QStringList &paths);
+    void refused(const QString &why); ///< a change of an event that takes none
     void fontMetricsChanged(); ///< gutter and hours may need another size; once for many changes
 
 protected:
+    /// Where something that is dropped lands on the calendar.
+    struct DropPlace {
+        QDateTime when; ///< local; of an all-day place the date counts
+        bool allDay = false;
+        QRect rect; ///< to show it
+    };
+
     [[nodiscard]] AppState *state() const { return m_state; }
     [[nodiscard]] const QList<Event> &events() const { return m_events; }
     /// The colours of the event's block on \p base. Dimmed and cancelled events are fainter.
@@ -83,8 +99,15 @@ protected:
     [[nodiscard]] virtual QList<EventKey> walkOrder() const = 0;
     /// Brings the event into view, after a step of the keyboard.
     virtual void reveal(const EventKey &key) = 0;
-    [[nodiscard]] virtual Qt::CursorShape cursorOver(const EventBlock &block) const;
     [[nodiscard]] virtual Qt::CursorShape cursorAt(QPoint point) const;
+    [[nodiscard]] virtual std::optional<DropPlace> dropPlaceAt(QPoint point) const = 0;
+    /// Frames what a release would land on, while something is dragged over the surface.
+    void paintDropPlace(QPainter &painter) const;
+    /// The release to come is no click.
+    void forgetPress() { m_pressed.reset(); }
+    /// False for an event of a calendar that takes no changes; the user has been told then.
+    bool checkWritable(const Event &event);
+    [[nodiscard]] bool isReadOnly(const Event &event) const { return m_readOnlyCalendarIds.contains(event.calendarId); }
 
     bool event(QEvent *event) override;
     bool focusNextPrevChild(bool next) override;
@@ -97,6 +120,10 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     bool walk(int step, bool wrap);
@@ -106,6 +133,8 @@ private:
     void settle();
     void setShowsFocus(bool shows);
     [[nodiscard]] bool handleKey(int key);
+    [[nodiscard]] bool handleEditKey(const QKeyEvent &event);
+    void showDropPlace(const QRect &rect);
     void setSelection(const EventKey &key);
     void openSelected();
     void clearSelection();
@@ -115,6 +144,8 @@ private:
     QList<Event> m_events;
     QHash<QString, QString> m_calendarColors;
     QSet<QString> m_dimmedIds;
+    QSet<QString> m_readOnlyCalendarIds;
+    QRect m_dropPlace;
     QList<EventBlock> m_blocks;
     EventKey m_selection;
     bool m_isSelectedByMouse = false;

@@ -6,6 +6,7 @@
 #include "storage/CalendarRepository.h"
 #include "storage/EventRepository.h"
 #include "storage/FilterRuleRepository.h"
+#include "storage/PreferencesRepository.h"
 #include "storage/ViewRepository.h"
 #include "ui/theme/Theme.h"
 #include "ui/theme/ThemeManager.h"
@@ -29,6 +30,8 @@ constexpr int GridDays = MiniMonthGeometry::Rows * MiniMonthGeometry::Columns;
 constexpr int PreferredWidthPx = 240;
 constexpr int WheelPauseMs = 150; // a flick of a touchpad sends dozens of steps
 constexpr qreal OutlineWidth = 1.4;
+constexpr int WidestWeek = 52;
+constexpr QLatin1StringView WeekNumbersKey{ "ui/showWeekNumbers" };
 
 QFont sizedFont(const QFont &base, int offsetPt, int leastPt, bool isBold)
 {
@@ -98,6 +101,13 @@ void MiniMonthCalendar::connectSources()
     connect(m_state->events(), &EventRepository::eventsChanged, this, reload);
     connect(m_state->calendars(), &CalendarRepository::calendarsChanged, this, reload);
     connect(m_state->filterRules(), &FilterRuleRepository::filterRulesChanged, this, reload);
+    connect(m_state->preferences(), &PreferencesRepository::changed, this, [this](const QString &key) {
+        if (key != WeekNumbersKey)
+            return;
+        updateLayout();
+        updateGeometry();
+        update();
+    });
     if (ThemeManager *theme = m_state->theme()) {
         const auto recolor = [this] {
             updateIcons();
@@ -173,6 +183,11 @@ void MiniMonthCalendar::onCurrentDateChanged(QDate date)
     update();
 }
 
+bool MiniMonthCalendar::showsWeekNumbers() const
+{
+    return m_state && m_state->preferences()->getBool(WeekNumbersKey, false);
+}
+
 Qt::DayOfWeek MiniMonthCalendar::firstDayOfWeek() const
 {
     return m_state ? m_state->firstDayOfWeek() : QLocale().firstDayOfWeek();
@@ -230,10 +245,13 @@ void MiniMonthCalendar::updateLayout()
     m_geometry.weekdayHeightPx = std::max(least.weekdayHeightPx, weekday.height() + 4);
     m_geometry.rowHeightPx = std::max(least.rowHeightPx, day.height() + 14);
 
+    m_geometry.weekNumberWidthPx =
+        showsWeekNumbers() ? weekday.horizontalAdvance(QLocale().toString(WidestWeek)) + 8 : 0;
     m_numberWidthPx = day.horizontalAdvance(QLocale().toString(28));
     const QRect header = m_geometry.headerRect();
     const int side = header.height() - 4;
-    const int gridWidth = MiniMonthGeometry::Columns * (m_numberWidthPx + 8) + 2 * MiniMonthGeometry::MarginPx;
+    const int gridWidth = MiniMonthGeometry::Columns * (m_numberWidthPx + 8) + 2 * MiniMonthGeometry::MarginPx
+        + m_geometry.weekNumberWidthPx;
     const int headerWidth = widestShortTitle(title) + 2 * side + 5 * MiniMonthGeometry::MarginPx;
     m_minimumWidthPx = std::max(gridWidth, headerWidth);
 
@@ -393,6 +411,8 @@ void MiniMonthCalendar::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     paintHeader(painter);
     paintWeekdays(painter);
+    if (m_geometry.weekNumberWidthPx > 0)
+        paintWeekNumbers(painter);
     painter.setFont(dayFont(font()));
     QDate date = gridStart();
     for (int cell = 0; cell < GridDays; ++cell, date = date.addDays(1))
@@ -422,6 +442,14 @@ void MiniMonthCalendar::paintWeekdays(QPainter &painter) const
         painter.drawText(m_geometry.weekdayRect(column), Qt::AlignCenter,
                          QLocale().standaloneDayName(day, QLocale::NarrowFormat));
     }
+}
+
+void MiniMonthCalendar::paintWeekNumbers(QPainter &painter) const
+{
+    QDate rowStart = gridStart();
+    for (int row = 0; row < MiniMonthGeometry::Rows; ++row, rowStart = rowStart.addDays(MiniMonthGeometry::Columns))
+        painter.drawText(m_geometry.weekNumberRect(row), Qt::AlignCenter,
+                         QLocale().toString(MiniMonthGeometry::weekNumber(rowStart)));
 }
 
 void MiniMonthCalendar::paintDay(QPainter &painter, QDate date, const QRect &cell) const

@@ -12,7 +12,8 @@ class AppState;
 class QToolButton;
 
 /// A month to pick a date from, with a dot under each day that has events. It can show another month than
-/// that of the current date; a click or a key makes a day the current date of \p state.
+/// that of the current date; a click or a key makes a day the current date of \p state. Week numbers stand before
+/// the days if the user wants them.
 class MiniMonthCalendar : public QWidget {
     Q_OBJECT
 
@@ -54,6 +55,7 @@ private:
     [[nodiscard]] static QString titlePattern();
     [[nodiscard]] static int widestShortTitle(const QFontMetrics &metrics);
     void updateIcons();
+    [[nodiscard]] bool showsWeekNumbers() const;
     [[nodiscard]] Qt::DayOfWeek firstDayOfWeek() const;
     [[nodiscard]] QDate currentDate() const;
     [[nodiscard]] QDate dateForKey(const QKeyEvent &event) const; ///< invalid for other keys
@@ -61,6 +63,7 @@ private:
     [[nodiscard]] QToolButton *makeStepButton(const QString &name, int months);
     void paintHeader(QPainter &painter) const;
     void paintWeekdays(QPainter &painter) const;
+    void paintWeekNumbers(QPainter &painter) const;
     void paintDay(QPainter &painter, QDate date, const QRect &cell) const;
 
     AppState *m_state;

@@ -21,6 +21,11 @@ QDate MiniMonthGeometry::gridStart(QDate month, Qt::DayOfWeek firstDayOfWeek)
     return first.addDays(-((first.dayOfWeek() - firstDayOfWeek + Columns) % Columns));
 }
 
+int MiniMonthGeometry::weekNumber(QDate rowStart)
+{
+    return rowStart.addDays((Qt::Thursday - rowStart.dayOfWeek() + Columns) % Columns).weekNumber();
+}
+
 int MiniMonthGeometry::heightPx() const
 {
     return gridTop(*this) + Rows * rowHeightPx + MarginPx;
@@ -33,11 +38,11 @@ QRect MiniMonthGeometry::headerRect() const
 
 QRect MiniMonthGeometry::weekdayRect(int column) const
 {
-    const int usable = std::max(0, widthPx - 2 * MarginPx);
+    const int usable = std::max(0, widthPx - 2 * MarginPx - weekNumberWidthPx);
     const int base = usable / Columns;
     const int remainder = usable % Columns;
-    return { MarginPx + column * base + std::min(column, remainder), headerRect().bottom() + 1 + MarginPx,
-             base + (column < remainder ? 1 : 0), weekdayHeightPx };
+    return { MarginPx + weekNumberWidthPx + column * base + std::min(column, remainder),
+             headerRect().bottom() + 1 + MarginPx, base + (column < remainder ? 1 : 0), weekdayHeightPx };
 }
 
 QRect MiniMonthGeometry::cellRect(int column, int row) const
@@ -45,6 +50,11 @@ QRect MiniMonthGeometry::cellRect(int column, int row) const
     QRect rect = weekdayRect(column);
     rect.setRect(rect.x(), gridTop(*this) + row * rowHeightPx, rect.width(), rowHeightPx);
     return rect;
+}
+
+QRect MiniMonthGeometry::weekNumberRect(int row) const
+{
+    return { MarginPx, gridTop(*this) + row * rowHeightPx, weekNumberWidthPx, rowHeightPx };
 }
 
 int MiniMonthGeometry::cellAt(QPoint point) const

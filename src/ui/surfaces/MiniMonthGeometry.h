@@ -16,16 +16,22 @@ struct MiniMonthGeometry {
     int headerHeightPx = 32;
     int weekdayHeightPx = 22;
     int rowHeightPx = 34;
+    int weekNumberWidthPx = 0; ///< of a column before the days; 0: there is none
 
     /// The first of the 42 days on show: the last \p firstDayOfWeek that is not after the first of \p month.
     /// Invalid for an invalid date.
     static QDate gridStart(QDate month, Qt::DayOfWeek firstDayOfWeek);
+
+    /// The ISO 8601 week of the seven days from \p rowStart: that of their Thursday, on whatever day weeks begin.
+    static int weekNumber(QDate rowStart);
 
     [[nodiscard]] int heightPx() const;
     [[nodiscard]] QRect headerRect() const;
     [[nodiscard]] QRect weekdayRect(int column) const;
     /// Pixels that seven equal columns leave over go to the first ones, one each.
     [[nodiscard]] QRect cellRect(int column, int row) const;
+    /// Left of the days of a row; empty without that column.
+    [[nodiscard]] QRect weekNumberRect(int row) const;
     /// The index of the cell at \p point, 0 to 41, or -1.
     [[nodiscard]] int cellAt(QPoint point) const;
 

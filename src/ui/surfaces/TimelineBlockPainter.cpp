@@ -1,8 +1,8 @@
 #include "ui/surfaces/TimelineBlockPainter.h"
 
+#include "calendar/services/EventText.h"
 #include "models/Constants.h"
 #include "ui/surfaces/EventColors.h"
-#include "ui/surfaces/EventText.h"
 #include "ui/surfaces/SurfaceFonts.h"
 #include "ui/theme/Theme.h"
 

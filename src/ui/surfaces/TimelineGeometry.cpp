@@ -143,6 +143,23 @@ QList<EventBlock> layOutBlocks(const QList<Event> &events, QDate firstDay, const
     return blocks;
 }
 
+int snapMinutes(int px, int hourHeightPx)
+{
+    return qRound(px / (std::max(1, hourHeightPx) / 60.0) / SlotMinutes) * SlotMinutes;
+}
+
+int slotMinute(int y, int hourHeightPx)
+{
+    const int minute = std::max(0, y) * 60 / std::max(1, hourHeightPx);
+    return std::min(minute, TimelineMetrics::MinutesPerDay - SlotMinutes) / SlotMinutes * SlotMinutes;
+}
+
+bool isOnResizeHandle(const QRect &rect, QPoint point)
+{
+    constexpr int HandlePx = 7;
+    return rect.contains(point) && point.y() >= rect.bottom() - std::min(HandlePx, rect.height() / 3);
+}
+
 int blockIndexAt(const QList<EventBlock> &blocks, QPoint point)
 {
     for (int i = static_cast<int>(blocks.size()) - 1; i >= 0; --i) {

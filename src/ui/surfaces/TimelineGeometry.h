@@ -6,6 +6,7 @@
 #include <QDate>
 #include <QList>
 #include <QPoint>
+#include <QRect>
 #include <QTime>
 
 /// The day columns that a timeline, its header and its all-day strip share. Pixels that equal columns
@@ -50,6 +51,15 @@ struct TimelineMetrics {
 /// side, judged by what is drawn: a short event counts as long as its smallest block, and one that ends the
 /// day moves up so that its block stays inside. All-day events and those without a start are left out.
 QList<EventBlock> layOutBlocks(const QList<Event> &events, QDate firstDay, const TimelineMetrics &metrics);
+
+inline constexpr int SlotMinutes = 15; ///< what drags and clicks snap to
+
+/// The nearest multiple of a slot that \p px stand for.
+int snapMinutes(int px, int hourHeightPx);
+/// The slot of the day at \p y, from 0 to 23:45.
+int slotMinute(int y, int hourHeightPx);
+/// True in the lower edge of a block, where a drag moves its end.
+bool isOnResizeHandle(const QRect &rect, QPoint point);
 
 /// The topmost block at \p point, or -1.
 int blockIndexAt(const QList<EventBlock> &blocks, QPoint point);

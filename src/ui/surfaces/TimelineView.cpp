@@ -8,7 +8,6 @@
 #include "storage/PreferencesRepository.h"
 #include "storage/ViewRepository.h"
 #include "ui/surfaces/AllDayStrip.h"
-#include "ui/surfaces/EventContextMenu.h"
 #include "ui/surfaces/TimelineWidget.h"
 #include "ui/theme/ThemeManager.h"
 
@@ -25,6 +24,7 @@ namespace {
 
 constexpr int ZoomStepPx = 8;
 constexpr int RevealMarginPx = 8;
+constexpr int NewEventMinutes = 60;
 constexpr int DefaultWorkdayStart = 8;
 constexpr int DefaultWorkdayEnd = 18;
 
@@ -36,6 +36,17 @@ public:
 protected:
     bool focusNextPrevChild(bool next) override { return QAbstractScrollArea::focusNextPrevChild(next); }
 };
+
+QSet<QString> readOnlyCalendarIds(AppState *state)
+{
+    QSet<QString> ids;
+    const QList<Calendar> calendars = state->calendars()->getAll();
+    for (const Calendar &calendar : calendars) {
+        if (calendar.isReadOnly)
+            ids.insert(calendar.id);
+    }
+    return ids;
+}
 
 int workdayStart(AppState *state)
 {
@@ -85,6 +96,8 @@ TimelineView::TimelineView(AppState *state, TimelineWidget *timeline, const QStr
     connectState();
     connectCanvas(m_timeline);
     connectCanvas(m_strip);
+    connectTimeline();
+    connect(m_strip, &AllDayStrip::emptyDayActivated, this, [this](QDate day) { emit createAllDayRequested(day, 1); });
 }
 
 void TimelineView::connectState()
@@ -123,13 +136,25 @@ void TimelineView::connectCanvas(EventCanvas *canvas)
 {
     connect(canvas, &EventCanvas::eventSelected, this, &TimelineView::onEventSelected);
     connect(canvas, &EventCanvas::eventFocused, m_state, &AppState::setSelectedOccurrence);
-    connect(canvas, &EventCanvas::eventActivated, this, &TimelineView::eventActivated);
+    connect(canvas, &EventCanvas::eventActivated, this,
+            [this, canvas](const QString &id) { emit eventActivated(id, canvas->selection().occurrenceStart); });
     connect(canvas, &EventCanvas::fontMetricsChanged, this, &TimelineView::onFontMetricsChanged);
     connect(canvas, &EventCanvas::eventContextRequested, this,
-            [this, canvas](const QString &id, const QPoint &globalPos) { onContextRequested(canvas, id, globalPos); });
-    if (canvas != m_timeline)
-        return;
+            [this, canvas](const QString &, const QPoint &globalPos) { onContextRequested(canvas, globalPos); });
+    connect(canvas, &EventCanvas::eventMoveRequested, this, &TimelineView::moveRequested);
+    connect(canvas, &EventCanvas::eventResizeRequested, this, &TimelineView::resizeRequested);
+    connect(canvas, &EventCanvas::eventDeleteRequested, this, &TimelineView::deleteRequested);
+    connect(canvas, &EventCanvas::taskDropped, this, &TimelineView::taskDropped);
+    connect(canvas, &EventCanvas::icsDropped, this, &TimelineView::icsDropped);
+    connect(canvas, &EventCanvas::refused, this, &TimelineView::refused);
+}
+
+void TimelineView::connectTimeline()
+{
     connect(m_timeline, &TimelineWidget::revealRequested, this, &TimelineView::reveal);
+    connect(m_timeline, &TimelineWidget::emptySpanMarked, this, &TimelineView::createRequested);
+    connect(m_timeline, &TimelineWidget::emptySlotActivated, this,
+            [this](QDate date, QTime time) { emit createRequested(QDateTime(date, time), NewEventMinutes); });
     connect(m_timeline, &TimelineWidget::zoomRequested, this,
             [this](int steps, int y) { zoomAt(steps, y - m_scroll->verticalScrollBar()->value()); });
 }
@@ -153,6 +178,9 @@ void TimelineView::reload()
         return;
     m_isStale = false;
     const auto span = m_state->visibleEvents()->inRange(firstDay(), columnCount());
+    const QSet<QString> readOnly = readOnlyCalendarIds(m_state);
+    m_timeline->setReadOnlyCalendarIds(readOnly);
+    m_strip->setReadOnlyCalendarIds(readOnly);
     showData(*span, m_state->syncableCalendarIds());
     m_timeline->setWorkdayHours(workdayStart(m_state), workdayEnd(m_state));
     m_strip->setData(m_timeline->metrics().columns.gutterPx, firstDay(), columnCount(), span->events,
@@ -225,16 +253,10 @@ void TimelineView::onEventSelected(const QString &id, const QDateTime &occurrenc
         emit eventSelected(id, occurrenceStart, globalRect);
 }
 
-void TimelineView::onContextRequested(const EventCanvas *canvas, const QString &id, const QPoint &globalPos)
+void TimelineView::onContextRequested(const EventCanvas *canvas, const QPoint &globalPos)
 {
-    const Event *shown = canvas->findEvent(canvas->selection());
-    if (!shown || !m_state->events()->getById(id))
-        return;
-    auto *menu = new EventContextMenu(m_state, *shown, this);
-    connect(menu, &EventContextMenu::filterEditRequested, this, &TimelineView::filterEditRequested);
-    connect(menu, &EventContextMenu::filterFromEventRequested, this, &TimelineView::filterFromEventRequested);
-    m_state->setSelectedOccurrence(id, canvas->selection().occurrenceStart);
-    menu->popup(globalPos);
+    if (const Event *shown = canvas->findEvent(canvas->selection()))
+        emit contextMenuRequested(*shown, globalPos);
 }
 
 void TimelineView::reveal(const QRect &rect)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "models/Event.h"
-#include "models/FilterRule.h"
 
 #include <QDate>
 #include <QTimer>
@@ -39,9 +38,16 @@ public:
 signals:
     /// \p globalRect is empty if the event is not on screen.
     void eventSelected(const QString &id, const QDateTime &occurrenceStart, const QRect &globalRect);
-    void eventActivated(const QString &id);
-    void filterEditRequested(const FilterRule &rule);
-    void filterFromEventRequested(const Event &event);
+    void eventActivated(const QString &id, const QDateTime &occurrenceStart); ///< double click
+    void contextMenuRequested(const Event &shown, const QPoint &globalPos);
+    void moveRequested(const QString &id, const QDateTime &occurrenceStart, int days, int minutes);
+    void resizeRequested(const QString &id, const QDateTime &occurrenceStart, int minutes);
+    void deleteRequested(const QString &id); ///< by keyboard
+    void createRequested(const QDateTime &start, int minutes); ///< local
+    void createAllDayRequested(QDate first, int days);
+    void taskDropped(const QString &taskId, const QDateTime &when, bool allDay, const QPoint &globalPos);
+    void icsDropped(const QStringList &paths);
+    void refused(const QString &why); ///< an event that takes no changes was about to be dragged
 
 protected:
     /// \p mode names the view mode whose density applies.
@@ -66,10 +72,11 @@ protected:
 private:
     void connectState();
     void connectCanvas(EventCanvas *canvas);
+    void connectTimeline();
     void onHourHeightChanged(int pixels);
     void onWorkdayHoursChanged(int start, int end);
     void onEventSelected(const QString &id, const QDateTime &occurrenceStart, const QRect &globalRect);
-    void onContextRequested(const EventCanvas *canvas, const QString &id, const QPoint &globalPos);
+    void onContextRequested(const EventCanvas *canvas, const QPoint &globalPos);
     void onSelectionChanged();
     void zoomAt(int steps, int viewportY);
     void onFontMetricsChanged();

@@ -1,10 +1,10 @@
 #include "ui/surfaces/TimelineWidget.h"
 
 #include "app/state/AppState.h"
+#include "calendar/services/EventText.h"
 #include "calendar/services/TimeFormat.h"
 #include "calendar/services/VisibleEvents.h"
 #include "models/Constants.h"
-#include "ui/surfaces/EventText.h"
 #include "ui/surfaces/SurfaceFonts.h"
 #include "ui/theme/Theme.h"
 
@@ -237,15 +237,6 @@ void TimelineWidget::reveal(const EventKey &key)
         emit revealRequested(blocks().at(index).rect);
 }
 
-Qt::CursorShape TimelineWidget::cursorOver(const EventBlock &block) const
-{
-    // The arrow marks events that cannot be dragged: those that run past midnight.
-    const Event &event = eventOf(block);
-    const QDate start = event.startTime.toLocalTime().date();
-    const QDate end = event.endTime.value_or(event.startTime).toLocalTime().date();
-    return start == end ? Qt::PointingHandCursor : Qt::ArrowCursor;
-}
-
 TimelineWidget::Painted TimelineWidget::makePainted(const EventBlock &block) const
 {
     const Event &event = eventOf(block);
@@ -270,6 +261,8 @@ void TimelineWidget::paintEvent(QPaintEvent *event)
         if (blocks().at(i).rect.adjusted(-2, -2, 2, 2).intersects(exposed))
             paintBlock(painter, i);
     }
+    paintGhost(painter);
+    paintDropPlace(painter);
 }
 
 QList<QRect> TimelineWidget::shadedRects() const

@@ -3,6 +3,7 @@
 #include "ui/surfaces/EventCanvas.h"
 #include "ui/surfaces/EventColors.h"
 #include "ui/surfaces/TimelineBlockPainter.h"
+#include "ui/surfaces/TimelineDrag.h"
 #include "ui/surfaces/TimelineGeometry.h"
 
 #include <QDate>
@@ -13,7 +14,8 @@
 struct VisibleSpan;
 class QPainter;
 
-/// Timed events on a vertical axis of 24 hours, one column for each day. It is as tall as its hours need, and
+/// Timed events on a vertical axis of 24 hours, one column for each day. A drag moves an event or its end, or
+/// marks empty time; nothing is stored here. It is as tall as its hours need, and
 /// sits in a scroll area. DayTimelineWidget and WeekTimelineWidget only differ in their Look.
 class TimelineWidget : public EventCanvas {
     Q_OBJECT
@@ -53,6 +55,8 @@ signals:
     /// Ctrl and the wheel: by how many notches, and the pointer's y in the widget.
     void zoomRequested(int steps, int y);
     void revealRequested(const QRect &rect);
+    void emptySlotActivated(QDate date, QTime time); ///< a double click beside all events
+    void emptySpanMarked(const QDateTime &start, int minutes); ///< dragged over empty time; local
 
 protected:
     TimelineWidget(AppState *state, const Look &look, QWidget *parent);
@@ -65,14 +69,21 @@ protected:
     void onPaletteChanged() override;
     [[nodiscard]] QList<EventKey> walkOrder() const override;
     void reveal(const EventKey &key) override;
-    [[nodiscard]] Qt::CursorShape cursorOver(const EventBlock &block) const override;
 
     [[nodiscard]] virtual QColor nowLineColor() const = 0;
+    [[nodiscard]] Qt::CursorShape cursorAt(QPoint point) const override;
+    [[nodiscard]] std::optional<DropPlace> dropPlaceAt(QPoint point) const override;
 
     void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     /// How a block looks, made when it is first painted.
@@ -91,6 +102,14 @@ private:
     void paintHours(QPainter &painter, const QRect &exposed) const;
     void paintNowLine(QPainter &painter) const;
     void paintBlock(QPainter &painter, int index);
+    void paintGhost(QPainter &painter) const;
+    [[nodiscard]] QString ghostLabel() const;
+    [[nodiscard]] TimelineDrag::Grip gripOf(const EventBlock &block) const;
+    [[nodiscard]] bool spansDates(const Event &event) const;
+    [[nodiscard]] QDateTime timeAt(int column, int minute) const; ///< local
+    void dragTo(QPoint point);
+    void carryOut(const TimelineDrag &drag);
+    void endDrag();
 
     Look m_look;
     QDate m_firstDay;
@@ -107,5 +126,6 @@ private:
     mutable std::optional<TimelineBlockPainter> m_blockPainter; // made anew when the font has changed
     TimelineMetrics m_laidOutFor;
     WheelNotches m_zoomNotches;
+    TimelineDrag m_drag;
     QList<std::optional<Painted>> m_painted; // beside blocks()
 };

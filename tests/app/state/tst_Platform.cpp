@@ -56,9 +56,10 @@ private slots:
     {
         ScratchState state;
         PreferencesRepository *preferences = state->preferences();
-        DefaultCalendar::recordLastUsed(preferences, false, u"work"_s);
-        QCOMPARE(DefaultCalendar::preferredCalendarId(preferences, false), QString()); // not what the user chose
+        DefaultCalendar::recordLastUsed(preferences, false, u"old"_s); // nobody asked for it
         preferences->set(u"ui/defaultCalendarId"_s, u"__last_used__"_s);
+        QCOMPARE(DefaultCalendar::preferredCalendarId(preferences, false), QString());
+        DefaultCalendar::recordLastUsed(preferences, false, u"work"_s);
         DefaultCalendar::recordLastUsed(preferences, false, QString());
         QCOMPARE(DefaultCalendar::preferredCalendarId(preferences, false), u"work"_s);
 

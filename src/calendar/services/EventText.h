@@ -6,8 +6,8 @@
 
 class AppState;
 
-/// What surfaces write about an event, in the user's language and time format. All results are plain text;
-/// titles and places come out on one line and cut to a length that can be measured quickly.
+/// What surfaces, popovers and forms write about an event, in the user's language and time format. All results are
+/// plain text; titles and places come out on one line and cut to a length that can be measured quickly.
 namespace EventText {
 
 QString title(const Event &event); ///< "(Untitled)" if it has none

@@ -1,4 +1,4 @@
-#include "ui/IcsDrop.h"
+#include "ui/dialogs/IcsDrop.h"
 
 #include <QMimeData>
 #include <QUrl>

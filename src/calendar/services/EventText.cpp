@@ -1,4 +1,4 @@
-#include "ui/surfaces/EventText.h"
+#include "calendar/services/EventText.h"
 
 #include "app/state/AppState.h"
 #include "calendar/EventDays.h"

@@ -15,7 +15,14 @@ public:
     /// \p event is the instance on show, so that rules about weekdays and times are judged by it.
     EventContextMenu(AppState *state, const Event &event, QWidget *parent);
 
+    void setDeletable(bool deletable);
+
 signals:
+    void editRequested();
+    void deleteRequested();
     void filterEditRequested(const FilterRule &rule);
     void filterFromEventRequested(const Event &event);
+
+private:
+    QAction *m_delete;
 };

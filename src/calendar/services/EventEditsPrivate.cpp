@@ -1,0 +1,41 @@
+#include "calendar/services/EventEditsPrivate.h"
+
+#include <QCoreApplication>
+#include <QUuid>
+
+using EventEdits::Outcome;
+
+namespace {
+
+class Tr {
+    Q_DECLARE_TR_FUNCTIONS(EventEdits)
+};
+
+}
+
+Outcome EventEditsPrivate::done(const QString &id)
+{
+    return { .ok = true, .id = id, .why = {} };
+}
+
+Outcome EventEditsPrivate::refused(const QString &why)
+{
+    return { .ok = false, .id = {}, .why = why };
+}
+
+Outcome EventEditsPrivate::failed()
+{
+    return refused(Tr::tr("Could not save the event."));
+}
+
+QString EventEditsPrivate::newId()
+{
+    return QUuid::createUuid().toString(QUuid::WithoutBraces);
+}
+
+void EventEditsPrivate::forgetServer(Event &event)
+{
+    event.providerEventId.clear();
+    event.etag.clear();
+    event.href.clear();
+}

@@ -1,0 +1,397 @@
+#include "ui/tasks/TasksPane.h"
+
+#include "app/state/AppState.h"
+#include "storage/CalendarRepository.h"
+#include "storage/PreferencesRepository.h"
+#include "storage/TaskRepository.h"
+#include "storage/ViewRepository.h"
+#include "ui/actions/TaskActions.h"
+#include "ui/theme/Theme.h"
+
+#include <QActionGroup>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QShowEvent>
+#include <QTimer>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace {
+
+constexpr int RowsPerSlice = 60;
+constexpr int MarginPx = 12;
+const QString FilterKey = QStringLiteral("ui/tasksFilter");
+const QString GroupKey = QStringLiteral("ui/tasksGroupByCalendar");
+const QString HideKey = QStringLiteral("ui/tasksHideCompleted");
+const QString NotesKey = QStringLiteral("ui/tasksShowNotes");
+const QString CategoriesKey = QStringLiteral("ui/tasksShowCategories");
+const QString NoCalendarColor = QStringLiteral("#9aa0a6");
+
+using Filter = TaskListing::Filter;
+
+constexpr std::pair<Filter, QLatin1StringView> FilterNames[] = {
+    { Filter::All, QLatin1StringView("all") },
+    { Filter::Today, QLatin1StringView("today") },
+    { Filter::ThisWeek, QLatin1StringView("thisweek") },
+    { Filter::Overdue, QLatin1StringView("overdue") },
+};
+
+Filter filterFromName(const QString &name)
+{
+    for (const auto &[filter, stored] : FilterNames) {
+        if (name == stored)
+            return filter;
+    }
+    return Filter::All;
+}
+
+QString nameOf(Filter filter)
+{
+    for (const auto &[known, stored] : FilterNames) {
+        if (known == filter)
+            return stored;
+    }
+    return {};
+}
+
+}
+
+TasksPane::TasksPane(AppState *state, TaskActions *actions, QWidget *parent)
+    : QWidget(parent)
+    , m_state(state)
+    , m_actions(actions)
+    , m_reloadTimer(new QTimer(this))
+    , m_sliceTimer(new QTimer(this))
+    , m_scroll(new QScrollArea)
+{
+    PreferencesRepository *preferences = state->preferences();
+    m_options.filter = filterFromName(preferences->get(FilterKey, QStringLiteral("all")));
+    m_options.groupByCalendar = preferences->getBool(GroupKey, false);
+    m_options.hideCompleted = preferences->getBool(HideKey, false);
+    m_showNotes = preferences->getBool(NotesKey, false);
+    m_showCategories = preferences->getBool(CategoriesKey, false);
+
+    setAccessibleName(tr("Tasks"));
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(buildToolbar());
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    column->addWidget(m_scroll, 1);
+    for (QTimer *timer : { m_reloadTimer, m_sliceTimer }) {
+        timer->setSingleShot(true);
+        timer->setInterval(0);
+    }
+    connect(m_reloadTimer, &QTimer::timeout, this, [this] {
+        if (isVisible())
+            reload();
+    });
+    connect(m_sliceTimer, &QTimer::timeout, this, &TasksPane::buildSlice);
+    connectSources();
+}
+
+QWidget *TasksPane::buildToolbar()
+{
+    auto *bar = new QWidget;
+    bar->setAutoFillBackground(true);
+    auto *row = new QHBoxLayout(bar);
+    row->setContentsMargins(MarginPx, MarginPx / 2, MarginPx / 2, MarginPx / 2);
+    auto *title = new QLabel(tr("Tasks"));
+    QFont font = title->font();
+    font.setBold(true);
+    title->setFont(font);
+    m_filterButton = new QToolButton;
+    m_filterButton->setAutoRaise(true);
+    m_filterButton->setToolTip(tr("Filter tasks"));
+    m_filterButton->setPopupMode(QToolButton::InstantPopup);
+    m_filterButton->setFocusPolicy(Qt::TabFocus);
+    auto *menu = new QMenu(m_filterButton);
+    buildFilterMenu(menu);
+    m_filterButton->setMenu(menu);
+    auto *add = new QToolButton;
+    add->setAutoRaise(true);
+    add->setText(QStringLiteral("+"));
+    add->setToolTip(tr("New task"));
+    add->setAccessibleName(tr("New task"));
+    add->setFocusPolicy(Qt::TabFocus);
+    connect(add, &QToolButton::clicked, m_actions, &TaskActions::create);
+    row->addWidget(title, 1);
+    row->addWidget(m_filterButton);
+    row->addWidget(add);
+    showFilterName();
+    return bar;
+}
+
+void TasksPane::buildFilterMenu(QMenu *menu)
+{
+    const QString texts[] = { tr("All"), tr("Today"), tr("This week"), tr("Overdue") };
+    auto *exclusive = new QActionGroup(menu);
+    for (std::size_t i = 0; i < std::size(FilterNames); ++i) {
+        QAction *action = menu->addAction(texts[i]);
+        action->setCheckable(true);
+        action->setChecked(FilterNames[i].first == m_options.filter);
+        action->setData(int(FilterNames[i].first));
+        exclusive->addAction(action);
+    }
+    connect(exclusive, &QActionGroup::triggered, this,
+            [this](const QAction *action) { setFilter(Filter(action->data().toInt())); });
+    menu->addSeparator();
+    addOption(menu, tr("Group by calendar"), m_options.groupByCalendar, &TasksPane::setGroupByCalendar);
+    addOption(menu, tr("Hide completed"), m_options.hideCompleted, &TasksPane::setHideCompleted);
+    addOption(menu, tr("Show notes"), m_showNotes, &TasksPane::setShowNotes);
+    addOption(menu, tr("Show categories"), m_showCategories, &TasksPane::setShowCategories);
+}
+
+QAction *TasksPane::addOption(QMenu *menu, const QString &text, bool on, void (TasksPane::*setter)(bool))
+{
+    QAction *action = menu->addAction(text);
+    action->setCheckable(true);
+    action->setChecked(on);
+    connect(action, &QAction::toggled, this, setter);
+    return action;
+}
+
+void TasksPane::connectSources()
+{
+    const auto refresh = [this] { reloadSoon(); };
+    connect(m_state->tasks(), &TaskRepository::tasksChanged, this, refresh);
+    connect(m_state->calendars(), &CalendarRepository::calendarsChanged, this, refresh);
+    connect(m_state->views(), &ViewRepository::viewsChanged, this, refresh);
+    connect(m_state, &AppState::activeViewChanged, this, refresh);
+    connect(m_state, &AppState::lastSyncErroredChanged, this, refresh);
+    connect(m_state, &AppState::todayChanged, this, refresh);
+    connect(m_state->preferences(), &PreferencesRepository::changed, this, [this](const QString &key) {
+        if (key == QLatin1StringView("ui/timeFormat"))
+            reloadSoon();
+    });
+}
+
+// One rebuild for all that changes before the event loop turns.
+void TasksPane::reloadSoon()
+{
+    m_isStale = true;
+    m_reloadTimer->start();
+}
+
+void TasksPane::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (m_isStale)
+        reload();
+}
+
+void TasksPane::setFilter(Filter filter)
+{
+    if (std::exchange(m_options.filter, filter) == filter)
+        return;
+    m_state->preferences()->set(FilterKey, nameOf(filter));
+    showFilterName();
+    reloadSoon();
+}
+
+void TasksPane::showFilterName()
+{
+    for (const QAction *action : m_filterButton->menu()->actions()) {
+        if (action->data().isValid() && Filter(action->data().toInt()) == m_options.filter)
+            m_filterButton->setText(action->text());
+    }
+}
+
+void TasksPane::storeFlag(bool *flag, bool on, const QString &key)
+{
+    if (std::exchange(*flag, on) == on)
+        return;
+    m_state->preferences()->setBool(key, on);
+    reloadSoon();
+}
+
+void TasksPane::setGroupByCalendar(bool on)
+{
+    storeFlag(&m_options.groupByCalendar, on, GroupKey);
+}
+
+void TasksPane::setHideCompleted(bool on)
+{
+    storeFlag(&m_options.hideCompleted, on, HideKey);
+}
+
+void TasksPane::setShowNotes(bool on)
+{
+    storeFlag(&m_showNotes, on, NotesKey);
+}
+
+void TasksPane::setShowCategories(bool on)
+{
+    storeFlag(&m_showCategories, on, CategoriesKey);
+}
+
+void TasksPane::reload()
+{
+    m_isStale = false;
+    m_scrolledTo = m_scroll->verticalScrollBar()->value();
+    for (const TasksPaneRow *row : std::as_const(m_rows)) {
+        if (row->hasFocus())
+            m_focusedTaskId = row->row().id;
+    }
+    m_sections = TaskListing::load(m_state, m_options, QDate::currentDate());
+    m_calendarColors.clear();
+    const QList<Calendar> calendars = m_state->calendars()->getAll();
+    for (const Calendar &calendar : calendars)
+        m_calendarColors.insert(calendar.id, calendar.color);
+    m_syncableCalendarIds = m_state->syncableCalendarIds();
+    setUpdatesEnabled(false);
+    clearContent();
+    for (int section = 0; section < m_sections.size(); ++section) {
+        if (!m_sections.at(section).calendarId.isEmpty())
+            m_pending.append({ section, -1 });
+        for (int row = 0; row < m_sections.at(section).rows.size(); ++row)
+            m_pending.append({ section, row });
+    }
+    if (m_pending.isEmpty())
+        buildEmptyState();
+    buildSlice();
+    setUpdatesEnabled(true);
+}
+
+void TasksPane::clearContent()
+{
+    m_sliceTimer->stop();
+    m_pending.clear();
+    m_rows.clear();
+    auto *content = new QWidget;
+    m_list = new QVBoxLayout(content);
+    m_list->setContentsMargins(0, 0, 0, 0);
+    m_list->setSpacing(0);
+    m_list->addStretch();
+    // A row may be the origin of the signal that led here, so the old ones go later.
+    if (QWidget *old = m_scroll->takeWidget()) {
+        old->hide();
+        old->deleteLater();
+    }
+    m_scroll->setWidget(content);
+}
+
+void TasksPane::buildSlice()
+{
+    const qsizetype count = std::min<qsizetype>(RowsPerSlice, m_pending.size());
+    for (qsizetype i = 0; i < count; ++i) {
+        const TaskListing::Section &section = m_sections.at(m_pending.at(i).section);
+        const int row = m_pending.at(i).row;
+        QWidget *line = row < 0 ? buildSectionHeader(section.title, section.color, int(section.rows.size()))
+                                : buildRow(section.rows.at(row));
+        m_list->insertWidget(m_list->count() - 1, line);
+    }
+    m_pending.remove(0, count);
+    if (!m_pending.isEmpty())
+        return m_sliceTimer->start();
+    m_focusedTaskId.clear();
+    m_scroll->widget()->adjustSize();
+    m_scroll->verticalScrollBar()->setValue(m_scrolledTo);
+}
+
+TasksPaneRow *TasksPane::buildRow(const TaskListing::Row &row)
+{
+    const QString color = row.color.isEmpty() ? m_calendarColors.value(row.calendarId) : row.color;
+    const bool waits = row.syncStatus == SyncStatus::Pending && m_syncableCalendarIds.contains(row.calendarId);
+    auto *widget = new TasksPaneRow(m_state, row, { m_showNotes, m_showCategories, waits, color });
+    widget->setDraggable(true);
+    connect(widget, &TasksPaneRow::rowSelected, m_actions, &TaskActions::open);
+    connect(widget, &TasksPaneRow::rowActivated, m_actions, &TaskActions::edit);
+    connect(widget, &TasksPaneRow::contextRequested, m_actions, &TaskActions::showContextMenu);
+    connect(widget, &TasksPaneRow::completionToggled, m_actions, &TaskActions::setCompleted);
+    connect(widget, &TasksPaneRow::deleteRequested, m_actions, &TaskActions::remove);
+    connect(widget, &TasksPaneRow::taskDropped, this, &TasksPane::onTaskDropped);
+    connect(widget, &TasksPaneRow::walkRequested, this, &TasksPane::onWalk);
+    m_rows.append(widget);
+    if (row.id == m_focusedTaskId)
+        QMetaObject::invokeMethod(
+            widget, [widget] { widget->setFocus(); }, Qt::QueuedConnection);
+    return widget;
+}
+
+QWidget *TasksPane::buildSectionHeader(const QString &title, const QString &color, int count)
+{
+    auto *header = new QWidget;
+    auto *row = new QHBoxLayout(header);
+    row->setContentsMargins(MarginPx, MarginPx, MarginPx, MarginPx / 3);
+    auto *dot = new QLabel;
+    dot->setPixmap(Theme::calendarDotIcon(color.isEmpty() ? NoCalendarColor : color).pixmap(12, 12));
+    auto *name = new QLabel(title);
+    name->setTextFormat(Qt::PlainText);
+    QFont font = name->font();
+    font.setBold(true);
+    name->setFont(font);
+    auto *number = new QLabel(QLocale().toString(count));
+    number->setProperty("muted", true);
+    row->addWidget(dot);
+    row->addWidget(name, 1);
+    row->addWidget(number);
+    return header;
+}
+
+void TasksPane::buildEmptyState()
+{
+    const auto label = [](const QString &text, bool isTitle) {
+        auto *result = new QLabel(text);
+        result->setWordWrap(true);
+        result->setAlignment(Qt::AlignHCenter);
+        QFont font = result->font();
+        font.setBold(isTitle);
+        result->setFont(font);
+        result->setProperty("muted", !isTitle);
+        return result;
+    };
+    const QString other = tr("Switch the filter to see other tasks.");
+    QString title = tr("No tasks yet");
+    QString text = tr("Create a task to track what needs doing.");
+    if (m_options.filter == Filter::Today) {
+        title = tr("Nothing due today");
+        text = other;
+    } else if (m_options.filter == Filter::ThisWeek) {
+        title = tr("Nothing due this week");
+        text = other;
+    } else if (m_options.filter == Filter::Overdue) {
+        title = tr("Nothing overdue");
+        text = tr("You're caught up. Nice.");
+    }
+    auto *box = new QWidget;
+    auto *column = new QVBoxLayout(box);
+    column->setContentsMargins(MarginPx, 3 * MarginPx, MarginPx, MarginPx);
+    column->addWidget(label(title, true));
+    column->addWidget(label(text, false));
+    if (m_options.filter == Filter::All) {
+        auto *add = new QPushButton(tr("+ New Task"));
+        connect(add, &QPushButton::clicked, m_actions, &TaskActions::create);
+        column->addWidget(add, 0, Qt::AlignHCenter);
+    }
+    m_list->insertWidget(0, box);
+}
+
+void TasksPane::onWalk(int step)
+{
+    const auto index = m_rows.indexOf(static_cast<TasksPaneRow *>(sender()));
+    const qsizetype next = index + step;
+    if (index < 0 || next < 0 || next >= m_rows.size())
+        return;
+    m_rows.at(next)->setFocus(step > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    m_scroll->ensureWidgetVisible(m_rows.at(next), 0, 0);
+}
+
+void TasksPane::onTaskDropped(const QString &uid, const QString &targetUid, TasksPaneRow::Zone zone)
+{
+    if (zone == TasksPaneRow::Zone::None)
+        return;
+    m_actions->place(uid, targetUid,
+                     zone == TasksPaneRow::Zone::Onto        ? TaskEdits::DropZone::Onto
+                         : zone == TasksPaneRow::Zone::Above ? TaskEdits::DropZone::Above
+                                                             : TaskEdits::DropZone::Below);
+}

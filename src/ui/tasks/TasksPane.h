@@ -1,0 +1,83 @@
+#pragma once
+
+#include "calendar/services/TaskListing.h"
+#include "ui/tasks/TasksPaneRow.h"
+
+#include <QList>
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+
+class AppState;
+class QLabel;
+class QMenu;
+class QScrollArea;
+class QTimer;
+class QToolButton;
+class QVBoxLayout;
+class TaskActions;
+
+/// The tasks of the visible calendars as an indented tree, with a filter, options, and dragging. A long list is
+/// built in slices of the event loop.
+class TasksPane : public QWidget {
+    Q_OBJECT
+
+public:
+    using Filter = TaskListing::Filter;
+
+    /// \p actions must outlive the pane.
+    TasksPane(AppState *state, TaskActions *actions, QWidget *parent = nullptr);
+
+    void reload();
+    void setFilter(Filter filter);
+    void setGroupByCalendar(bool on);
+    void setHideCompleted(bool on);
+    void setShowNotes(bool on);
+    void setShowCategories(bool on);
+    [[nodiscard]] const TaskListing::Options &options() const { return m_options; }
+    [[nodiscard]] QList<TasksPaneRow *> rows() const { return m_rows; }
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    /// One line of the list that is still to be built.
+    struct Pending {
+        int section;
+        int row; ///< -1: the section's header
+    };
+
+    QWidget *buildToolbar();
+    void buildFilterMenu(QMenu *menu);
+    QAction *addOption(QMenu *menu, const QString &text, bool on, void (TasksPane::*setter)(bool));
+    void connectSources();
+    void reloadSoon();
+    void clearContent();
+    void buildSlice();
+    void buildEmptyState();
+    QWidget *buildSectionHeader(const QString &title, const QString &color, int count);
+    TasksPaneRow *buildRow(const TaskListing::Row &row);
+    void onWalk(int step);
+    void onTaskDropped(const QString &uid, const QString &targetUid, TasksPaneRow::Zone zone);
+    void storeFlag(bool *flag, bool on, const QString &key);
+    void showFilterName();
+
+    AppState *m_state;
+    TaskActions *m_actions;
+    TaskListing::Options m_options;
+    bool m_showNotes = false;
+    bool m_showCategories = false;
+    bool m_isStale = true;
+    QTimer *m_reloadTimer;
+    QTimer *m_sliceTimer;
+    QToolButton *m_filterButton = nullptr;
+    QScrollArea *m_scroll;
+    QVBoxLayout *m_list = nullptr;
+    QList<TaskListing::Section> m_sections;
+    QList<Pending> m_pending;
+    QList<TasksPaneRow *> m_rows;
+    QHash<QString, QString> m_calendarColors;
+    QSet<QString> m_syncableCalendarIds;
+    QString m_focusedTaskId; // that gets the focus back when its row is there again
+    int m_scrolledTo = 0;
+};
