@@ -78,6 +78,8 @@ private slots:
         QSignalSpy heights(&state(), &AppState::hourHeightChanged);
         state().setHourHeight(300);
         state().setHourHeight(201);
+        state().setCurrentDate(QDate());
+        QVERIFY(state().currentDate().isValid());
         QCOMPARE(state().hourHeight(), 200);
         QCOMPARE(heights.size(), 1);
         QSignalSpy counts(&state(), &AppState::filterHiddenCountChanged);
