@@ -24,6 +24,11 @@ public:
     Span(QDate first, int days);
 
     [[nodiscard]] bool holds(const Event &event) const;
+    [[nodiscard]] bool holds(const QDateTime &start, const QDateTime &end, bool isAllDay) const;
+
+    // The instants where the days begin and end.
+    [[nodiscard]] qint64 fromMs() const { return m_fromMs; }
+    [[nodiscard]] qint64 toMs() const { return m_toMs; }
 
 private:
     QDate m_first;
