@@ -76,20 +76,25 @@ struct Instance {
 };
 using Instances = std::vector<Instance>;
 
-void logNothing(const Event &master, qint64 fromMs, qint64 toMs)
+struct Window {
+    qint64 fromMs;
+    qint64 toMs;
+};
+
+void logNothing(const Event &master, const Window &window)
 {
     const auto text = [](qint64 ms) { return QDateTime::fromMSecsSinceEpoch(ms).toString(Qt::ISODate); };
     qCDebug(lcExpansion) << "master uid=" << master.uid << "title=" << master.title << "rrule=" << master.recurrenceRule
                          << "dtstart=" << master.startTime.toString(Qt::ISODate)
-                         << QStringLiteral("→ 0 occurrences in range").toUtf8().constData() << text(fromMs) << "..."
-                         << text(toMs);
+                         << QStringLiteral("→ 0 occurrences in range").toUtf8().constData() << text(window.fromMs)
+                         << "..." << text(window.toMs);
 }
 
-void addSeries(Instances &instances, const Event &master, SeriesOverrides *overrides, qint64 fromMs, qint64 toMs)
+void addSeries(Instances &instances, const Event &master, SeriesOverrides *overrides, const Window &window)
 {
-    QList<Occurrence> occurrences = RruleExpander::occurrences(master, fromMs, toMs);
+    QList<Occurrence> occurrences = RruleExpander::occurrences(master, window.fromMs, window.toMs);
     if (occurrences.isEmpty())
-        logNothing(master, fromMs, toMs);
+        logNothing(master, window);
     for (Occurrence &occurrence : occurrences) {
         if (overrides) {
             const auto found = overrides->find(occurrence.recurrenceId);
@@ -103,14 +108,20 @@ void addSeries(Instances &instances, const Event &master, SeriesOverrides *overr
     }
 }
 
-Instances instancesOf(Rows &&rows, qint64 fromMs, qint64 toMs)
+/// \p tight is for series whose occurrences show just where they overlap the window, \p wide for the rest.
+Instances instancesOf(Rows &&rows, const Window &tight, const Window &wide)
 {
+    const auto isPlain = [](const Event &master) {
+        return !master.isAllDay && (!master.endTime || *master.endTime >= master.startTime);
+    };
     Instances instances;
     instances.reserve(rows.singles.size() + 2 * rows.masters.size() + rows.overrides.size());
     for (const Event *single : std::as_const(rows.singles))
         instances.push_back({ single, {} });
-    for (const Event *master : std::as_const(rows.masters))
-        addSeries(instances, *master, rows.overridesOf(*master), fromMs, toMs);
+    for (const Event *master : std::as_const(rows.masters)) {
+        SeriesOverrides *overrides = rows.overridesOf(*master);
+        addSeries(instances, *master, overrides, !overrides && isPlain(*master) ? tight : wide);
+    }
     for (const Event *row : std::as_const(rows.overrides)) {
         if (rows.isLeftOver(row))
             instances.push_back({ row, {} });
@@ -125,7 +136,8 @@ QList<Event> EventExpansion::expand(const QList<Event> &events, const QDateTime 
     Rows rows;
     for (const Event &event : events)
         rows.add(event);
-    Instances instances = instancesOf(std::move(rows), from.toMSecsSinceEpoch(), to.toMSecsSinceEpoch());
+    const Window window{ from.toMSecsSinceEpoch(), to.toMSecsSinceEpoch() };
+    Instances instances = instancesOf(std::move(rows), window, window);
     QList<Event> result;
     result.reserve(static_cast<qsizetype>(instances.size()));
     for (Instance &instance : instances)
@@ -138,8 +150,10 @@ QList<Event> EventExpansion::showIn(const EventDays::Span &span, const QList<con
     Rows rows;
     for (const Event *event : events)
         rows.add(*event);
-    // All-day dates are at 00:00 UTC, up to 14 hours from the machine's midnight.
-    Instances instances = instancesOf(std::move(rows), span.fromMs() - Civil::MsPerDay, span.toMs() + Civil::MsPerDay);
+    // All-day dates are at 00:00 UTC, up to 14 hours from the machine's midnight; and what replaces an
+    // occurrence may have moved. An instance without length shows where the window begins.
+    Instances instances = instancesOf(std::move(rows), { span.fromMs() - 1, span.toMs() },
+                                      { span.fromMs() - Civil::MsPerDay, span.toMs() + Civil::MsPerDay });
 
     std::vector<std::pair<qint64, Instance *>> order;
     order.reserve(instances.size());
