@@ -12,6 +12,7 @@
 namespace {
 
 // The commit behind a slice takes longer than the slice: each row lies on a dozen pages.
+constexpr int CheckpointPages = 200;
 constexpr int SliceMs = 3;
 constexpr int PauseMs = 10;
 constexpr int LargeFrom = 250; // rows
@@ -125,7 +126,7 @@ void CalendarRemovals::runSlice()
     }
     // What a power cut takes back is still marked, and deleted again.
     if (!m_bulkWrites)
-        m_bulkWrites = std::make_unique<BulkWrites>(m_database);
+        m_bulkWrites = std::make_unique<BulkWrites>(m_database, CheckpointPages);
 
     QElapsedTimer clock;
     clock.start();
