@@ -151,6 +151,9 @@ int Application::run()
         return reportDatabaseFailure();
     m_mainWindow = new MainWindow(m_appState);
     StartupTrace::watch(m_mainWindow);
+    // Until the window has been seen, a dialog that closes is no reason to leave.
+    setQuitOnLastWindowClosed(false);
+    m_mainWindow->installEventFilter(this);
     connectCommands();
     connectHelp();
     // The first week would else have to wait for what is being read in slices.
@@ -187,13 +190,8 @@ void Application::showFirstWindow()
 {
     const bool startsHidden = m_appState->preferences()->getBool(QStringLiteral("ui/startMinimized"), false)
         || arguments().contains(QLatin1StringView("--background"));
-    if (!startsHidden || m_mainWindow->isVisible()) { // a second launch may have been quicker
+    if (!startsHidden)
         m_mainWindow->show();
-        return;
-    }
-    // Until the window has been seen, a dialog that closes is no reason to leave.
-    setQuitOnLastWindowClosed(false);
-    m_mainWindow->installEventFilter(this);
 }
 
 bool Application::eventFilter(QObject *watched, QEvent *event)
@@ -261,6 +259,5 @@ void Application::onTerminationSignal()
 {
     if (m_mainWindow)
         m_mainWindow->quitApplication();
-    else
-        quit();
+    exit(0); // an open form would stop quit(), to ask a question that nobody is there to answer
 }

@@ -4,35 +4,26 @@
 
 namespace {
 
-QDate dayOf(const QDateTime &time, bool isAllDay)
+bool hasLength(const Event &event)
 {
-    return isAllDay ? time.date() : time.toLocalTime().date();
-}
-
-QDate lastDayOf(const QDateTime &start, const QDateTime &end, bool isAllDay)
-{
-    const QDate first = dayOf(start, isAllDay);
-    if (!end.isValid() || end <= start)
-        return first;
-    // The dates of an all-day event may come from two zones.
-    return std::max(first, dayOf(end.addMSecs(-1), isAllDay));
-}
-
-QDateTime endOf(const Event &event)
-{
-    return event.endTime.value_or(QDateTime());
+    return event.endTime && event.endTime->isValid() && *event.endTime > event.startTime;
 }
 
 }
 
 QDate EventDays::firstDay(const Event &event)
 {
-    return dayOf(event.startTime, event.isAllDay);
+    return event.isAllDay ? event.startTime.date() : event.startTime.toLocalTime().date();
 }
 
 QDate EventDays::lastDay(const Event &event)
 {
-    return lastDayOf(event.startTime, endOf(event), event.isAllDay);
+    if (!hasLength(event))
+        return firstDay(event);
+    const QDateTime lastMoment = event.endTime->addMSecs(-1);
+    const QDate last = event.isAllDay ? lastMoment.date() : lastMoment.toLocalTime().date();
+    // The dates of an all-day event may come from two zones.
+    return std::max(firstDay(event), last);
 }
 
 bool EventDays::overlaps(const Event &event, QDate first, int days)
@@ -50,17 +41,15 @@ EventDays::Span::Span(QDate first, int days)
 
 bool EventDays::Span::holds(const Event &event) const
 {
-    return holds(event.startTime, endOf(event), event.isAllDay);
+    if (!event.startTime.isValid() || m_end <= m_first)
+        return false;
+    if (event.isAllDay)
+        return firstDay(event) < m_end && lastDay(event) >= m_first;
+    const qint64 startMs = event.startTime.toMSecsSinceEpoch();
+    return holdsTimed(startMs, event.endTime ? event.endTime->toMSecsSinceEpoch() : startMs);
 }
 
-bool EventDays::Span::holds(const QDateTime &start, const QDateTime &end, bool isAllDay) const
+bool EventDays::Span::holdsTimed(qint64 startMs, qint64 endMs) const
 {
-    if (!start.isValid() || m_end <= m_first)
-        return false;
-    if (isAllDay)
-        return start.date() < m_end && lastDayOf(start, end, isAllDay) >= m_first;
-    const qint64 startMs = start.toMSecsSinceEpoch();
-    if (startMs >= m_toMs)
-        return false;
-    return startMs >= m_fromMs || (end.isValid() && end.toMSecsSinceEpoch() > m_fromMs);
+    return m_fromMs < m_toMs && startMs < m_toMs && (startMs >= m_fromMs || endMs > m_fromMs);
 }

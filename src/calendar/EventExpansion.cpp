@@ -6,7 +6,6 @@
 #include <QHash>
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -14,7 +13,7 @@ Q_LOGGING_CATEGORY(lcExpansion, "calendar.expansion", QtInfoMsg)
 
 namespace {
 
-using RruleExpander::Occurrence;
+using RruleExpander::Occurrences;
 
 /// The overrides of one series by recurrence id. Of several with one id the last counts.
 struct Override {
@@ -56,78 +55,96 @@ struct Rows {
     }
 };
 
-/// A row, or one occurrence of it, without a copy: records are large.
-struct Instance {
-    const Event *row;
-    std::optional<Occurrence> occurrence;
-
-    [[nodiscard]] const QDateTime &start() const { return occurrence ? occurrence->start : row->startTime; }
-    [[nodiscard]] bool showsIn(const EventDays::Span &span) const
-    {
-        return occurrence ? span.holds(occurrence->start, occurrence->end, row->isAllDay) : span.holds(*row);
-    }
-    void appendTo(QList<Event> &events) &&
-    {
-        if (occurrence)
-            RruleExpander::appendInstance(events, *row, std::move(*occurrence));
-        else
-            events.append(*row);
-    }
-};
-using Instances = std::vector<Instance>;
-
 struct Window {
     qint64 fromMs;
     qint64 toMs;
 };
 
-void logNothing(const Event &master, const Window &window)
-{
-    const auto text = [](qint64 ms) { return QDateTime::fromMSecsSinceEpoch(ms).toString(Qt::ISODate); };
-    qCDebug(lcExpansion) << "master uid=" << master.uid << "title=" << master.title << "rrule=" << master.recurrenceRule
-                         << "dtstart=" << master.startTime.toString(Qt::ISODate)
-                         << QStringLiteral("→ 0 occurrences in range").toUtf8().constData() << text(window.fromMs)
-                         << "..." << text(window.toMs);
-}
+/// A row, or one occurrence of it, without a copy: records are large.
+struct Instance {
+    const Event *row;
+    const Occurrences *series = nullptr;
+    qint64 startMs = 0; // of the occurrence
 
-void addSeries(Instances &instances, const Event &master, SeriesOverrides *overrides, const Window &window)
-{
-    QList<Occurrence> occurrences = RruleExpander::occurrences(master, window.fromMs, window.toMs);
-    if (occurrences.isEmpty())
-        logNothing(master, window);
-    for (Occurrence &occurrence : occurrences) {
-        if (overrides) {
-            const auto found = overrides->find(occurrence.recurrenceId);
-            if (found != overrides->end()) {
-                found->isUsed = true;
-                instances.push_back({ found->row, {} });
-                continue;
-            }
+    [[nodiscard]] qint64 sortKey() const { return series ? startMs : row->startTime.toMSecsSinceEpoch(); }
+    [[nodiscard]] bool showsIn(const EventDays::Span &span) const
+    {
+        if (!series)
+            return span.holds(*row);
+        if (!row->isAllDay)
+            return span.holdsTimed(startMs, startMs + series->durationMs());
+        QList<Event> copy;
+        appendTo(copy);
+        return span.holds(copy.constFirst());
+    }
+    void appendTo(QList<Event> &events) const
+    {
+        if (series)
+            series->appendAt(startMs, events);
+        else
+            events.append(*row);
+    }
+};
+
+class Instances {
+public:
+    /// \p tight is for series whose occurrences show just where they overlap the window, \p wide for the rest.
+    Instances(Rows &&rows, const Window &tight, const Window &wide)
+    {
+        m_series.reserve(size_t(rows.masters.size())); // so that pointers into it stay valid
+        m_all.reserve(size_t(rows.singles.size() + 2 * rows.masters.size() + rows.overrides.size()));
+        for (const Event *single : std::as_const(rows.singles))
+            m_all.push_back({ single });
+        for (const Event *master : std::as_const(rows.masters)) {
+            SeriesOverrides *overrides = rows.overridesOf(*master);
+            addSeries(*master, overrides, !overrides && isPlain(*master) ? tight : wide);
         }
-        instances.push_back({ &master, std::move(occurrence) });
+        for (const Event *row : std::as_const(rows.overrides)) {
+            if (rows.isLeftOver(row))
+                m_all.push_back({ row });
+        }
     }
-}
+    Q_DISABLE_COPY_MOVE(Instances)
 
-/// \p tight is for series whose occurrences show just where they overlap the window, \p wide for the rest.
-Instances instancesOf(Rows &&rows, const Window &tight, const Window &wide)
-{
-    const auto isPlain = [](const Event &master) {
+    [[nodiscard]] const std::vector<Instance> &all() const { return m_all; }
+
+private:
+    static bool isPlain(const Event &master)
+    {
         return !master.isAllDay && (!master.endTime || *master.endTime >= master.startTime);
-    };
-    Instances instances;
-    instances.reserve(rows.singles.size() + 2 * rows.masters.size() + rows.overrides.size());
-    for (const Event *single : std::as_const(rows.singles))
-        instances.push_back({ single, {} });
-    for (const Event *master : std::as_const(rows.masters)) {
-        SeriesOverrides *overrides = rows.overridesOf(*master);
-        addSeries(instances, *master, overrides, !overrides && isPlain(*master) ? tight : wide);
     }
-    for (const Event *row : std::as_const(rows.overrides)) {
-        if (rows.isLeftOver(row))
-            instances.push_back({ row, {} });
+
+    void addSeries(const Event &master, SeriesOverrides *overrides, const Window &window)
+    {
+        const Occurrences &series = m_series.emplace_back(master, window.fromMs, window.toMs);
+        if (series.starts().isEmpty())
+            logNothing(master, window);
+        for (const qint64 startMs : series.starts()) {
+            if (overrides) {
+                const auto found = overrides->find(RruleExpander::formatRecurrenceId(startMs));
+                if (found != overrides->end()) {
+                    found->isUsed = true;
+                    m_all.push_back({ found->row });
+                    continue;
+                }
+            }
+            m_all.push_back({ &master, &series, startMs });
+        }
     }
-    return instances;
-}
+
+    static void logNothing(const Event &master, const Window &window)
+    {
+        const auto text = [](qint64 ms) { return QDateTime::fromMSecsSinceEpoch(ms).toString(Qt::ISODate); };
+        qCDebug(lcExpansion) << "master uid=" << master.uid << "title=" << master.title
+                             << "rrule=" << master.recurrenceRule
+                             << "dtstart=" << master.startTime.toString(Qt::ISODate)
+                             << QStringLiteral("→ 0 occurrences in range").toUtf8().constData() << text(window.fromMs)
+                             << "..." << text(window.toMs);
+    }
+
+    std::vector<Occurrences> m_series;
+    std::vector<Instance> m_all;
+};
 
 }
 
@@ -137,11 +154,11 @@ QList<Event> EventExpansion::expand(const QList<Event> &events, const QDateTime 
     for (const Event &event : events)
         rows.add(event);
     const Window window{ from.toMSecsSinceEpoch(), to.toMSecsSinceEpoch() };
-    Instances instances = instancesOf(std::move(rows), window, window);
+    const Instances instances(std::move(rows), window, window);
     QList<Event> result;
-    result.reserve(static_cast<qsizetype>(instances.size()));
-    for (Instance &instance : instances)
-        std::move(instance).appendTo(result);
+    result.reserve(static_cast<qsizetype>(instances.all().size()));
+    for (const Instance &instance : instances.all())
+        instance.appendTo(result);
     return result;
 }
 
@@ -152,19 +169,19 @@ QList<Event> EventExpansion::showIn(const EventDays::Span &span, const QList<con
         rows.add(*event);
     // All-day dates are at 00:00 UTC, up to 14 hours from the machine's midnight; and what replaces an
     // occurrence may have moved. An instance without length shows where the window begins.
-    Instances instances = instancesOf(std::move(rows), { span.fromMs() - 1, span.toMs() },
-                                      { span.fromMs() - Civil::MsPerDay, span.toMs() + Civil::MsPerDay });
+    const Instances instances(std::move(rows), { span.fromMs() - 1, span.toMs() },
+                              { span.fromMs() - Civil::MsPerDay, span.toMs() + Civil::MsPerDay });
 
-    std::vector<std::pair<qint64, Instance *>> order;
-    order.reserve(instances.size());
-    for (Instance &instance : instances) {
+    std::vector<std::pair<qint64, const Instance *>> order;
+    order.reserve(instances.all().size());
+    for (const Instance &instance : instances.all()) {
         if (instance.showsIn(span))
-            order.emplace_back(instance.start().toMSecsSinceEpoch(), &instance);
+            order.emplace_back(instance.sortKey(), &instance);
     }
     std::sort(order.begin(), order.end());
     QList<Event> result;
     result.reserve(static_cast<qsizetype>(order.size()));
     for (const auto &[startMs, instance] : order)
-        std::move(*instance).appendTo(result);
+        instance->appendTo(result);
     return result;
 }

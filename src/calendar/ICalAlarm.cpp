@@ -1,6 +1,7 @@
 #include "calendar/ICalAlarm.h"
 
 #include "calendar/ICalDateTime.h"
+#include "calendar/ICalTexts.h"
 
 #include <limits>
 
@@ -12,38 +13,40 @@ constexpr qint64 SecondsPerMinute = 60;
 // Whoever counts a reminder in seconds stays within an int.
 constexpr qint64 MaxMinutes = std::numeric_limits<int>::max() / SecondsPerMinute;
 
+QString actionFrom(QByteArrayView value)
+{
+    return isWord(value, "DISPLAY") ? QStringLiteral("display") : lowerCaseText(value);
+}
+
 }
 
 void Alarm::readLine(const ContentLine &line)
 {
     if (line.is("ACTION")) {
-        m_action = line.value().toByteArray().toLower();
+        m_action = actionFrom(line.value());
     } else if (line.is("TRIGGER")) {
-        m_trigger = line.value().toByteArray().trimmed();
+        const QByteArrayView trigger = line.value().trimmed();
+        m_minutesBefore = triggerMinutes(trigger);
+        m_isAfterStart = durationSeconds(trigger.startsWith('+') ? trigger.sliced(1) : trigger) > 0;
         m_isRelatedToEnd = isWord(line.parameter("RELATED"), "END");
     }
 }
 
 std::optional<Reminder> Alarm::taskReminder() const
 {
-    const int minutes = triggerMinutes(m_trigger);
-    if (minutes < 0)
+    if (m_minutesBefore < 0)
         return std::nullopt;
     Reminder reminder;
-    reminder.minutesBefore = minutes;
+    reminder.minutesBefore = m_minutesBefore;
     if (!m_action.isEmpty())
-        reminder.action = QString::fromUtf8(m_action);
+        reminder.action = m_action;
     return reminder;
 }
 
 std::optional<Reminder> Alarm::eventReminder() const
 {
-    const bool isShown = m_action.isEmpty() || m_action == "display" || m_action == "audio";
-    const bool isAfterStart = !m_trigger.startsWith('-')
-        && durationSeconds(m_trigger.startsWith('+') ? QByteArrayView(m_trigger).sliced(1) : m_trigger) > 0;
-    if (!isShown || isAfterStart || m_isRelatedToEnd)
-        return std::nullopt;
-    return taskReminder();
+    const bool isShown = m_action.isEmpty() || m_action == u"display" || m_action == u"audio";
+    return isShown && !m_isAfterStart && !m_isRelatedToEnd ? taskReminder() : std::nullopt;
 }
 
 int ICal::triggerMinutes(QByteArrayView value)

@@ -3,7 +3,7 @@
 #include "calendar/ICalLine.h"
 #include "models/Reminder.h"
 
-#include <QByteArray>
+#include <QByteArrayView>
 
 #include <optional>
 
@@ -21,8 +21,9 @@ public:
     [[nodiscard]] std::optional<Reminder> eventReminder() const;
 
 private:
-    QByteArray m_action; // lower case
-    QByteArray m_trigger;
+    QString m_action; // lower case
+    int m_minutesBefore = -1;
+    bool m_isAfterStart = false;
     bool m_isRelatedToEnd = false;
 };
 

@@ -5,7 +5,6 @@
 #include "calendar/TimeZones.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 
 using namespace ICal;
@@ -23,15 +22,6 @@ constexpr qint64 SecondsPerDay = 24 * SecondsPerHour;
 // Far beyond any calendar, and low enough that no sum of two overflows.
 constexpr qint64 LongestNumber = 1'000'000'000'000;
 constexpr qint64 LongestDuration = 1'000'000'000'000'000;
-
-/// Of at most DateTimeLength characters.
-std::optional<CompactTime> compactTime(QByteArrayView text)
-{
-    std::array<char16_t, DateTimeLength> wide{};
-    for (qsizetype i = 0; i < text.size(); ++i)
-        wide[static_cast<size_t>(i)] = static_cast<uchar>(text[i]);
-    return CompactTime::parse(QStringView(wide.data(), text.size()));
-}
 
 qint64 secondsOfUnit(char unit, bool isInTimePart)
 {
@@ -64,8 +54,8 @@ DateTimeReader::Zone &DateTimeReader::zoneOf(QByteArrayView tzid)
     if (it == m_zones.end()) {
         const QString name = QString::fromUtf8(tzid);
         const QTimeZone zone = TimeZones::find(name);
-        it = m_zones.insert(m_lastTzid, { .name = zone.isValid() ? QString::fromUtf8(zone.id()) : name,
-                                          .clock = WallClock(zone) });
+        it = m_zones.insert(m_lastTzid,
+                            { .name = zone.isValid() ? QString::fromUtf8(zone.id()) : name, .clock = WallClock(zone) });
     }
     m_lastZone = &*it;
     return *m_lastZone;
@@ -81,7 +71,8 @@ ICalParser::DateTimeValue DateTimeReader::read(QByteArrayView value, QByteArrayV
     const bool isDate = value.size() == DateLength && !value.contains('T');
     const bool isUtc = !isDate && value.endsWith('Z');
     const QByteArrayView text = isUtc ? value.chopped(1) : value;
-    const std::optional<CompactTime> time = isDate || text.size() == DateTimeLength ? compactTime(text) : std::nullopt;
+    const std::optional<CompactTime> time =
+        isDate || text.size() == DateTimeLength ? CompactTime::parse(text) : std::nullopt;
     if (!time)
         return { .value = {}, .isDate = isDate };
     if (isDate || isUtc) {

@@ -16,9 +16,7 @@ using namespace ICal;
 
 namespace {
 
-constexpr std::string_view WrapperHead{ "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:" };
-constexpr std::string_view WrapperTail{ "END:VCALENDAR\r\n" };
-constexpr std::string_view LineBreak{ "\r\n" };
+constexpr std::string_view TextTail{ "END:VEVENT\r\nEND:VCALENDAR\r\n" };
 constexpr int LastYear = 9999;
 constexpr qsizetype CompactDateLength = 8; // yyyyMMdd
 // What no calendar has: more would only fill the memory and the database.
@@ -27,12 +25,17 @@ constexpr qsizetype MaxExceptionDates = 10'000;
 constexpr qsizetype MaxAttendees = 1000;
 constexpr qsizetype MaxReminders = 100;
 
-QString addressFrom(QByteArrayView value)
+std::string_view textHead()
+{
+    static const std::string head =
+        std::string("BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:") + ICalParser::ProductId + "\r\nBEGIN:VEVENT\r\n";
+    return head;
+}
+
+QByteArrayView addressFrom(QByteArrayView value)
 {
     constexpr QByteArrayView scheme{ "mailto:" };
-    if (isWord(value.first(std::min(value.size(), scheme.size())), scheme))
-        value = value.sliced(scheme.size());
-    return QString::fromUtf8(value);
+    return isWord(value.first(std::min(value.size(), scheme.size())), scheme) ? value.sliced(scheme.size()) : value;
 }
 
 QString roleFrom(QByteArrayView role)
@@ -45,12 +48,13 @@ QString roleFrom(QByteArrayView role)
 
 QString answerFrom(QByteArrayView partStat)
 {
-    for (const QByteArrayView known : { QByteArrayView("accepted"), QByteArrayView("declined"),
-                                        QByteArrayView("tentative"), QByteArrayView("delegated") }) {
-        if (isWord(partStat, known))
-            return QString::fromLatin1(known);
-    }
-    return QStringLiteral("needs-action");
+    if (isWord(partStat, "ACCEPTED"))
+        return QStringLiteral("accepted");
+    if (isWord(partStat, "DECLINED"))
+        return QStringLiteral("declined");
+    if (isWord(partStat, "TENTATIVE"))
+        return QStringLiteral("tentative");
+    return isWord(partStat, "DELEGATED") ? QStringLiteral("delegated") : QStringLiteral("needs-action");
 }
 
 }
@@ -62,118 +66,86 @@ EventBuilder::EventBuilder()
 
 void EventBuilder::begin()
 {
-    m_event = Event();
+    RecordBuilder::begin(textHead());
     m_isTooLarge = false;
     m_hasEnd = false;
     m_durationSeconds = 0;
     m_exceptionDates.clear();
-    m_alarm.reset();
-    m_raw.assign(WrapperHead).append(ICalParser::ProductId).append(LineBreak).append("BEGIN:VEVENT\r\n");
 }
 
 void EventBuilder::addLine(QByteArrayView line)
 {
-    m_isTooLarge = m_isTooLarge || m_raw.size() + size_t(line.size()) > MaxTextBytes;
-    if (m_isTooLarge)
-        return;
-    m_raw.append(line.data(), size_t(line.size())).append(LineBreak);
-    if (line == "BEGIN:VALARM") {
-        m_alarm.emplace();
-    } else if (!m_alarm) {
-        readProperty(ContentLine(line));
-    } else if (line == "END:VALARM") {
-        const std::optional<Reminder> reminder = m_alarm->eventReminder();
-        if (reminder && m_event.reminders.size() < MaxReminders)
-            m_event.reminders.append(*reminder);
-        m_alarm.reset();
-    } else {
-        m_alarm->readLine(ContentLine(line));
-    }
+    m_isTooLarge = m_isTooLarge || textBytes() + size_t(line.size()) > MaxTextBytes;
+    if (!m_isTooLarge)
+        RecordBuilder::addLine(line, *this);
 }
 
-Event EventBuilder::finish()
+Event &EventBuilder::finish()
 {
-    m_raw.append("END:VEVENT\r\n").append(WrapperTail);
-    m_event.rawIcalendar = QString::fromStdString(m_raw);
-    if (!m_event.isAllDay)
+    if (!m_record.isAllDay)
         giveExceptionDatesATime();
-    m_event.exceptionDates = exceptionDatesJson();
-    if (!m_event.recurrenceId.isEmpty())
-        m_event.masterEventUid = m_event.uid;
+    m_record.exceptionDates = exceptionDatesJson();
+    if (!m_record.recurrenceId.isEmpty())
+        m_record.masterEventUid = m_record.uid;
     if (!m_hasEnd)
         applyDuration();
-    return std::move(m_event);
+    return RecordBuilder::finish(TextTail);
 }
 
 void EventBuilder::readProperty(const ContentLine &line)
 {
-    using Reader = void (EventBuilder::*)(const ContentLine &);
-    struct Property {
-        QByteArrayView name;
-        Reader reader;
-    };
-    static constexpr std::array properties{
-        Property{ "UID", &EventBuilder::readText<&Event::uid> },
-        Property{ "SUMMARY", &EventBuilder::readText<&Event::title> },
-        Property{ "DESCRIPTION", &EventBuilder::readText<&Event::description> },
-        Property{ "LOCATION", &EventBuilder::readText<&Event::location> },
-        Property{ "RRULE", &EventBuilder::readAsItStands<&Event::recurrenceRule> },
-        Property{ "URL", &EventBuilder::readAsItStands<&Event::eventUrl> },
-        Property{ "DTSTART", &EventBuilder::readStart },
-        Property{ "DTEND", &EventBuilder::readEnd },
-        Property{ "DURATION", &EventBuilder::readDuration },
-        Property{ "EXDATE", &EventBuilder::readExceptionDates },
-        Property{ "RECURRENCE-ID", &EventBuilder::readRecurrenceId },
-        Property{ "STATUS", &EventBuilder::readStatus },
-        Property{ "SEQUENCE", &EventBuilder::readSequence },
-        Property{ "ORGANIZER", &EventBuilder::readOrganizer },
-        Property{ "ATTENDEE", &EventBuilder::readAttendee },
-        Property{ "CREATED", &EventBuilder::readStamp<&Event::created> },
-        Property{ "LAST-MODIFIED", &EventBuilder::readStamp<&Event::lastModified> },
-        Property{ "RELATED-TO", &EventBuilder::readRelatedTo },
-    };
-    const auto found = std::ranges::find_if(properties, [&line](const Property &known) { return line.is(known.name); });
-    if (found != properties.end())
-        (this->*found->reader)(line);
+    using Self = EventBuilder;
+    using Properties = PropertyTable<Self, 18>;
+    static constexpr Properties properties({ {
+        { "UID", &Self::readText<&Event::uid> },
+        { "SUMMARY", &Self::readText<&Event::title> },
+        { "DESCRIPTION", &Self::readText<&Event::description> },
+        { "LOCATION", &Self::readLocation },
+        { "RRULE", &Self::readAsItStands<&Event::recurrenceRule> },
+        { "URL", &Self::readAsItStands<&Event::eventUrl> },
+        { "DTSTART", &Self::readStart },
+        { "DTEND", &Self::readEnd },
+        { "DURATION", &Self::readDuration },
+        { "EXDATE", &Self::readExceptionDates },
+        { "RECURRENCE-ID", &Self::readRecurrenceId },
+        { "STATUS", &Self::readLowerCase<&Event::status> },
+        { "SEQUENCE", &Self::readNumber<&Event::sequence> },
+        { "ORGANIZER", &Self::readOrganizer },
+        { "ATTENDEE", &Self::readAttendee },
+        { "CREATED", &Self::readStamp<&Event::created> },
+        { "LAST-MODIFIED", &Self::readStamp<&Event::lastModified> },
+        { "RELATED-TO", &Self::readRelatedTo },
+    } });
+    properties.read(*this, line);
 }
 
-template <QString Event::*Field> void EventBuilder::readText(const ContentLine &line)
+void EventBuilder::addAlarm(const Alarm &alarm)
 {
-    m_event.*Field = unescapedText(line.value());
-}
-
-template <QString Event::*Field> void EventBuilder::readAsItStands(const ContentLine &line)
-{
-    m_event.*Field = QString::fromUtf8(line.value());
-}
-
-template <QDateTime Event::*Field> void EventBuilder::readStamp(const ContentLine &line)
-{
-    m_event.*Field = readTime(line).toUTC();
-}
-
-QDateTime EventBuilder::readTime(const ContentLine &line)
-{
-    return m_times.read(line.value(), line.parameter("TZID")).value;
+    std::optional<Reminder> reminder = alarm.eventReminder();
+    if (!reminder || m_record.reminders.size() >= MaxReminders)
+        return;
+    if (m_record.reminders.isEmpty())
+        m_record.reminders.reserve(1); // as most have; a list that grows by itself takes room for more
+    m_record.reminders.append(*std::move(reminder));
 }
 
 void EventBuilder::readStart(const ContentLine &line)
 {
     const QByteArrayView tzid = line.parameter("TZID");
     const auto [value, isDate] = m_times.read(line.value(), tzid);
-    m_event.startTime = value;
+    m_record.startTime = value;
     if (isDate)
-        m_event.isAllDay = true;
+        m_record.isAllDay = true;
     if (!tzid.isEmpty())
-        m_event.timezone = m_times.zoneName(tzid);
+        m_record.timezone = m_times.zoneName(tzid);
 }
 
 void EventBuilder::readEnd(const ContentLine &line)
 {
     m_hasEnd = true;
-    m_event.endTime.reset();
-    if (const QDateTime end = readTime(line); end.isValid())
-        m_event.endTime = end;
+    m_record.endTime.reset();
+    if (const QDateTime end = readTime(line).value; end.isValid())
+        m_record.endTime = end;
 }
 
 void EventBuilder::readDuration(const ContentLine &line)
@@ -183,18 +155,18 @@ void EventBuilder::readDuration(const ContentLine &line)
 
 void EventBuilder::applyDuration()
 {
-    if (m_durationSeconds < 1 || !m_event.startTime.isValid())
+    if (m_durationSeconds < 1 || !m_record.startTime.isValid())
         return;
     // A year of five digits could not be stored.
-    const QDateTime end = m_event.startTime.addSecs(m_durationSeconds);
+    const QDateTime end = m_record.startTime.addSecs(m_durationSeconds);
     if (end.isValid() && end.date().year() <= LastYear)
-        m_event.endTime = end;
+        m_record.endTime = end;
 }
 
 void EventBuilder::readRecurrenceId(const ContentLine &line)
 {
-    const QDateTime instance = readTime(line);
-    m_event.recurrenceId =
+    const QDateTime instance = readTime(line).value;
+    m_record.recurrenceId =
         instance.isValid() ? RruleExpander::formatRecurrenceId(instance) : QString::fromUtf8(line.value());
 }
 
@@ -223,12 +195,12 @@ void EventBuilder::readExceptionDates(const ContentLine &line)
 void EventBuilder::giveExceptionDatesATime()
 {
     const bool hasDates = std::ranges::any_of(m_exceptionDates, &QString::isEmpty, &ExceptionDate::instant);
-    if (!hasDates || !m_event.startTime.isValid())
+    if (!hasDates || !m_record.startTime.isValid())
         return;
     // DTSTART may have a TZID and yet be in UTC. The instances step in the zone.
-    const QTimeZone zone = TimeZones::ianaZone(m_event.timezone);
-    const bool isFloating = m_event.startTime.timeSpec() == Qt::LocalTime;
-    const QDateTime start = isFloating || !zone.isValid() ? m_event.startTime : m_event.startTime.toTimeZone(zone);
+    const QTimeZone zone = TimeZones::ianaZone(m_record.timezone);
+    const bool isFloating = m_record.startTime.timeSpec() == Qt::LocalTime;
+    const QDateTime start = isFloating || !zone.isValid() ? m_record.startTime : m_record.startTime.toTimeZone(zone);
     const WallClock clock(start);
     for (ExceptionDate &exception : m_exceptionDates) {
         if (!exception.instant.isEmpty())
@@ -247,45 +219,47 @@ QString EventBuilder::exceptionDatesJson() const
         return {};
     QJsonArray dates;
     for (const ExceptionDate &exception : m_exceptionDates)
-        dates.append(m_event.isAllDay || exception.instant.isEmpty() ? exception.date : exception.instant);
+        dates.append(m_record.isAllDay || exception.instant.isEmpty() ? exception.date : exception.instant);
     return QString::fromUtf8(QJsonDocument(dates).toJson(QJsonDocument::Compact));
 }
 
-void EventBuilder::readStatus(const ContentLine &line)
+void EventBuilder::readLocation(const ContentLine &line)
 {
-    m_event.status = QString::fromUtf8(line.value()).toLower();
-}
-
-void EventBuilder::readSequence(const ContentLine &line)
-{
-    m_event.sequence = line.value().toInt();
+    m_record.location = m_repeated.text(line.value(), unescapedText);
 }
 
 void EventBuilder::readOrganizer(const ContentLine &line)
 {
-    m_event.organizerEmail = addressFrom(line.value());
+    m_record.organizerEmail = m_repeated.text(addressFrom(line.value()));
     if (const QByteArrayView name = line.parameterAsItStands("CN"); !name.isNull())
-        m_event.organizerName = QString::fromUtf8(name);
+        m_record.organizerName = m_repeated.text(name);
 }
 
 void EventBuilder::readAttendee(const ContentLine &line)
 {
-    if (m_event.attendees.size() >= MaxAttendees)
+    const QString email = m_repeated.text(addressFrom(line.value()));
+    if (email.isEmpty() || m_record.attendees.size() >= MaxAttendees)
         return;
-    Attendee attendee;
-    attendee.email = addressFrom(line.value());
-    if (attendee.email.isEmpty())
-        return;
-    attendee.name = QString::fromUtf8(line.parameter("CN"));
-    attendee.role = roleFrom(line.parameter("ROLE"));
-    attendee.status = answerFrom(line.parameter("PARTSTAT"));
-    attendee.type = QString::fromUtf8(line.parameter("CUTYPE"));
-    attendee.rsvp = isWord(line.parameter("RSVP"), "TRUE");
-    m_event.attendees.append(attendee);
+    Attendee &attendee = m_record.attendees.emplaceBack();
+    attendee.email = email;
+    QByteArrayView rest = line.parameters();
+    while (const std::optional<Parameter> parameter = takeParameter(rest)) {
+        const QByteArrayView value = withoutQuotes(parameter->value);
+        if (isWord(parameter->name, "CN"))
+            attendee.name = m_repeated.text(value);
+        else if (isWord(parameter->name, "ROLE"))
+            attendee.role = roleFrom(value);
+        else if (isWord(parameter->name, "PARTSTAT"))
+            attendee.status = answerFrom(value);
+        else if (isWord(parameter->name, "CUTYPE"))
+            attendee.type = m_repeated.text(value);
+        else if (isWord(parameter->name, "RSVP"))
+            attendee.rsvp = isWord(value, "TRUE");
+    }
 }
 
 void EventBuilder::readRelatedTo(const ContentLine &line)
 {
-    if (m_event.relatedToUid.isEmpty() && isParentRelation(line))
-        m_event.relatedToUid = unescapedText(line.value());
+    if (m_record.relatedToUid.isEmpty() && isParentRelation(line))
+        m_record.relatedToUid = unescapedText(line.value());
 }

@@ -10,34 +10,35 @@ public:
     {
     }
 
-    /// The event that ends with the current line, if one does and it is kept.
-    std::optional<Event> takeLine()
+    /// Adds the event that ends with the current line, if one does and it is kept.
+    void takeLine(QList<Event> &events)
     {
         const QByteArrayView line = lines.line();
         if (line == "BEGIN:VEVENT") {
             isInEvent = true;
             builder.begin();
-            return std::nullopt;
-        }
-        if (!isInEvent)
-            return std::nullopt;
-        if (line != "END:VEVENT") {
+        } else if (isInEvent && line == "END:VEVENT") {
+            isInEvent = false;
+            takeEvent(events);
+        } else if (isInEvent) {
             builder.addLine(line);
-            return std::nullopt;
         }
-        isInEvent = false;
+    }
+
+    void takeEvent(QList<Event> &events)
+    {
         if (builder.isTooLarge()) {
             ++skipped.tooLarge;
-            return std::nullopt;
+            return;
         }
-        Event event = builder.finish();
+        Event &event = builder.finish();
         if (event.uid.isEmpty()) {
             ++skipped.withoutUid;
-            return std::nullopt;
+            return;
         }
         if (!event.startTime.isValid())
             ++skipped.withoutStart;
-        return event;
+        events.append(std::move(event));
     }
 
     QByteArray text;
@@ -62,8 +63,7 @@ QList<Event> ICalParser::EventReader::read(int maxEvents, qsizetype maxBytes)
     const qsizetype position = d->lines.position();
     const qsizetype stopAt = position + std::min(maxBytes, d->text.size() - position);
     while (events.size() < maxEvents && d->lines.next(stopAt)) {
-        if (std::optional<Event> event = d->takeLine())
-            events.append(*std::move(event));
+        d->takeLine(events);
         if (d->lines.position() >= stopAt)
             break;
     }

@@ -22,11 +22,6 @@ qsizetype endOfPart(QByteArrayView text, qsizetype from, char wanted)
     return text.size();
 }
 
-QByteArrayView withoutQuotes(QByteArrayView text)
-{
-    return text.size() >= 2 && text.startsWith('"') && text.endsWith('"') ? text.sliced(1, text.size() - 2) : text;
-}
-
 }
 
 LineReader::LineReader(QByteArrayView text)
@@ -54,6 +49,18 @@ QByteArrayView LineReader::takePhysicalLine()
 bool LineReader::isAtContinuation() const
 {
     return m_pos < m_text.size() && (m_text[m_pos] == ' ' || m_text[m_pos] == '\t');
+}
+
+void LineReader::skipTo(char first)
+{
+    while (m_pos < m_text.size()) {
+        const char *line = m_text.data() + m_pos;
+        // A line that is folded at its very start begins with what follows the fold.
+        if (*line == first || *line == '\r' || *line == '\n')
+            return;
+        const void *lineFeed = std::memchr(line, '\n', size_t(m_text.size() - m_pos));
+        m_pos = lineFeed ? static_cast<const char *>(lineFeed) + 1 - m_text.data() : m_text.size();
+    }
 }
 
 bool LineReader::next(qsizetype stopAt)
@@ -102,6 +109,17 @@ ContentLine::ContentLine(QByteArrayView line)
     m_value = line.sliced(colon + 1);
 }
 
+std::optional<Parameter> ICal::takeParameter(QByteArrayView &rest)
+{
+    if (rest.isEmpty())
+        return std::nullopt;
+    const qsizetype end = endOfPart(rest, 0, ';');
+    const QByteArrayView part = rest.first(end);
+    rest = end < rest.size() ? rest.sliced(end + 1) : QByteArrayView();
+    const qsizetype equals = part.indexOf('=');
+    return equals > 0 ? Parameter{ part.first(equals), part.sliced(equals + 1) } : Parameter{};
+}
+
 QByteArrayView ContentLine::parameter(QByteArrayView name) const
 {
     return withoutQuotes(parameterAsItStands(name));
@@ -110,39 +128,21 @@ QByteArrayView ContentLine::parameter(QByteArrayView name) const
 QByteArrayView ContentLine::parameterAsItStands(QByteArrayView name) const
 {
     QByteArrayView found;
-    for (qsizetype from = 0; from < m_parameters.size();) {
-        const qsizetype end = endOfPart(m_parameters, from, ';');
-        const QByteArrayView part = m_parameters.sliced(from, end - from);
-        const qsizetype equals = part.indexOf('=');
-        if (equals > 0 && isWord(part.first(equals), name))
-            found = part.sliced(equals + 1);
-        from = end + 1;
+    QByteArrayView rest = m_parameters;
+    while (const std::optional<Parameter> parameter = takeParameter(rest)) {
+        if (isWord(parameter->name, name))
+            found = parameter->value;
     }
     return found;
+}
+
+QByteArrayView ICal::withoutQuotes(QByteArrayView text)
+{
+    return text.size() >= 2 && text.startsWith('"') && text.endsWith('"') ? text.sliced(1, text.size() - 2) : text;
 }
 
 bool ICal::isParentRelation(const ContentLine &line)
 {
     const QByteArrayView type = line.parameter("RELTYPE");
     return type.isNull() || isWord(type, "PARENT");
-}
-
-QString ICal::unescapedText(QByteArrayView value)
-{
-    qsizetype backslash = value.indexOf('\\');
-    if (backslash < 0)
-        return QString::fromUtf8(value);
-    thread_local std::string plain; // kept: most values need one
-    plain.clear();
-    qsizetype copied = 0;
-    for (; backslash >= 0 && backslash + 1 < value.size(); backslash = value.indexOf('\\', copied)) {
-        const char escaped = value[backslash + 1];
-        plain.append(value.data() + copied, size_t(backslash - copied));
-        const bool isBreak = escaped == 'n' || escaped == 'N';
-        const bool isEscape = isBreak || escaped == ',' || escaped == ';' || escaped == '\\';
-        plain.push_back(isBreak ? '\n' : isEscape ? escaped : '\\');
-        copied = backslash + (isEscape ? 2 : 1);
-    }
-    plain.append(value.data() + copied, size_t(value.size() - copied));
-    return QString::fromStdString(plain);
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QByteArrayView>
-#include <QString>
 
+#include <optional>
 #include <string>
 
 /// The content lines of iCalendar text, as bytes: nothing is decoded before it is known to be kept.
@@ -17,6 +17,8 @@ public:
     /// Goes to the next line. False at the end of the text, or when \p stopAt was passed within a line:
     /// the next call then goes on with that line.
     bool next(qsizetype stopAt);
+    /// Passes over lines that do not begin with \p first. Not after a next() that stopped within a line.
+    void skipTo(char first);
     /// Without its folds and its line break; valid until the next call of next().
     [[nodiscard]] QByteArrayView line() const
     {
@@ -38,11 +40,33 @@ private:
     bool m_isUnfinished = false;
 };
 
-/// Equal but for the case of ASCII letters.
-inline bool isWord(QByteArrayView text, QByteArrayView word)
+constexpr char inUpperCase(char c)
 {
-    return text.size() == word.size() && text.compare(word, Qt::CaseInsensitive) == 0;
+    return c >= 'a' && c <= 'z' ? char(c - ('a' - 'A')) : c;
 }
+
+/// Equal but for the case of ASCII letters.
+constexpr bool isWord(QByteArrayView text, QByteArrayView word)
+{
+    if (text.size() != word.size())
+        return false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] != word[i] && inUpperCase(text[i]) != inUpperCase(word[i]))
+            return false;
+    }
+    return true;
+}
+
+/// The text between quotes; \p text itself if there are none around it.
+QByteArrayView withoutQuotes(QByteArrayView text);
+
+struct Parameter {
+    QByteArrayView name; ///< empty if the part of the line is no parameter
+    QByteArrayView value; ///< with its quotes
+};
+
+/// The first of the parameters \p rest, which is taken off with the semicolon behind it.
+std::optional<Parameter> takeParameter(QByteArrayView &rest);
 
 /// One unfolded line: name *(";" parameter) ":" value. A line without a colon is all name.
 class ContentLine {
@@ -52,6 +76,7 @@ public:
     [[nodiscard]] QByteArrayView name() const { return m_name; }
     [[nodiscard]] bool is(QByteArrayView name) const { return isWord(m_name, name); }
     [[nodiscard]] QByteArrayView value() const { return m_value; } ///< not unescaped
+    [[nodiscard]] QByteArrayView parameters() const { return m_parameters; }
     /// Without quotes around it; null if there is none. Of several with one name the last counts.
     [[nodiscard]] QByteArrayView parameter(QByteArrayView name) const;
     /// The same with its quotes.
@@ -65,8 +90,5 @@ private:
 
 /// True for a RELATED-TO that names the parent: RELTYPE is PARENT or absent. RFC 5545 §3.2.15.
 bool isParentRelation(const ContentLine &line);
-
-/// RFC 5545 §3.3.11.
-QString unescapedText(QByteArrayView value);
 
 } // namespace ICal

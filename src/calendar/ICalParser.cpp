@@ -2,7 +2,7 @@
 
 #include "calendar/ICalAlarm.h"
 #include "calendar/ICalDateTime.h"
-#include "calendar/ICalLine.h"
+#include "calendar/ICalTexts.h"
 #include "calendar/RruleExpander.h"
 
 #include <limits>

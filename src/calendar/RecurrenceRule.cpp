@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -23,12 +24,12 @@ bool isWord(QStringView text, QLatin1StringView word)
     return true;
 }
 
-/// The text up to the next \p separator, which is taken off \p rest with it.
+/// The text up to the next \p separator, which is taken off \p rest with it. Null is left if there is none.
 QStringView takePart(QStringView &rest, QChar separator)
 {
-    const qsizetype end = rest.indexOf(separator);
-    const QStringView part = end < 0 ? rest : rest.first(end);
-    rest = end < 0 ? QStringView() : rest.sliced(end + 1);
+    const qsizetype end = std::ranges::find(rest, separator) - rest.begin();
+    const QStringView part = rest.first(end);
+    rest = end == rest.size() ? QStringView() : rest.sliced(end + 1);
     return part;
 }
 
@@ -72,16 +73,38 @@ std::optional<qint64> untilFrom(QStringView text)
     return time->day * Civil::MsPerDay + time->msOfDay;
 }
 
-/// -1 unless all of \p text is digits.
-int digits(QStringView text)
+/// -1 unless \p count digits are at \p text.
+template <typename Char> int digits(const Char *text, int count)
 {
     int number = 0;
-    for (const QChar c : text) {
-        if (c < u'0' || c > u'9')
+    for (const Char *c = text; c < text + count; ++c) {
+        if (*c < Char('0') || *c > Char('9'))
             return -1;
-        number = number * 10 + (c.unicode() - u'0');
+        number = number * 10 + (*c - Char('0'));
     }
     return number;
+}
+
+template <typename Char> std::optional<CompactTime> compactTimeFrom(const Char *text, qsizetype length)
+{
+    const bool isDate = length == 8;
+    if (!isDate && (length != 15 || text[8] != Char('T')))
+        return std::nullopt;
+    const Civil::Date date{ .year = digits(text, 4), .month = digits(text + 4, 2), .day = digits(text + 6, 2) };
+    if (date.year < 1 || date.month < 1 || date.month > 12 || date.day < 1
+        || date.day > Civil::daysInMonth(date.year, date.month)) {
+        return std::nullopt;
+    }
+    CompactTime time{ .day = Civil::toDays(date), .msOfDay = 0 };
+    if (isDate)
+        return time;
+    const int hour = digits(text + 9, 2);
+    const int minute = digits(text + 11, 2);
+    const int second = digits(text + 13, 2);
+    if (hour < 0 || hour > 23 || minute < 0 || minute > 59 || second < 0 || second > 59)
+        return std::nullopt;
+    time.msOfDay = ((hour * 60 + minute) * 60 + second) * 1000;
+    return time;
 }
 
 }
@@ -91,9 +114,9 @@ RecurrenceRule RecurrenceRule::parse(QStringView text)
     RecurrenceRule rule;
     while (!text.isEmpty()) {
         QStringView value = takePart(text, u';');
-        if (!value.contains(u'='))
-            continue;
         const QStringView key = takePart(value, u'=');
+        if (value.isNull())
+            continue;
         if (isWord(key, QLatin1StringView("FREQ"))) {
             rule.frequency = frequencyFrom(value);
         } else if (isWord(key, QLatin1StringView("INTERVAL"))) {
@@ -112,24 +135,10 @@ RecurrenceRule RecurrenceRule::parse(QStringView text)
 
 std::optional<CompactTime> CompactTime::parse(QStringView text)
 {
-    const bool isDate = text.size() == 8;
-    if (!isDate && (text.size() != 15 || text.at(8) != u'T'))
-        return std::nullopt;
-    const Civil::Date date{ .year = digits(text.first(4)),
-                            .month = digits(text.sliced(4, 2)),
-                            .day = digits(text.sliced(6, 2)) };
-    if (date.year < 1 || date.month < 1 || date.month > 12 || date.day < 1
-        || date.day > Civil::daysInMonth(date.year, date.month)) {
-        return std::nullopt;
-    }
-    CompactTime time{ .day = Civil::toDays(date), .msOfDay = 0 };
-    if (isDate)
-        return time;
-    const int hour = digits(text.sliced(9, 2));
-    const int minute = digits(text.sliced(11, 2));
-    const int second = digits(text.sliced(13, 2));
-    if (hour < 0 || hour > 23 || minute < 0 || minute > 59 || second < 0 || second > 59)
-        return std::nullopt;
-    time.msOfDay = ((hour * 60 + minute) * 60 + second) * 1000;
-    return time;
+    return compactTimeFrom(text.utf16(), text.size());
+}
+
+std::optional<CompactTime> CompactTime::parse(QByteArrayView text)
+{
+    return compactTimeFrom(text.data(), text.size());
 }

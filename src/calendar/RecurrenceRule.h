@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QStringView>
 #include <QtGlobal>
 
@@ -30,4 +31,5 @@ struct CompactTime {
 
     /// Reads "yyyyMMddTHHmmss" or, with midnight, "yyyyMMdd"; nothing around it.
     static std::optional<CompactTime> parse(QStringView text);
+    static std::optional<CompactTime> parse(QByteArrayView text);
 };

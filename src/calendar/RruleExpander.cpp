@@ -178,26 +178,6 @@ void writeDigits(QChar *to, int count, int number)
     }
 }
 
-QString recurrenceIdAt(qint64 utcMs)
-{
-    const qint64 day = Civil::floorDiv(utcMs, MsPerDay);
-    const Civil::Date date = Civil::fromDays(day);
-    if (date.year < 1 || date.year > 9999)
-        return QDateTime::fromMSecsSinceEpoch(utcMs, Qt::UTC).toString(u"yyyyMMdd'T'HHmmss'Z'");
-    const int second = static_cast<int>((utcMs - day * MsPerDay) / 1000);
-    QString id(16, Qt::Uninitialized);
-    QChar *text = id.data();
-    writeDigits(text, 4, static_cast<int>(date.year));
-    writeDigits(text + 4, 2, date.month);
-    writeDigits(text + 6, 2, date.day);
-    text[8] = u'T';
-    writeDigits(text + 9, 2, second / 3600);
-    writeDigits(text + 11, 2, second / 60 % 60);
-    writeDigits(text + 13, 2, second % 60);
-    text[15] = u'Z';
-    return id;
-}
-
 /// The starts of a series' instances that overlap [fromMs, toMs), exceptions included.
 Instants startsInWindow(const Event &master, const WallClock &clock, qint64 durationMs, qint64 fromMs, qint64 toMs)
 {
@@ -223,7 +203,10 @@ Instants startsInWindow(const Event &master, const WallClock &clock, qint64 dura
 
 }
 
-QList<RruleExpander::Occurrence> RruleExpander::occurrences(const Event &master, qint64 fromMs, qint64 toMs)
+RruleExpander::Occurrences::Occurrences(const Event &master, qint64 fromMs, qint64 toMs)
+    : m_master(master)
+    , m_clock(master.startTime)
+    , m_durationMs(DefaultDurationMs)
 {
     const qint64 masterStartMs = master.startTime.toMSecsSinceEpoch();
     const bool hasEnd = master.endTime && master.endTime->isValid();
@@ -231,23 +214,27 @@ QList<RruleExpander::Occurrence> RruleExpander::occurrences(const Event &master,
     fromMs = std::clamp(fromMs, -FarthestMs, FarthestMs);
     toMs = std::clamp(toMs, -FarthestMs, FarthestMs);
     if (!master.startTime.isValid() || !isNear(masterStartMs) || !isNear(masterEndMs) || masterStartMs >= toMs)
-        return {};
+        return;
 
-    const qint64 durationMs = hasEnd ? masterEndMs - masterStartMs : DefaultDurationMs;
-    const WallClock clock(master.startTime);
-    const Instants starts = startsInWindow(master, clock, durationMs, fromMs, toMs);
+    if (hasEnd)
+        m_durationMs = masterEndMs - masterStartMs;
+    const Instants starts = startsInWindow(master, m_clock, m_durationMs, fromMs, toMs);
     if (starts.isEmpty())
-        return {};
+        return;
 
     const Instants exceptions = excludedStarts(master);
-    QList<Occurrence> result;
-    result.reserve(starts.size());
-    for (const qint64 startMs : starts) {
-        if (!std::binary_search(exceptions.begin(), exceptions.end(), startMs))
-            result.emplaceBack(
-                Occurrence{ clock.at(startMs), clock.at(startMs + durationMs), recurrenceIdAt(startMs) });
-    }
-    return result;
+    m_starts.reserve(starts.size());
+    std::ranges::copy_if(starts, std::back_inserter(m_starts), [&exceptions](qint64 startMs) {
+        return !std::binary_search(exceptions.begin(), exceptions.end(), startMs);
+    });
+}
+
+void RruleExpander::Occurrences::appendAt(qint64 startMs, QList<Event> &events) const
+{
+    Event &copy = events.emplaceBack(m_master);
+    copy.startTime = m_clock.sharedAt(startMs);
+    copy.endTime = m_clock.sharedAt(startMs + m_durationMs);
+    copy.recurrenceId = formatRecurrenceId(startMs);
 }
 
 QList<qint64> RruleExpander::startsBefore(const Event &master, qint64 beforeMs)
@@ -259,14 +246,6 @@ QList<qint64> RruleExpander::startsBefore(const Event &master, qint64 beforeMs)
     return QList<qint64>(starts.begin(), starts.end());
 }
 
-void RruleExpander::appendInstance(QList<Event> &events, const Event &master, Occurrence &&occurrence)
-{
-    Event &copy = events.emplaceBack(master);
-    copy.startTime = std::move(occurrence.start);
-    copy.endTime = std::move(occurrence.end);
-    copy.recurrenceId = std::move(occurrence.recurrenceId);
-}
-
 QList<Event> RruleExpander::expand(const Event &event, const QDateTime &from, const QDateTime &to)
 {
     if (!event.isRecurring()) {
@@ -275,15 +254,35 @@ QList<Event> RruleExpander::expand(const Event &event, const QDateTime &from, co
             return {};
         return { event };
     }
-    QList<Occurrence> found = occurrences(event, from.toMSecsSinceEpoch(), to.toMSecsSinceEpoch());
+    const Occurrences found(event, from.toMSecsSinceEpoch(), to.toMSecsSinceEpoch());
     QList<Event> result;
-    result.reserve(found.size());
-    for (Occurrence &occurrence : found)
-        appendInstance(result, event, std::move(occurrence));
+    result.reserve(found.starts().size());
+    for (const qint64 startMs : found.starts())
+        found.appendAt(startMs, result);
     return result;
 }
 
 QString RruleExpander::formatRecurrenceId(const QDateTime &start)
 {
-    return start.isValid() ? recurrenceIdAt(start.toMSecsSinceEpoch()) : QString();
+    return start.isValid() ? formatRecurrenceId(start.toMSecsSinceEpoch()) : QString();
+}
+
+QString RruleExpander::formatRecurrenceId(qint64 startMs)
+{
+    const qint64 day = Civil::floorDiv(startMs, MsPerDay);
+    const Civil::Date date = Civil::fromDays(day);
+    if (date.year < 1 || date.year > 9999)
+        return QDateTime::fromMSecsSinceEpoch(startMs, Qt::UTC).toString(u"yyyyMMdd'T'HHmmss'Z'");
+    const int second = static_cast<int>((startMs - day * MsPerDay) / 1000);
+    QString id(16, Qt::Uninitialized);
+    QChar *text = id.data();
+    writeDigits(text, 4, static_cast<int>(date.year));
+    writeDigits(text + 4, 2, date.month);
+    writeDigits(text + 6, 2, date.day);
+    text[8] = u'T';
+    writeDigits(text + 9, 2, second / 3600);
+    writeDigits(text + 11, 2, second / 60 % 60);
+    writeDigits(text + 13, 2, second % 60);
+    text[15] = u'Z';
+    return id;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "calendar/WallClock.h"
 #include "models/Event.h"
 
 #include <QDateTime>
@@ -20,25 +21,33 @@ inline constexpr int MaxInstances = 10'000;
 /// the age of the series.
 QList<Event> expand(const Event &event, const QDateTime &from, const QDateTime &to);
 
-/// What tells an occurrence from its master.
-struct Occurrence {
-    QDateTime start;
-    QDateTime end; ///< an hour after the start if the master has no end
-    QString recurrenceId;
-};
+/// The occurrences of a series (an event with a recurrence rule) in a window, as numbers: whoever fills a list of
+/// events knows its length before it makes the first of them.
+class Occurrences {
+public:
+    /// The window is in milliseconds since the epoch. \p master must outlive this.
+    Occurrences(const Event &master, qint64 fromMs, qint64 toMs);
 
-/// The same for a series (an event with a recurrence rule), without the copies of the event.
-/// The window is in milliseconds since the epoch.
-QList<Occurrence> occurrences(const Event &master, qint64 fromMs, qint64 toMs);
+    /// In order, in milliseconds since the epoch.
+    [[nodiscard]] const QList<qint64> &starts() const { return m_starts; }
+    [[nodiscard]] qint64 durationMs() const { return m_durationMs; } ///< an hour if the master has no end
+    /// Adds the master as it is at one of the starts to \p events, with a single copy. It ends an hour later if the
+    /// master has no end.
+    void appendAt(qint64 startMs, QList<Event> &events) const;
+
+private:
+    const Event &m_master;
+    WallClock m_clock;
+    qint64 m_durationMs;
+    QList<qint64> m_starts;
+};
 
 /// The instants before \p beforeMs at which the rule of \p master has instances begin, in order and in
 /// milliseconds since the epoch; excluded ones among them.
 QList<qint64> startsBefore(const Event &master, qint64 beforeMs);
 
-/// Adds \p master as it is at \p occurrence to \p events, with a single copy.
-void appendInstance(QList<Event> &events, const Event &master, Occurrence &&occurrence);
-
 /// \p start in UTC as "yyyyMMddTHHmmssZ".
 QString formatRecurrenceId(const QDateTime &start);
+QString formatRecurrenceId(qint64 startMs);
 
 } // namespace RruleExpander

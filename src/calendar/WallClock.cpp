@@ -5,6 +5,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 namespace {
@@ -15,7 +16,10 @@ constexpr qint64 EpochJulianDay = 2'440'588;
 // events of a file lie years apart.
 constexpr qint64 TableReachMs = 2000 * Civil::MsPerDay;
 // Zone names come from files: a file full of odd ones must not fill the memory.
-constexpr qsizetype MaxTables = 64;
+constexpr qsizetype MaxTables = 16;
+// What one table remembers of the times it has shown: those of a year, one for each quarter of an hour.
+constexpr qint64 QuarterMs = 15 * 60 * MsPerSecond;
+constexpr qint64 RememberedDays = 512;
 // No zone is further from UTC than this.
 constexpr qint64 MaxOffsetMs = Civil::MsPerDay;
 
@@ -26,12 +30,26 @@ qint64 zoneOffsetMs(const QTimeZone &zone, qint64 utcMs)
 
 }
 
-/// The offsets of a zone around the last instant asked for.
+/// The offsets of a zone around the last instant asked for, and the times that were shown.
 class WallClock::Offsets {
 public:
     explicit Offsets(QTimeZone zone)
         : m_zone(std::move(zone))
     {
+    }
+
+    const QDateTime &shown(qint64 utcMs, const QDateTime &pattern)
+    {
+        const qint64 day = Civil::floorDiv(utcMs, Civil::MsPerDay);
+        std::unique_ptr<ShownDay> &times = m_shown[size_t(Civil::floorMod(day, RememberedDays))];
+        if (!times)
+            times = std::make_unique<ShownDay>();
+        QDateTime &time = (*times)[size_t((utcMs - day * Civil::MsPerDay) / QuarterMs)];
+        if (!time.isValid() || time.toMSecsSinceEpoch() != utcMs) {
+            time = pattern;
+            time.setMSecsSinceEpoch(utcMs);
+        }
+        return time;
     }
 
     qint64 at(qint64 utcMs)
@@ -58,6 +76,7 @@ private:
         qint64 utcMs;
         qint64 offsetMs; // from then on
     };
+    using ShownDay = std::array<QDateTime, Civil::MsPerDay / QuarterMs>;
 
     void fill(qint64 utcMs)
     {
@@ -76,25 +95,22 @@ private:
     qint64 m_to = 0;
     qint64 m_firstOffsetMs = 0;
     std::vector<Change> m_changes;
+    std::array<std::unique_ptr<ShownDay>, RememberedDays> m_shown;
 };
 
 WallClock::WallClock(const QDateTime &value)
-    : m_spec(value.timeSpec())
+    : m_pattern(value)
+    , m_spec(value.timeSpec())
 {
-    if (m_spec == Qt::OffsetFromUTC) {
+    if (m_spec == Qt::OffsetFromUTC)
         m_fixedOffsetMs = value.offsetFromUtc() * MsPerSecond;
-    } else if (m_spec == Qt::TimeZone) {
-        m_zone = value.timeZone();
-        m_offsets = Offsets::of(m_zone);
-    }
+    else if (m_spec == Qt::TimeZone)
+        m_offsets = Offsets::of(value.timeZone());
 }
 
 WallClock::WallClock(const QTimeZone &zone)
-    : m_spec(zone.isValid() ? Qt::TimeZone : Qt::LocalTime)
-    , m_zone(zone)
+    : WallClock(zone.isValid() ? QDateTime::fromMSecsSinceEpoch(0, zone) : QDateTime::fromMSecsSinceEpoch(0))
 {
-    if (m_spec == Qt::TimeZone)
-        m_offsets = Offsets::of(m_zone);
 }
 
 WallClock::~WallClock() = default;
@@ -114,18 +130,14 @@ qint64 WallClock::toUtcMs(qint64 day, int msOfDay) const
 
 QDateTime WallClock::at(qint64 utcMs) const
 {
-    switch (m_spec) {
-    case Qt::UTC:
-        return QDateTime::fromMSecsSinceEpoch(utcMs, Qt::UTC);
-    case Qt::OffsetFromUTC:
-        return QDateTime::fromMSecsSinceEpoch(utcMs, Qt::OffsetFromUTC,
-                                              static_cast<int>(m_fixedOffsetMs / MsPerSecond));
-    case Qt::TimeZone:
-        return QDateTime::fromMSecsSinceEpoch(utcMs, m_zone);
-    case Qt::LocalTime:
-        break;
-    }
-    return QDateTime::fromMSecsSinceEpoch(utcMs);
+    QDateTime shown = m_pattern; // to copy a time is cheaper than to name its zone again
+    shown.setMSecsSinceEpoch(utcMs);
+    return shown;
+}
+
+QDateTime WallClock::sharedAt(qint64 utcMs) const
+{
+    return m_offsets ? m_offsets->shown(utcMs, m_pattern) : at(utcMs);
 }
 
 QDateTime WallClock::at(QDate date, QTime time) const

@@ -23,14 +23,17 @@ public:
     /// The instant as this clock shows it; keeps the kind of time (UTC, offset, zone, local).
     [[nodiscard]] QDateTime at(qint64 utcMs) const;
     [[nodiscard]] QDateTime at(QDate date, QTime time) const;
+    /// The same as at(), for many events within a year or so: they begin together, on the hour or the
+    /// quarter, and most get a date-time that exists.
+    [[nodiscard]] QDateTime sharedAt(qint64 utcMs) const;
 
 private:
     class Offsets;
 
     [[nodiscard]] qint64 offsetMs(qint64 utcMs) const;
 
+    QDateTime m_pattern; // any time of this clock
     Qt::TimeSpec m_spec;
     qint64 m_fixedOffsetMs = 0;
-    QTimeZone m_zone;
-    std::shared_ptr<Offsets> m_offsets;
+    std::shared_ptr<Offsets> m_offsets; // of a zone only
 };

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+
+#include <array>
+#include <string>
+
+namespace ICal {
+
+/// RFC 5545 §3.3.11.
+QString unescapedText(QByteArrayView value);
+/// In lower case.
+QString lowerCaseText(QByteArrayView value);
+
+/// Decodes texts that files repeat, such as addresses, places and rules: equal ones that follow closely share
+/// their characters.
+class RepeatedTexts {
+public:
+    using Decoder = QString (*)(QByteArrayView utf8);
+
+    QString text(QByteArrayView utf8, Decoder decode = QString::fromUtf8);
+
+private:
+    struct Entry {
+        Decoder decode = nullptr;
+        std::string utf8;
+        QString text;
+    };
+
+    std::array<Entry, 256> m_entries; // each text has one place only
+};
+
+} // namespace ICal
