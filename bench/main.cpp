@@ -1,4 +1,5 @@
 // quillon-bench                              everything, as tables
+// quillon-bench program                      the tables without the peers
 // quillon-bench parse FILE                   one JSON line
 // quillon-bench expand FILE FROM TO REPEATS  a JSON line for each repeat; dates as yyyyMMdd, UTC
 // quillon-bench generate FILE EVENTS YEARS   writes the sample file
@@ -28,20 +29,22 @@ bool dispatch(const QStringList &arguments)
     const QString command = arguments.value(1);
     if (command.isEmpty())
         return Comparison::run() && ProgramBench::run();
+    if (command == u"program")
+        return ProgramBench::run();
     if (command == u"parse" && arguments.size() == 3)
         return CalendarBench::parse(arguments[2]);
     if (command == u"expand" && arguments.size() == 6)
         return CalendarBench::expand(arguments[2], arguments[3], arguments[4], arguments[5].toInt());
     if (command == u"generate" && arguments.size() == 5)
         return generate(arguments[2], arguments[3].toInt(), arguments[4].toInt());
-    std::fputs("usage: quillon-bench [parse FILE | expand FILE FROM TO REPEATS | generate FILE EVENTS YEARS]\n", stderr);
+    std::fputs("usage: quillon-bench [program | parse FILE | expand FILE FROM TO REPEATS | generate FILE EVENTS YEARS]\n", stderr);
     return false;
 }
 
 /// A widget program needs a display; parsing and expansion do not, and should not pay for one.
 std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
 {
-    if (argc > 1)
+    if (argc > 2)
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     return std::make_unique<QApplication>(argc, argv);

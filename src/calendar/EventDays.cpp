@@ -46,7 +46,10 @@ bool EventDays::Span::holds(const Event &event) const
     if (event.isAllDay)
         return firstDay(event) < m_end && lastDay(event) >= m_first;
     const qint64 startMs = event.startTime.toMSecsSinceEpoch();
-    if (startMs >= m_toMs)
-        return false;
-    return startMs >= m_fromMs || (event.endTime && event.endTime->toMSecsSinceEpoch() > m_fromMs);
+    return holdsTimed(startMs, event.endTime ? event.endTime->toMSecsSinceEpoch() : startMs);
+}
+
+bool EventDays::Span::holdsTimed(qint64 startMs, qint64 endMs) const
+{
+    return m_fromMs < m_toMs && startMs < m_toMs && (startMs >= m_fromMs || endMs > m_fromMs);
 }

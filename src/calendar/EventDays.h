@@ -24,6 +24,12 @@ public:
     Span(QDate first, int days);
 
     [[nodiscard]] bool holds(const Event &event) const;
+    /// The same for a timed event from its instants; one without an end has \p endMs equal to \p startMs.
+    [[nodiscard]] bool holdsTimed(qint64 startMs, qint64 endMs) const;
+
+    // The instants where the days begin and end.
+    [[nodiscard]] qint64 fromMs() const { return m_fromMs; }
+    [[nodiscard]] qint64 toMs() const { return m_toMs; }
 
 private:
     QDate m_first;

@@ -1,9 +1,11 @@
 #include "calendar/EventExpansion.h"
 
+#include "calendar/CivilDate.h"
 #include "calendar/RruleExpander.h"
 
 #include <QHash>
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -27,15 +29,13 @@ struct Rows {
     QList<const Event *> overrides;
     QHash<SeriesKey, SeriesOverrides> overridesBySeries;
 
-    explicit Rows(const QList<Event> &events)
+    void add(const Event &event)
     {
-        for (const Event &event : events) {
-            if (event.isOverride()) {
-                overrides.append(&event);
-                overridesBySeries[{ event.calendarId, event.masterEventUid }].insert(event.recurrenceId, { &event });
-            } else {
-                (event.isRecurring() ? masters : singles).append(&event);
-            }
+        if (event.isOverride()) {
+            overrides.append(&event);
+            overridesBySeries[{ event.calendarId, event.masterEventUid }].insert(event.recurrenceId, { &event });
+        } else {
+            (event.isRecurring() ? masters : singles).append(&event);
         }
     }
 
@@ -55,57 +55,133 @@ struct Rows {
     }
 };
 
-void appendInstances(QList<Event> &result, const Occurrences &occurrences, SeriesOverrides *overrides)
-{
-    for (const qint64 startMs : occurrences.starts()) {
-        if (overrides) {
-            const auto found = overrides->find(RruleExpander::formatRecurrenceId(startMs));
-            if (found != overrides->end()) {
-                found->isUsed = true;
-                result.append(*found->row);
-                continue;
-            }
-        }
-        occurrences.appendAt(startMs, result);
-    }
-}
+struct Window {
+    qint64 fromMs;
+    qint64 toMs;
+};
 
-void logNothing(const Event &master, const QDateTime &from, const QDateTime &to)
-{
-    qCDebug(lcExpansion) << "master uid=" << master.uid << "title=" << master.title << "rrule=" << master.recurrenceRule
-                         << "dtstart=" << master.startTime.toString(Qt::ISODate)
-                         << QStringLiteral("→ 0 occurrences in range").toUtf8().constData()
-                         << from.toString(Qt::ISODate) << "..." << to.toString(Qt::ISODate);
-}
+/// A row, or one occurrence of it, without a copy: records are large.
+struct Instance {
+    const Event *row;
+    const Occurrences *series = nullptr;
+    qint64 startMs = 0; // of the occurrence
+
+    [[nodiscard]] qint64 sortKey() const { return series ? startMs : row->startTime.toMSecsSinceEpoch(); }
+    [[nodiscard]] bool showsIn(const EventDays::Span &span) const
+    {
+        if (!series)
+            return span.holds(*row);
+        if (!row->isAllDay)
+            return span.holdsTimed(startMs, startMs + series->durationMs());
+        QList<Event> copy;
+        appendTo(copy);
+        return span.holds(copy.constFirst());
+    }
+    void appendTo(QList<Event> &events) const
+    {
+        if (series)
+            series->appendAt(startMs, events);
+        else
+            events.append(*row);
+    }
+};
+
+class Instances {
+public:
+    /// \p tight is for series whose occurrences show just where they overlap the window, \p wide for the rest.
+    Instances(Rows &&rows, const Window &tight, const Window &wide)
+    {
+        m_series.reserve(size_t(rows.masters.size())); // so that pointers into it stay valid
+        m_all.reserve(size_t(rows.singles.size() + 2 * rows.masters.size() + rows.overrides.size()));
+        for (const Event *single : std::as_const(rows.singles))
+            m_all.push_back({ single });
+        for (const Event *master : std::as_const(rows.masters)) {
+            SeriesOverrides *overrides = rows.overridesOf(*master);
+            addSeries(*master, overrides, !overrides && isPlain(*master) ? tight : wide);
+        }
+        for (const Event *row : std::as_const(rows.overrides)) {
+            if (rows.isLeftOver(row))
+                m_all.push_back({ row });
+        }
+    }
+    Q_DISABLE_COPY_MOVE(Instances)
+
+    [[nodiscard]] const std::vector<Instance> &all() const { return m_all; }
+
+private:
+    static bool isPlain(const Event &master)
+    {
+        return !master.isAllDay && (!master.endTime || *master.endTime >= master.startTime);
+    }
+
+    void addSeries(const Event &master, SeriesOverrides *overrides, const Window &window)
+    {
+        const Occurrences &series = m_series.emplace_back(master, window.fromMs, window.toMs);
+        if (series.starts().isEmpty())
+            logNothing(master, window);
+        for (const qint64 startMs : series.starts()) {
+            if (overrides) {
+                const auto found = overrides->find(RruleExpander::formatRecurrenceId(startMs));
+                if (found != overrides->end()) {
+                    found->isUsed = true;
+                    m_all.push_back({ found->row });
+                    continue;
+                }
+            }
+            m_all.push_back({ &master, &series, startMs });
+        }
+    }
+
+    static void logNothing(const Event &master, const Window &window)
+    {
+        const auto text = [](qint64 ms) { return QDateTime::fromMSecsSinceEpoch(ms).toString(Qt::ISODate); };
+        qCDebug(lcExpansion) << "master uid=" << master.uid << "title=" << master.title
+                             << "rrule=" << master.recurrenceRule
+                             << "dtstart=" << master.startTime.toString(Qt::ISODate)
+                             << QStringLiteral("→ 0 occurrences in range").toUtf8().constData() << text(window.fromMs)
+                             << "..." << text(window.toMs);
+    }
+
+    std::vector<Occurrences> m_series;
+    std::vector<Instance> m_all;
+};
 
 }
 
 QList<Event> EventExpansion::expand(const QList<Event> &events, const QDateTime &from, const QDateTime &to)
 {
-    Rows rows(events);
-    const qint64 fromMs = from.toMSecsSinceEpoch();
-    const qint64 toMs = to.toMSecsSinceEpoch();
-
-    // Records are large: counting first spares moving them when the list grows.
-    std::vector<Occurrences> occurrences;
-    occurrences.reserve(size_t(rows.masters.size()));
-    qsizetype total = rows.singles.size() + rows.overrides.size();
-    for (const Event *master : std::as_const(rows.masters)) {
-        const Occurrences &found = occurrences.emplace_back(*master, fromMs, toMs);
-        total += found.starts().size();
-        if (found.starts().isEmpty())
-            logNothing(*master, from, to);
-    }
-
+    Rows rows;
+    for (const Event &event : events)
+        rows.add(event);
+    const Window window{ from.toMSecsSinceEpoch(), to.toMSecsSinceEpoch() };
+    const Instances instances(std::move(rows), window, window);
     QList<Event> result;
-    result.reserve(total);
-    for (const Event *single : std::as_const(rows.singles))
-        result.append(*single);
-    for (qsizetype i = 0; i < rows.masters.size(); ++i)
-        appendInstances(result, occurrences[size_t(i)], rows.overridesOf(*rows.masters.at(i)));
-    for (const Event *row : std::as_const(rows.overrides)) {
-        if (rows.isLeftOver(row))
-            result.append(*row);
+    result.reserve(static_cast<qsizetype>(instances.all().size()));
+    for (const Instance &instance : instances.all())
+        instance.appendTo(result);
+    return result;
+}
+
+QList<Event> EventExpansion::showIn(const EventDays::Span &span, const QList<const Event *> &events)
+{
+    Rows rows;
+    for (const Event *event : events)
+        rows.add(*event);
+    // All-day dates are at 00:00 UTC, up to 14 hours from the machine's midnight; and what replaces an
+    // occurrence may have moved. An instance without length shows where the window begins.
+    const Instances instances(std::move(rows), { span.fromMs() - 1, span.toMs() },
+                              { span.fromMs() - Civil::MsPerDay, span.toMs() + Civil::MsPerDay });
+
+    std::vector<std::pair<qint64, const Instance *>> order;
+    order.reserve(instances.all().size());
+    for (const Instance &instance : instances.all()) {
+        if (instance.showsIn(span))
+            order.emplace_back(instance.sortKey(), &instance);
     }
+    std::sort(order.begin(), order.end());
+    QList<Event> result;
+    result.reserve(static_cast<qsizetype>(order.size()));
+    for (const auto &[startMs, instance] : order)
+        instance->appendTo(result);
     return result;
 }

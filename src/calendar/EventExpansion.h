@@ -1,5 +1,6 @@
 #pragma once
 
+#include "calendar/EventDays.h"
 #include "models/Event.h"
 
 #include <QDateTime>
@@ -15,5 +16,9 @@ namespace EventExpansion {
 /// replaced nothing, unless cancelled. Callers sort. An override only replaces an occurrence of the
 /// same calendar.
 QList<Event> expand(const QList<Event> &events, const QDateTime &from, const QDateTime &to);
+
+/// What of the same instances shows in the days of \p span, by start. Spares a copy of each row, and of each
+/// instance at the edges.
+QList<Event> showIn(const EventDays::Span &span, const QList<const Event *> &events);
 
 } // namespace EventExpansion

@@ -30,6 +30,7 @@ public:
 
     /// In order, in milliseconds since the epoch.
     [[nodiscard]] const QList<qint64> &starts() const { return m_starts; }
+    [[nodiscard]] qint64 durationMs() const { return m_durationMs; } ///< an hour if the master has no end
     /// Adds the master as it is at one of the starts to \p events, with a single copy. It ends an hour later if the
     /// master has no end.
     void appendAt(qint64 startMs, QList<Event> &events) const;

@@ -14,13 +14,15 @@ void run(Database *database, const QString &pragma)
 
 }
 
-BulkWrites::BulkWrites(Database *database)
+BulkWrites::BulkWrites(Database *database, int checkpointPages)
     : m_database(database)
 {
     run(database, QStringLiteral("PRAGMA synchronous=NORMAL"));
+    run(database, QStringLiteral("PRAGMA wal_autocheckpoint=%1").arg(checkpointPages));
 }
 
 BulkWrites::~BulkWrites()
 {
     run(m_database, QStringLiteral("PRAGMA synchronous=FULL"));
+    run(m_database, QStringLiteral("PRAGMA wal_autocheckpoint=%1").arg(UsualCheckpointPages));
 }

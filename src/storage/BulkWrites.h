@@ -8,7 +8,12 @@ class Database;
 /// take back the last ones, but the file stays whole. For work that, cut off, is done again.
 class BulkWrites {
 public:
-    explicit BulkWrites(Database *database);
+    /// What SQLite does unasked.
+    static constexpr int UsualCheckpointPages = 1000;
+
+    /// After \p checkpointPages a commit moves what was written from the log into the file, which holds the
+    /// event loop: few pages make short holds, but more of them.
+    explicit BulkWrites(Database *database, int checkpointPages = UsualCheckpointPages);
     ~BulkWrites();
     Q_DISABLE_COPY_MOVE(BulkWrites)
 

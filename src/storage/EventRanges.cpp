@@ -16,6 +16,7 @@ constexpr int maxShortDays = 7;
 // Steps of about two milliseconds.
 constexpr qint64 RowsPerStep = 512;
 constexpr qsizetype IdsPerStep = 64;
+constexpr size_t DroppedPerStep = 256;
 
 // True for rows that a scan over starts finds: the digits of the end lie at most a week behind those of
 // the start. A date that SQLite bends into another once it counts with it (30 February) is not short.
@@ -128,14 +129,10 @@ void EventRanges::onPurged(const QString &calendarId)
 {
     if (calendarId.isEmpty())
         return startOver();
-    QStringList gone;
-    for (const auto &[key, row] : m_standing) {
-        if (row.event.calendarId == calendarId)
-            gone.append(row.event.id);
-    }
-    for (const QString &id : std::as_const(gone)) {
-        forget(id);
-        m_stale.remove(id);
+    for (auto row = m_standing.begin(); row != m_standing.end();) {
+        const auto it = row++;
+        if (it->second.event.calendarId == calendarId)
+            m_dropped.push_back(takeOut(it));
     }
 }
 
@@ -148,6 +145,10 @@ bool EventRanges::catchUp(int sliceMs)
     if (m_isProvisional)
         startOver();
     while (!isCaughtUp() && !clock.hasExpired(sliceMs)) {
+        if (!m_dropped.empty()) {
+            m_dropped.resize(m_dropped.size() - std::min(m_dropped.size(), DroppedPerStep));
+            continue;
+        }
         if (!m_isLoaded) {
             if (!loadNextRows())
                 return false;
@@ -326,15 +327,18 @@ void EventRanges::add(Statement &rows)
 
 void EventRanges::forget(const QString &id)
 {
-    const auto it = m_keys.constFind(id);
-    if (it == m_keys.constEnd())
-        return;
-    const Key key = *it;
-    if (const auto series = m_overrides.find(m_standing.at(key).event.masterEventUid); series != m_overrides.end()) {
-        series->erase(key);
+    if (const auto it = m_keys.constFind(id); it != m_keys.constEnd())
+        takeOut(m_standing.find(*it));
+}
+
+EventRanges::Rows::node_type EventRanges::takeOut(Rows::iterator row)
+{
+    const Event &event = row->second.event;
+    if (const auto series = m_overrides.find(event.masterEventUid); series != m_overrides.end()) {
+        series->erase(row->first);
         if (series->empty())
             m_overrides.erase(series);
     }
-    m_standing.erase(key);
-    m_keys.erase(it);
+    m_keys.remove(event.id);
+    return m_standing.extract(row);
 }

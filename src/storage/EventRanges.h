@@ -13,6 +13,7 @@
 #include <map>
 #include <set>
 #include <utility>
+#include <vector>
 
 class CalendarFilter;
 class Database;
@@ -37,9 +38,12 @@ public:
     void onTouched(const QString &id); ///< changed in some column, or deleted
     void onPurged(const QString &calendarId); ///< see Database::purged
 
-    /// Whether a read finds all it needs in memory.
-    [[nodiscard]] bool isCaughtUp() const { return m_isLoaded && !m_isProvisional && m_stale.isEmpty(); }
-    /// Reads on for about \p sliceMs. False if the database refuses. Does nothing inside a Savepoint.
+    /// Whether nothing is left to read, or to free.
+    [[nodiscard]] bool isCaughtUp() const
+    {
+        return m_isLoaded && !m_isProvisional && m_stale.isEmpty() && m_dropped.empty();
+    }
+    /// Goes on for about \p sliceMs. False if the database refuses. Does nothing inside a Savepoint.
     bool catchUp(int sliceMs);
 
 private:
@@ -48,6 +52,7 @@ private:
         Event event;
         QByteArray endText; // null for a row without an end
     };
+    using Rows = std::map<Key, Standing>;
     struct Window {
         Window(const QDateTime &start, const QDateTime &end);
         QString startText;
@@ -70,12 +75,14 @@ private:
     bool readAgain(const QStringList &ids);
     void add(Statement &rows);
     void forget(const QString &id);
+    Rows::node_type takeOut(Rows::iterator row);
 
     Database *m_database;
     bool m_isLoaded = false;
     bool m_isProvisional = false; // read inside a Savepoint, which may yet be rolled back
     qint64 m_loadedTo = BeforeAllRows; // rowid
-    std::map<Key, Standing> m_standing;
+    Rows m_standing;
+    std::vector<Rows::node_type> m_dropped; // not yet freed: thousands of records take a while
     QHash<QString, Key> m_keys; // by event id
     QHash<QString, std::set<Key>> m_overrides; // by the UID of their series
     QSet<QString> m_stale; // ids to read again

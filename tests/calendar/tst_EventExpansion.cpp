@@ -1,6 +1,10 @@
 #include "calendar/EventExpansion.h"
 #include "support/TestData.h"
 
+#include <QRandomGenerator>
+
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -92,6 +96,41 @@ private slots:
         second.id = u"second"_s;
         QCOMPARE(instances({ first, series(u"a"_s, 2), second }, 2, 4), u"a@2 second@3"_s);
         QCOMPARE(instances({ first, second }, 2, 4), u"second@3"_s);
+    }
+
+    void showsWhatTheSpanHolds()
+    {
+        QRandomGenerator random(7);
+        const QStringList rules{ QString(), u"FREQ=DAILY"_s, u"FREQ=WEEKLY;BYDAY=MO,SA"_s, u"FREQ=DAILY;COUNT=5"_s };
+        const QList<int> lengthsMin{ 0, 30, 24 * 60, 3 * 24 * 60, -60 };
+        QList<Event> events;
+        for (int i = 0; i < 400; ++i) {
+            Event event = i % 4 == 0 ? overrideRow(u"%1"_s.arg(random.bounded(i + 1)), random.bounded(1, 30), {})
+                                     : single(QString::number(i), {});
+            event.startTime = march(random.bounded(1, 30), random.bounded(24));
+            event.isAllDay = random.bounded(3) == 0;
+            event.startTime.setTime(event.isAllDay ? QTime(0, 0) : event.startTime.time());
+            event.endTime.reset();
+            if (random.bounded(5) != 0)
+                event.endTime = event.startTime.addSecs(60 * lengthsMin.at(random.bounded(5)));
+            event.recurrenceRule = event.isOverride() ? QString() : rules.at(random.bounded(4));
+            if (random.bounded(4) == 0)
+                event.status = EventStatus::Cancelled;
+            events.append(event);
+        }
+        QList<const Event *> rows;
+        for (const Event &event : std::as_const(events))
+            rows.append(&event);
+        for (int day = 0; day < 30; ++day) {
+            const QDate first = QDate(2026, 3, 1).addDays(day);
+            const EventDays::Span span(first, 1 + day % 8);
+            QList<Event> expected =
+                EventExpansion::expand(events, first.startOfDay().addDays(-1), first.addDays(2 + day % 8).startOfDay());
+            expected.removeIf([&span](const Event &event) { return !span.holds(event); });
+            std::ranges::stable_sort(expected, {}, &Event::startTime);
+            QVERIFY(!expected.isEmpty());
+            QCOMPARE(EventExpansion::showIn(span, rows), expected);
+        }
     }
 };
 

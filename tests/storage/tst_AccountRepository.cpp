@@ -1,4 +1,5 @@
 #include "storage/AccountRepository.h"
+#include "storage/CalendarRepository.h"
 #include "support/ScratchDatabase.h"
 #include "support/TestData.h"
 
@@ -66,9 +67,11 @@ private slots:
 
     void removingTakesEverythingButTheTombstone_data()
     {
-        columns<bool>("isCutOff");
-        row("at once", false);
-        row("finished by the next start", true);
+        columns<bool, bool>("isCutOff", "isLarge");
+        row("at once", false, false);
+        row("finished by the next start", true, false);
+        row("a large one in slices", false, true);
+        row("a large one by the next start", true, true);
     }
     void removingTakesEverythingButTheTombstone()
     {
@@ -77,8 +80,12 @@ private slots:
             m_database->addFullCalendar(u"c-"_s + id, id);
         }
         QFETCH(bool, isCutOff);
+        QFETCH(bool, isLarge);
         QSignalSpy changed(m_accounts.get(), &AccountRepository::accountsChanged);
-        expectQueueWarning();
+        if (isLarge)
+            m_database->addManyRows(u"c-gone"_s);
+        else
+            expectQueueWarning();
         if (isCutOff) {
             m_database->execute(u"UPDATE accounts SET deleted_at = '2026-05-09T00:00:00Z' WHERE id = 'gone'"_s);
             QCOMPARE(m_accounts->finishInterruptedRemovals(), 1);
@@ -86,6 +93,8 @@ private slots:
             QVERIFY(m_accounts->remove(u"gone"_s));
             QCOMPARE(changed.size(), 1);
         }
+        QCOMPARE(idsOf(CalendarRepository(m_database->get()).getAll()), u"c-kept"_s);
+        QTRY_COMPARE(m_database->count(u"calendars"_s), 1);
         QCOMPARE(m_accounts->finishInterruptedRemovals(), 0);
         QCOMPARE(m_accounts->getById(u"gone"_s), std::nullopt);
         QCOMPARE(idsOf(m_accounts->getAllIncludingDeleted()), u"gone kept"_s);

@@ -1,4 +1,8 @@
+#include "storage/CalendarRemovals.h"
 #include "storage/CalendarRepository.h"
+#include "storage/EventRepository.h"
+#include "storage/Savepoint.h"
+#include "storage/TaskRepository.h"
 #include "support/ScratchDatabase.h"
 #include "support/TestData.h"
 
@@ -50,6 +54,53 @@ private slots:
         for (const char *table : { "events", "tasks", "reminders", "attendees", "attachments", "task_reminders" })
             QCOMPARE(m_database->count(QString::fromLatin1(table)), 1);
         QVERIFY((*m_database)->eventPurges() > purges);
+    }
+
+    void removesLargeOnesInSlices()
+    {
+        m_database->addFullCalendar(u"c"_s, u"a"_s);
+        m_database->addFullCalendar(u"kept"_s, u"a"_s);
+        m_database->addManyRows(u"c"_s);
+        EventRepository events(m_database->get());
+        CalendarRemovals *removals = (*m_database)->removals();
+        {
+            Savepoint savepoint(m_database->get());
+            QVERIFY(m_calendars->removeDeep(u"c"_s));
+            QVERIFY(!m_calendars->getById(u"c"_s));
+        } // rolled back
+        QVERIFY(m_calendars->getById(u"c"_s) && removals->ids().isEmpty());
+
+        QVERIFY(m_calendars->removeDeep(u"c"_s));
+        const auto shown = [&] {
+            return QStringList{ idsOf(m_calendars->getAll()), idsOf(m_calendars->getDeleted()),
+                                idsOf(events.search(u"%"_s, 99)),
+                                idsOf(events.getInRange(utc("2020-01-01"), utc("2030-01-01"), {})),
+                                idsOf(TaskRepository(m_database->get()).getUndated({})) };
+        };
+        const QStringList expected{ u"kept"_s, QString(), u"e-kept"_s, u"e-kept"_s, u"t-kept"_s };
+        QCOMPARE(shown(), expected);
+        QVERIFY(m_database->count(u"events"_s) > 300);
+
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 30);
+        removals->pause(); // the program ends, and starts again
+        removals->resume();
+        QCOMPARE(shown(), expected);
+        QTRY_COMPARE(m_database->text(u"SELECT id FROM calendars"_s), u"kept"_s);
+        for (const char *table : { "events", "tasks", "reminders", "attendees", "attachments", "task_reminders" })
+            QCOMPARE(m_database->count(QString::fromLatin1(table)), 1);
+        QCOMPARE(m_database->count(u"settings"_s), 0);
+    }
+
+    void givesTheIdOfALargeOneBack()
+    {
+        m_database->addCalendar(u"c"_s, u"a"_s);
+        m_database->addManyRows(u"c"_s);
+        const Calendar calendar = *m_calendars->getById(u"c"_s);
+        QVERIFY(m_calendars->removeDeep(u"c"_s));
+        QVERIFY(m_calendars->insert(calendar));
+        QCOMPARE(m_database->count(u"events"_s), 0);
+        QTest::qWait(50); // nothing goes on removing it
+        QVERIFY(m_calendars->getById(u"c"_s));
     }
 
     void removesDeepWhollyOrNotAtAll()

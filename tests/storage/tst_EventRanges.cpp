@@ -110,6 +110,57 @@ private slots:
         compareRanges(20);
     }
 
+    void agreesWhileCatchingUp()
+    {
+        fill();
+        m_database->execute(u"UPDATE events SET rowid = rowid * 4000"_s); // each step then finds one row
+        for (int i = 0; i < 30 && !QTest::currentTestFailed(); ++i) {
+            m_events = std::make_unique<EventRepository>(m_database->get());
+            m_events->warmUp();
+            for (int turn = m_random.bounded(4); turn >= 0; --turn) {
+                randomWrite();
+                QCoreApplication::processEvents();
+            }
+            if (i % 2 == 0)
+                compareRanges(1); // reads what is left
+            QTRY_VERIFY(m_events->isWarm());
+            compareRanges(3);
+            randomWrite();
+            QTRY_VERIFY(m_events->isWarm());
+            compareRanges(1);
+        }
+        QVERIFY(CalendarRepository(m_database->get()).removeDeep(u"c0"_s));
+        compareRanges(5);
+        QTRY_VERIFY(m_events->isWarm());
+        compareRanges(5);
+    }
+
+    void selectsRangeAndOverrides()
+    {
+        fill();
+        for (int i = 0; i < 50; ++i) {
+            const QDateTime start = firstDay.addDays(m_random.bounded(100));
+            const QStringList calendars{ u"c0"_s, u"c1"_s };
+            const QList<Event> range = m_events->getInRange(start, start.addDays(7), calendars);
+            QStringList masters;
+            for (const Event &event : range) {
+                if (event.isRecurring() && !event.isOverride())
+                    masters.append(event.uid);
+            }
+            QStringList expected =
+                idsOf(range).split(u' ') + idsOf(m_events->getOverrides(masters, calendars)).split(u' ');
+            expected.removeDuplicates();
+            expected.removeAll(QString());
+            QStringList actual;
+            const EventSelection selection = m_events->select(start, start.addDays(7), calendars);
+            for (const Event *row : selection.rows)
+                actual.append(row->id);
+            expected.sort();
+            actual.sort();
+            QCOMPARE(actual, expected);
+        }
+    }
+
     void agreesOnForeignTexts()
     {
         // What other programs may have written: no dates, half dates, dates that do not exist.

@@ -56,6 +56,21 @@ void ScratchDatabase::addFullCalendar(const QString &id, const QString &accountI
     execute(QStringLiteral("INSERT INTO attachments (id, event_id, filename) VALUES ('f-%1', 'e-%1', 'x')").arg(id));
 }
 
+void ScratchDatabase::addManyRows(const QString &calendarId)
+{
+    execute(QStringLiteral("INSERT INTO events (id, calendar_id, uid, title, start_time, end_time, raw_icalendar)"
+                           " WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 400)"
+                           " SELECT '%1' || i, '%1', i, 'many', '2026-01-01', '2026-01-02', '' FROM n")
+                .arg(calendarId));
+    execute(QStringLiteral("INSERT INTO reminders (id, event_id, minutes_before)"
+                           " SELECT 'r-' || id, id, 5 FROM events WHERE calendar_id = '%1' AND title = 'many'")
+                .arg(calendarId));
+    execute(
+        QStringLiteral("INSERT INTO tasks (id, calendar_id, uid, title, raw_icalendar)"
+                       " SELECT id, calendar_id, uid, '', '' FROM events WHERE calendar_id = '%1' AND title = 'many'")
+            .arg(calendarId));
+}
+
 void ScratchDatabase::execute(const QString &sql)
 {
     QSqlQuery query(m_database.db());

@@ -18,6 +18,8 @@ public:
     QString addCalendar(const QString &id, const QString &accountId);
     /// A calendar with an event "e-ID" and a task "t-ID", both with children.
     void addFullCalendar(const QString &id, const QString &accountId);
+    /// 400 events with a reminder each, and as many tasks: too many to delete in one go.
+    void addManyRows(const QString &calendarId);
 
     /// Runs one statement as another program would; fails hard if SQLite refuses.
     void execute(const QString &sql);

@@ -12,8 +12,7 @@
 
 #include <QTimeZone>
 
-#include <algorithm>
-#include <vector>
+#include <utility>
 
 namespace {
 
@@ -23,60 +22,16 @@ constexpr qsizetype EventsPerCost = 5'000;
 // The repository compares digits. Zones run from UTC-12 to UTC+14, so the digits of one instant can be
 // 26 hours apart.
 constexpr int QueryPadDays = 2;
-// All-day dates are at 00:00 UTC, up to 14 hours from the machine's midnight.
-constexpr int ExpansionPadDays = 1;
-
-/// Rows that can have an instance in [from, to), with the overrides of their series.
-QList<Event> rowsFor(AppState *state, const QDateTime &from, const QDateTime &to, const QStringList &calendarIds)
-{
-    QList<Event> rows = state->events()->getInRange(from, to, calendarIds);
-    QStringList masterUids;
-    QSet<QString> overrideIds;
-    for (const Event &row : std::as_const(rows)) {
-        if (row.isOverride())
-            overrideIds.insert(row.id);
-        else if (row.isRecurring())
-            masterUids.append(row.uid);
-    }
-    if (masterUids.isEmpty())
-        return rows;
-    const QList<Event> overrides = state->events()->getOverrides(masterUids, calendarIds);
-    for (const Event &row : overrides) {
-        if (!overrideIds.contains(row.id))
-            rows.append(row);
-    }
-    return rows;
-}
-
-/// Sorting the records themselves would move each of them many times.
-QList<Event> sortedByStart(QList<Event> events)
-{
-    std::vector<std::pair<qint64, qsizetype>> order;
-    order.reserve(events.size());
-    for (qsizetype i = 0; i < events.size(); ++i)
-        order.emplace_back(events.at(i).startTime.toMSecsSinceEpoch(), i);
-    std::sort(order.begin(), order.end());
-    QList<Event> sorted;
-    sorted.reserve(events.size());
-    for (const auto &[startMs, index] : order)
-        sorted.append(std::move(events[index]));
-    return sorted;
-}
 
 QList<Event> instancesIn(AppState *state, QDate first, int days)
 {
     const QStringList calendarIds = VisibleEvents::calendarIds(state);
     if (calendarIds.isEmpty())
         return {};
-    const auto dayStart = [first, days](int padBefore, int padAfter) {
-        return std::pair(first.addDays(-padBefore).startOfDay(), first.addDays(days + padAfter).startOfDay());
-    };
-    const auto [queryFrom, queryTo] = dayStart(QueryPadDays, QueryPadDays);
-    const auto [from, to] = dayStart(ExpansionPadDays, ExpansionPadDays);
-    QList<Event> events = EventExpansion::expand(rowsFor(state, queryFrom, queryTo, calendarIds), from, to);
-    const EventDays::Span span(first, days);
-    events.removeIf([&span](const Event &event) { return !span.holds(event); });
-    return sortedByStart(std::move(events));
+    const QDateTime from = first.addDays(-QueryPadDays).startOfDay();
+    const QDateTime to = first.addDays(days + QueryPadDays).startOfDay();
+    const EventSelection selection = state->events()->select(from, to, calendarIds);
+    return EventExpansion::showIn(EventDays::Span(first, days), selection.rows);
 }
 
 }
@@ -115,8 +70,8 @@ QSharedPointer<const VisibleSpan> VisibleEvents::inRange(QDate first, int days)
     const QString key = spanKey(first, days);
     if (const QSharedPointer<const VisibleSpan> *kept = m_spans.object(key))
         return *kept;
-    FilterEngine::FilterResult filtered =
-        FilterEngine::apply(unfilteredInRange(first, days), m_state->filterRules()->getEnabled());
+    QList<Event> events = m_unfilteredKey == key ? m_unfiltered : instancesIn(m_state, first, days);
+    FilterEngine::FilterResult filtered = FilterEngine::apply(std::move(events), m_state->filterRules()->getEnabled());
     auto span = QSharedPointer<VisibleSpan>::create();
     span->events = std::move(filtered.events);
     span->dimmedIds = std::move(filtered.dimmedIds);

@@ -50,7 +50,7 @@ private:
     AppState *m_state;
     QCache<QString, QSharedPointer<const VisibleSpan>> m_spans;
     QString m_unfilteredKey;
-    QList<Event> m_unfiltered; // of the last span asked for
+    QList<Event> m_unfiltered; // of the last span asked for so
     quint64 m_generation = 0;
     QByteArray m_zoneId;
 };
