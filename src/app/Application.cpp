@@ -6,6 +6,7 @@
 #include "app/TerminationSignals.h"
 #include "app/state/AppState.h"
 #include "app/state/Platform.h"
+#include "storage/EventRepository.h"
 #include "storage/PreferencesRepository.h"
 #include "ui/MainWindow.h"
 #include "ui/dialogs/FeedbackDialog.h"
@@ -150,15 +151,24 @@ int Application::run()
         return reportDatabaseFailure();
     m_mainWindow = new MainWindow(m_appState);
     StartupTrace::watch(m_mainWindow);
-    showFirstWindow();
+    // Until the window has been seen, a dialog that closes is no reason to leave.
+    setQuitOnLastWindowClosed(false);
+    m_mainWindow->installEventFilter(this);
     connectCommands();
     connectHelp();
+    // The first week would else have to wait for what is being read in slices.
+    connect(m_appState->events(), &EventRepository::warmedUp, this, &Application::begin, Qt::SingleShotConnection);
+    QTimer::singleShot(UpdateCheckDelayMs, this, &Application::checkForUpdate);
+    return exec();
+}
+
+void Application::begin()
+{
+    showFirstWindow();
     if (hasInitialCommand())
         replayInitialCommand();
     else if (m_mainWindow->isVisible())
         QTimer::singleShot(WelcomeDelayMs, m_mainWindow, &MainWindow::welcomeOnFirstLaunch);
-    QTimer::singleShot(UpdateCheckDelayMs, this, &Application::checkForUpdate);
-    return exec();
 }
 
 int Application::reportDatabaseFailure()
@@ -180,13 +190,8 @@ void Application::showFirstWindow()
 {
     const bool startsHidden = m_appState->preferences()->getBool(QStringLiteral("ui/startMinimized"), false)
         || arguments().contains(QLatin1StringView("--background"));
-    if (!startsHidden) {
+    if (!startsHidden)
         m_mainWindow->show();
-        return;
-    }
-    // Until the window has been seen, a dialog that closes is no reason to leave.
-    setQuitOnLastWindowClosed(false);
-    m_mainWindow->installEventFilter(this);
 }
 
 bool Application::eventFilter(QObject *watched, QEvent *event)
@@ -254,6 +259,5 @@ void Application::onTerminationSignal()
 {
     if (m_mainWindow)
         m_mainWindow->quitApplication();
-    else
-        quit();
+    exit(0); // an open form would stop quit(), to ask a question that nobody is there to answer
 }

@@ -48,6 +48,7 @@ private:
     QTranslator *installed(QTranslator *translator, bool loaded);
     void loadFonts();
     int reportDatabaseFailure();
+    void begin();
     void showFirstWindow();
     void connectCommands();
     void connectHelp();

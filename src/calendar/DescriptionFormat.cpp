@@ -2,118 +2,128 @@
 
 #include "BuildSettings.h"
 #include "calendar/HtmlSanitizer.h"
+#include "calendar/TextLinks.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 namespace {
 
-constexpr qsizetype MaxShownChars = 20'000; // more would take the card seconds to lay out
+// Several pages. A renderer takes seconds for much more, if the text is made for that.
+constexpr qsizetype MaxShownChars = 10'000;
+// Mail programs send styles and markup many times as long as the text.
+constexpr qsizetype MaxReadChars = 500'000;
+constexpr QLatin1StringView Boilerplate{ "Microsoft Teams" };
 
-const QRegularExpression &teamsJoinPattern()
+QString joinText()
 {
-    static const QRegularExpression pattern(
+    return QCoreApplication::translate("DescriptionFormat", "Join Microsoft Teams Meeting");
+}
+
+/// With \p meetingLink shown elsewhere the invitation's own line goes; else it becomes an anchor.
+QString withJoinLines(const QString &text, const QString &meetingLink)
+{
+    static const QRegularExpression teamsJoinPattern(
         QStringLiteral("Join the meeting now<(https://%1/[^>]+)>")
             .arg(QRegularExpression::escape(QString::fromLatin1(BuildSettings::TeamsHost))));
-    return pattern;
+    QString result;
+    qsizetype done = 0;
+    for (auto matches = teamsJoinPattern.globalMatch(text); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        result += QStringView(text).sliced(done, match.capturedStart() - done);
+        if (meetingLink.isEmpty())
+            result += QStringLiteral("<a href=\"%1\">%2</a>\n").arg(match.captured(1), joinText());
+        done = match.capturedEnd();
+    }
+    result += QStringView(text).sliced(done);
+    return result;
 }
 
-struct Removal {
-    QRegularExpression pattern;
-    QString replacement;
-};
-
-const QList<Removal> &boilerplate()
+/// The boilerplate is told by lines, and HTML may be one long line.
+QString cleanHtml(QString html, const QString &meetingLink)
 {
-    static const QList<Removal> removals{
-        { QRegularExpression(QStringLiteral("<(https?://[^>]+)>")), QStringLiteral("\\1") },
-        { QRegularExpression(QStringLiteral("^_{3,}\\s*$"), QRegularExpression::MultilineOption), {} },
-        { QRegularExpression(QStringLiteral("^Microsoft Teams\\s*$"), QRegularExpression::MultilineOption), {} },
-        { QRegularExpression(QStringLiteral("^.*Need help\\?.*$"), QRegularExpression::MultilineOption), {} },
-        { QRegularExpression(QStringLiteral("For organizers:[\\s\\S]*$")), {} },
-        { QRegularExpression(QStringLiteral("\n{3,}")), QStringLiteral("\n\n") },
-        { QRegularExpression(QStringLiteral("[\\s]+$")), {} },
+    static const QRegularExpression blockTag(QStringLiteral(R"((</?(?:p|div|br|table|tr|li|h[1-6])\b[^<>]*>))"),
+                                             QRegularExpression::CaseInsensitiveOption);
+    if (html.contains(Boilerplate))
+        html.replace(blockTag, QStringLiteral("\n\\1\n"));
+    return DescriptionFormat::clean(html, meetingLink);
+}
+
+/// What clean() made of plain text: no markup but the anchor of a join line.
+QString plainToHtml(const QString &text, const QString &linkColor)
+{
+    static const QRegularExpression joinAnchor(QStringLiteral("<a href=\"(https://[^>]+)\">([^<]+)</a>"));
+    QString html = QStringLiteral("<div style=\"white-space:pre-wrap;\">");
+    const auto addText = [&](QStringView plain) {
+        html += TextLinks::toHtml(plain, linkColor).replace(u'\n', QStringLiteral("<br>"));
     };
-    return removals;
-}
-
-bool isInsideTagOrAnchor(const QString &text, qsizetype at)
-{
-    const QStringView before = QStringView(text).left(at);
-    return before.right(6).contains(u"href=") || before.endsWith(u"\">") || before.endsWith(u"'>");
+    qsizetype done = 0;
+    for (auto matches = joinAnchor.globalMatch(text); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        addText(QStringView(text).sliced(done, match.capturedStart() - done));
+        const QString url = TextLinks::openable(match.captured(1));
+        const QString name = match.captured(2).toHtmlEscaped();
+        html += url.isEmpty() ? name : TextLinks::anchorTag(url, linkColor) + name + QStringLiteral("</a>");
+        done = match.capturedEnd();
+    }
+    addText(QStringView(text).sliced(done));
+    return html + QStringLiteral("</div>");
 }
 
 }
 
 bool DescriptionFormat::looksLikeHtml(const QString &text)
 {
-    static const QRegularExpression htmlTagPattern(QStringLiteral("<\\s*(html|body|div|p|br|table|style|meta|a)\\b"),
+    static const QRegularExpression htmlTagPattern(QStringLiteral(R"(<\s*(html|body|div|p|br|table|style|meta|a)\b)"),
                                                    QRegularExpression::CaseInsensitiveOption);
     return htmlTagPattern.match(text).hasMatch();
 }
 
 QString DescriptionFormat::clean(const QString &text, const QString &meetingLink)
 {
-    if (!text.contains(QStringLiteral("Microsoft Teams")))
+    static const QRegularExpression angleUrlPattern(QStringLiteral("<(https?://[^>]+)>"));
+    static const QRegularExpression underscoreRulePattern(QStringLiteral(R"(^_{3,}\s*$)"),
+                                                          QRegularExpression::MultilineOption);
+    static const QRegularExpression teamsHeadingPattern(QStringLiteral(R"(^Microsoft Teams\s*$)"),
+                                                        QRegularExpression::MultilineOption);
+    static const QRegularExpression needHelpPattern(QStringLiteral(R"(^.*Need help\?.*$)"),
+                                                    QRegularExpression::MultilineOption);
+    static const QRegularExpression organizersPattern(QStringLiteral(R"(For organizers:[\s\S]*$)"));
+    static const QRegularExpression blankLinesPattern(QStringLiteral("\\n{3,}"));
+    if (!text.contains(Boilerplate))
         return text;
-    QString result;
-    qsizetype last = 0;
-    for (auto it = teamsJoinPattern().globalMatch(text); it.hasNext();) {
-        const QRegularExpressionMatch match = it.next();
-        result += QStringView(text).mid(last, match.capturedStart() - last);
-        if (meetingLink.isEmpty())
-            result += QStringLiteral("<a href=\"%1\">Join Microsoft Teams Meeting</a>\n").arg(match.captured(1));
-        last = match.capturedEnd();
-    }
-    result += QStringView(text).mid(last);
-    for (const Removal &removal : boilerplate())
-        result.replace(removal.pattern, removal.replacement);
+    QString result = withJoinLines(text, meetingLink);
+    result.replace(angleUrlPattern, QStringLiteral("\\1"));
+    result.remove(underscoreRulePattern);
+    result.remove(teamsHeadingPattern);
+    result.remove(needHelpPattern);
+    result.remove(organizersPattern);
+    result.replace(blankLinesPattern, QStringLiteral("\n\n"));
     return result.trimmed();
 }
 
 QString DescriptionFormat::linkifyUrls(const QString &text, const QString &linkColor)
 {
-    static const QRegularExpression urlPattern(QStringLiteral("(https?://[^\\s<>\"]+)"),
-                                               QRegularExpression::CaseInsensitiveOption);
     const QString style = linkColor.isEmpty() ? QString() : QStringLiteral(" style=\"color:%1;\"").arg(linkColor);
     QString result;
-    result.reserve(text.size() + 64);
-    qsizetype last = 0;
-    for (auto it = urlPattern.globalMatch(text); it.hasNext();) {
-        const QRegularExpressionMatch match = it.next();
-        result += QStringView(text).mid(last, match.capturedStart() - last);
-        last = match.capturedEnd();
-        if (isInsideTagOrAnchor(text, match.capturedStart())) {
-            result += match.captured();
-            continue;
-        }
-        QString url = match.captured(1);
-        QString tail;
-        while (!url.isEmpty() && QStringLiteral(".,;:!?)").contains(url.back())) {
-            tail.prepend(url.back());
-            url.chop(1);
-        }
-        result += QStringLiteral("<a href=\"%1\"%2>%1</a>").arg(url, style) + tail;
+    for (const TextLinks::Piece &piece : TextLinks::pieces(text)) {
+        const QStringView before = QStringView(text).first(piece.text.data() - text.constData());
+        const bool isHref = before.right(6).contains(u"href="); // in whichever quotes, or in none
+        const bool isInMarkup = isHref || before.endsWith(u"\">") || before.endsWith(u"'>");
+        if (piece.isUrl && !isInMarkup)
+            result += QStringLiteral("<a href=\"%1\"%2>%1</a>").arg(piece.text, style);
+        else
+            result += piece.text;
     }
-    return result += QStringView(text).mid(last);
+    return result;
 }
 
 QString DescriptionFormat::toSafeHtml(const QString &description, const QString &meetingLink, const QString &linkColor)
 {
-    const QString text = description.left(MaxShownChars);
+    QString text = description.left(MaxReadChars);
     if (looksLikeHtml(text))
-        return linkifyUrls(HtmlSanitizer::sanitized(clean(text, meetingLink)), linkColor);
-    // The anchor that cleaning makes is ours; all else is plain text.
-    const QString cleaned = clean(text, meetingLink);
-    static const QRegularExpression ownAnchor(
-        QStringLiteral("<a href=\"(https://[^\"<>]+)\">Join Microsoft Teams Meeting</a>"));
-    QString html;
-    qsizetype last = 0;
-    for (auto it = ownAnchor.globalMatch(cleaned); it.hasNext();) {
-        const QRegularExpressionMatch match = it.next();
-        html += cleaned.mid(last, match.capturedStart() - last).toHtmlEscaped();
-        html += match.captured();
-        last = match.capturedEnd();
-    }
-    html += cleaned.mid(last).toHtmlEscaped();
-    return linkifyUrls(html, linkColor).replace(u'\n', QStringLiteral("<br>"));
+        return HtmlSanitizer::sanitized(cleanHtml(text, meetingLink), linkColor, MaxShownChars);
+    text = clean(text.replace(QLatin1StringView("\r\n"), QLatin1StringView("\n")), meetingLink);
+    const bool isLong = text.size() > MaxShownChars;
+    return plainToHtml(isLong ? text.left(MaxShownChars) + u'…' : text, linkColor);
 }

@@ -1,39 +1,28 @@
 #include "calendar/ICalEventWriter.h"
 
 #include "calendar/ICalParser.h"
+#include "calendar/RruleExpander.h"
 #include "models/Event.h"
 
 namespace {
 
-QString stamp(const QDateTime &when)
+// A line break would end the property and begin another one.
+QString oneLine(QString text)
 {
-    return when.toUTC().toString(QStringLiteral("yyyyMMdd'T'HHmmss'Z'"));
-}
-
-/// A line break in a value would begin another property.
-QString oneLine(QString value)
-{
-    for (QChar &character : value) {
-        if (character == u'\r' || character == u'\n')
-            character = u' ';
-    }
-    return value;
+    return text.replace(QLatin1StringView("\r\n"), QLatin1StringView(" ")).replace(u'\r', u' ').replace(u'\n', u' ');
 }
 
 }
 
 QString ICalEventWriter::buildEventRawIcal(const Event &event)
 {
-    QString text = QStringLiteral("BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:%1\r\nBEGIN:VEVENT\r\n")
-                       .arg(QLatin1StringView(ICalParser::ProductId));
-    const auto line = [&text](QLatin1StringView name, const QString &value) {
-        text += name + oneLine(value) + QStringLiteral("\r\n");
-    };
-    line(QLatin1StringView("UID:"), event.uid);
-    line(QLatin1StringView("SUMMARY:"), event.title);
-    line(QLatin1StringView("DTSTART:"), stamp(event.startTime));
-    line(QLatin1StringView("DTEND:"), stamp(event.endTime.value_or(event.startTime)));
+    const QString start = RruleExpander::formatRecurrenceId(event.startTime);
+    const QString end = event.endTime ? RruleExpander::formatRecurrenceId(*event.endTime) : QString();
+    QString text = QStringLiteral("BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:")
+        + QLatin1StringView(ICalParser::ProductId)
+        + QStringLiteral("\r\nBEGIN:VEVENT\r\nUID:%1\r\nSUMMARY:%2\r\nDTSTART:%3\r\nDTEND:%4\r\n")
+              .arg(oneLine(event.uid), oneLine(event.title), start, end.isEmpty() ? start : end);
     if (!event.relatedToUid.isEmpty())
-        line(QLatin1StringView("RELATED-TO;RELTYPE=PARENT:"), event.relatedToUid);
+        text += QStringLiteral("RELATED-TO;RELTYPE=PARENT:%1\r\n").arg(oneLine(event.relatedToUid));
     return text + QStringLiteral("END:VEVENT\r\nEND:VCALENDAR\r\n");
 }

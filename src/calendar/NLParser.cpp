@@ -1,63 +1,82 @@
 #include "calendar/NLParser.h"
 
-#include <QList>
+#include "calendar/WallClock.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
 
 namespace {
 
-constexpr int DefaultMinutes = 60;
 constexpr int MinutesPerHour = 60;
-constexpr int HalfHour = 30;
+constexpr qint64 SecondsPerMinute = 60;
 constexpr int DaysPerWeek = 7;
+constexpr int HalfHour = 30; // minutes
+constexpr int DefaultMinutes = 60;
+// Later years take more than four digits, and no format that dates are written in has room for them.
+constexpr int LastYear = 9999;
+// Reaches past the last year in any unit, and no sum of such numbers overflows.
+constexpr qint64 LargestNumber = 10'000'000'000;
 
-QRegularExpression pattern(const char *text)
+// Each name is found by its first three letters, and stands in a cell of four.
+constexpr QLatin1StringView Weekdays{ "mon tue wed thu fri sat sun" };
+constexpr QLatin1StringView Months{ "jan feb mar apr may jun jul aug sep oct nov dec" };
+
+QRegularExpression compiled(const QString &pattern)
 {
-    return QRegularExpression(QString::fromLatin1(text), QRegularExpression::CaseInsensitiveOption);
+    return QRegularExpression(pattern, QRegularExpression::CaseInsensitiveOption);
 }
 
-QDateTime roundedUp(QDateTime when)
+/// 1 for the first name of \p names; \p word begins with one of them.
+int placeOf(const QString &word, QLatin1StringView names)
 {
-    when = when.addMSecs(-(when.time().msecsSinceStartOfDay() % 60000));
-    const int beyond = when.time().minute() % HalfHour;
-    return beyond == 0 ? when : when.addSecs((HalfHour - beyond) * 60);
+    constexpr qsizetype letters = 3;
+    return static_cast<int>(names.indexOf(word.toCaseFolded().left(letters)) / (letters + 1)) + 1;
 }
 
-int weekdayOf(const QString &name)
+qint64 numberIn(QStringView digits)
 {
-    static const QStringList days{ QStringLiteral("mon"), QStringLiteral("tue"), QStringLiteral("wed"),
-                                   QStringLiteral("thu"), QStringLiteral("fri"), QStringLiteral("sat"),
-                                   QStringLiteral("sun") };
-    return int(days.indexOf(name.left(3).toLower())) + 1;
+    bool isSmall = false;
+    const qint64 number = digits.toLongLong(&isSmall);
+    return isSmall ? std::min(number, LargestNumber) : LargestNumber;
 }
 
-int monthOf(const QString &name)
+bool isHours(QStringView unit)
 {
-    static const QStringList months{ QStringLiteral("jan"), QStringLiteral("feb"), QStringLiteral("mar"),
-                                     QStringLiteral("apr"), QStringLiteral("may"), QStringLiteral("jun"),
-                                     QStringLiteral("jul"), QStringLiteral("aug"), QStringLiteral("sep"),
-                                     QStringLiteral("oct"), QStringLiteral("nov"), QStringLiteral("dec") };
-    return int(months.indexOf(name.left(3).toLower())) + 1;
+    return unit.startsWith(u'h', Qt::CaseInsensitive);
 }
 
-/// An hour and minutes with "am" or "pm", or on the clock of 24 hours without. Invalid when out of range.
-QTime clockTime(const QString &hourText, const QString &minuteText, const QString &half)
+QDate ifWritable(QDate date)
+{
+    return date.isValid() && date.year() <= LastYear ? date : QDate();
+}
+
+/// Invalid if there is no such time of day. \p half is "am", "pm" or empty for 24 hours.
+QTime timeOfDay(QStringView hourText, QStringView minuteText, QStringView half)
 {
     int hour = hourText.toInt();
-    if (half.compare(u"pm", Qt::CaseInsensitive) == 0 && hour < 12)
+    if (half.compare(QLatin1StringView("pm"), Qt::CaseInsensitive) == 0 && hour < 12)
         hour += 12;
-    else if (half.compare(u"am", Qt::CaseInsensitive) == 0 && hour == 12)
+    else if (half.compare(QLatin1StringView("am"), Qt::CaseInsensitive) == 0 && hour == 12)
         hour = 0;
-    return { hour, minuteText.toInt() };
+    return QTime(hour, minuteText.toInt());
 }
 
-/// One pass over a line. The recognisers all read the same text and only note what they claim, so that
-/// positions stay true and one stretch may be claimed twice.
-class Reader {
+/// \p now at the next full or half hour, unless it is one.
+QDateTime roundedUp(const QDateTime &now)
+{
+    const QTime time = now.time();
+    const QDateTime minute = now.addMSecs(-time.msec()).addSecs(-time.second());
+    const int over = time.minute() % HalfHour;
+    return over == 0 ? minute : minute.addSecs((HalfHour - over) * SecondsPerMinute);
+}
+
+/// The recognisers of one line. Each looks at the whole line and only notes which part of it was meant for it, so
+/// that positions stay true; the title is what nobody claimed.
+class Line {
 public:
-    Reader(const QString &text, const QDateTime &now)
-        : m_text(text)
+    Line(const QString &text, const QDateTime &now)
+        : m_text(text.trimmed())
         , m_now(now)
         , m_today(now.date())
     {
@@ -66,120 +85,103 @@ public:
     ParsedQuickAdd read();
 
 private:
-    struct Span {
-        qsizetype start;
-        qsizetype length;
+    struct Times {
+        QTime start;
+        std::optional<QTime> end;
     };
 
-    QRegularExpressionMatch claim(const QRegularExpression &regex);
-    void strip(const QRegularExpressionMatch &match);
-    bool readPrefix(const QRegularExpression &regex);
+    QRegularExpressionMatch claim(const QRegularExpression &pattern);
     void readIntent();
     void readTags();
     void readRelative();
-    void readDate();
-    bool readNamedDate();
-    bool readWeekday();
-    bool readDaysAhead();
-    bool readMonthAndDay();
-    void readTime();
-    bool readTimeRange();
-    bool readDigits();
-    void takeTime(const QRegularExpressionMatch &match, QTime time);
-    void settleTime();
-    void settleEnd();
-    int durationMinutes();
-    [[nodiscard]] QString cleanedTitle() const;
+    std::optional<QDate> readDate();
+    std::optional<Times> readTimes();
+    qint64 readMinutes();
+    void settleTimes(const std::optional<QDate> &date, const std::optional<Times> &times, qint64 minutes);
+    [[nodiscard]] QDateTime at(QDate date, QTime time) const;
+    [[nodiscard]] QString unclaimed();
+    [[nodiscard]] QString title();
 
     QString m_text;
     QDateTime m_now;
     QDate m_today;
-    ParsedQuickAdd m_result;
-    QList<Span> m_spans;
+    ParsedQuickAdd m_found;
+    QList<std::pair<qsizetype, qsizetype>> m_claimed; // from, to
+    QDateTime m_moment; // an instant that the line gives or implies, not just a place on the clock
     std::optional<QDate> m_relativeDate;
     std::optional<QTime> m_relativeTime;
-    std::optional<QDate> m_date; // there may be one that does not exist: 31 February
-    std::optional<QTime> m_time;
-    std::optional<QTime> m_endTime;
 };
 
-ParsedQuickAdd Reader::read()
+ParsedQuickAdd Line::read()
 {
+    m_moment = roundedUp(m_now);
+    if (m_text.isEmpty()) {
+        m_found.start = m_moment;
+        return m_found;
+    }
     readIntent();
     readTags();
     readRelative();
-    readDate();
-    readTime();
-    settleTime();
-    settleEnd();
-    m_result.title = cleanedTitle();
-    if (!m_result.isReminder && !m_result.isTask && !m_result.isAllDay && !m_result.hasTime)
-        m_result.isTask = true;
-    return m_result;
+    const std::optional<QDate> date = readDate();
+    const std::optional<Times> times = readTimes();
+    settleTimes(date, times, readMinutes());
+    m_found.title = title();
+    if (!m_found.isReminder && !m_found.isTask && !m_found.isAllDay && !m_found.hasTime)
+        m_found.isTask = true;
+    return m_found;
 }
 
-void Reader::strip(const QRegularExpressionMatch &match)
+QRegularExpressionMatch Line::claim(const QRegularExpression &pattern)
 {
-    if (match.capturedLength() > 0)
-        m_spans.append({ match.capturedStart(), match.capturedLength() });
-}
-
-QRegularExpressionMatch Reader::claim(const QRegularExpression &regex)
-{
-    const QRegularExpressionMatch match = regex.match(m_text);
+    const QRegularExpressionMatch match = pattern.match(m_text);
     if (match.hasMatch())
-        strip(match);
+        m_claimed.emplaceBack(match.capturedStart(), match.capturedEnd());
     return match;
 }
 
-bool Reader::readPrefix(const QRegularExpression &regex)
-{
-    const QRegularExpressionMatch match = regex.match(m_text);
-    if (!match.hasMatch() || match.capturedEnd() <= 0)
-        return false;
-    m_spans.append({ 0, match.capturedEnd() });
-    return true;
-}
-
-void Reader::readIntent()
+void Line::readIntent()
 {
     static const QRegularExpression reminder =
-        pattern("^\\s*(?:remind\\s+me\\s+(?:to|that|about)\\s+|remind\\s+me\\s+|reminder\\s*[:\\-]?\\s*(?:to\\s+)?|"
-                "remember\\s+to\\s+|don'?t\\s+(?:let\\s+me\\s+)?forget\\s+(?:to\\s+)?)");
-    static const QRegularExpression task = pattern("^\\s*(?:task\\s*[:\\-]\\s*|to-?do\\s*[:\\-]?\\s*|"
-                                                   "(?:add|new)\\s+(?:a\\s+)?(?:task|to-?do)\\s+(?:to\\s+)?)");
-    m_result.isReminder = readPrefix(reminder);
-    m_result.isTask = !m_result.isReminder && readPrefix(task);
+        compiled(QStringLiteral(R"(^\s*(?:remind\s+me\s+(?:to|that|about)\s+|remind\s+me\s+)"
+                                R"(|reminder\s*[:\-]?\s*(?:to\s+)?|remember\s+to\s+)"
+                                R"(|don'?t\s+(?:let\s+me\s+)?forget\s+(?:to\s+)?))"));
+    static const QRegularExpression task =
+        compiled(QStringLiteral(R"(^\s*(?:task\s*[:\-]\s*|to-?do\s*[:\-]?\s*)"
+                                R"(|(?:add|new)\s+(?:a\s+)?(?:task|to-?do)\s+(?:to\s+)?))"));
+    m_found.isReminder = claim(reminder).hasMatch();
+    m_found.isTask = !m_found.isReminder && claim(task).hasMatch();
 }
 
-void Reader::readTags()
+void Line::readTags()
 {
-    static const QRegularExpression tag(QStringLiteral("#([\\p{L}\\p{N}_\\-]+)"));
-    for (auto it = tag.globalMatch(m_text); it.hasNext();) {
-        const QRegularExpressionMatch match = it.next();
-        if (!m_result.tags.contains(match.captured(1), Qt::CaseInsensitive))
-            m_result.tags.append(match.captured(1));
-        strip(match);
+    static const QRegularExpression tag(QStringLiteral(R"(#([\p{L}\p{N}_\-]+))"));
+    for (auto matches = tag.globalMatch(m_text); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        m_claimed.emplaceBack(match.capturedStart(), match.capturedEnd());
+        if (!m_found.tags.contains(match.captured(1), Qt::CaseInsensitive))
+            m_found.tags.append(match.captured(1));
     }
 }
 
-void Reader::readRelative()
+void Line::readRelative()
 {
-    static const QRegularExpression soon = pattern("\\bin\\s+(\\d+)\\s*(minutes?|mins?|hours?|hrs?)\\b");
-    static const QRegularExpression partOfDay = pattern("\\b(tonight|this\\s+(?:morning|afternoon|evening))\\b");
-    static const QRegularExpression nextWeek = pattern("\\bnext\\s+week\\b");
-    if (const auto match = claim(soon); match.hasMatch()) {
-        const qint64 unit = match.captured(2).startsWith(u'h', Qt::CaseInsensitive) ? 3600 : 60;
-        const QDateTime then = m_now.addSecs(match.captured(1).toInt() * unit);
-        m_relativeDate = then.date();
-        m_relativeTime = then.time();
+    static const QRegularExpression inSome =
+        compiled(QStringLiteral(R"(\bin\s+(\d+)\s*(minutes?|mins?|hours?|hrs?)\b)"));
+    static const QRegularExpression partOfDay =
+        compiled(QStringLiteral(R"(\b(tonight|this\s+(?:morning|afternoon|evening))\b)"));
+    static const QRegularExpression nextWeek = compiled(QStringLiteral(R"(\bnext\s+week\b)"));
+
+    if (const auto match = claim(inSome); match.hasMatch()) {
+        const int minutes = isHours(match.capturedView(2)) ? MinutesPerHour : 1;
+        m_moment = m_now.addSecs(numberIn(match.capturedView(1)) * minutes * SecondsPerMinute);
+        m_relativeDate = ifWritable(m_moment.date());
+        m_relativeTime = m_moment.time();
     }
     if (const auto match = claim(partOfDay); match.hasMatch()) {
-        int hour = 19;
-        if (match.captured(1).contains(u"morning", Qt::CaseInsensitive))
-            hour = 9;
-        else if (match.captured(1).contains(u"afternoon", Qt::CaseInsensitive))
-            hour = 15;
+        const auto names = [&match](const char *part) {
+            return match.capturedView().contains(QLatin1StringView(part), Qt::CaseInsensitive);
+        };
+        const int hour = names("morning") ? 9 : names("afternoon") ? 15 : 19;
         m_relativeTime = m_relativeTime.value_or(QTime(hour, 0));
         m_relativeDate = m_relativeDate.value_or(m_today);
     }
@@ -187,211 +189,156 @@ void Reader::readRelative()
         m_relativeDate = m_relativeDate.value_or(m_today.addDays(DaysPerWeek));
 }
 
-void Reader::readDate()
+/// Of several dates the kind that is named first here counts, wherever it stands. Invalid if there is no such date.
+std::optional<QDate> Line::readDate()
 {
-    if (!readNamedDate() && !readWeekday() && !readDaysAhead() && !readMonthAndDay())
-        m_date = m_relativeDate;
-}
+    static const QRegularExpression day = compiled(QStringLiteral(R"(\b(today|tomorrow|yesterday)\b)"));
+    static const QString weekdayNames = QStringLiteral(R"((monday|tuesday|wednesday|thursday|friday|saturday|sunday)"
+                                                       R"(|mon|tue|tues|wed|thu|thur|thurs|fri|sat|sun)\b)");
+    static const QRegularExpression nextWeekday = compiled(QStringLiteral(R"(\bnext\s+)") + weekdayNames);
+    static const QRegularExpression weekday = compiled(QStringLiteral(R"(\b(?:on\s+)?)") + weekdayNames);
+    static const QRegularExpression inSome = compiled(QStringLiteral(R"(\bin\s+(\d+)\s+(days?|weeks?)\b)"));
+    static const QRegularExpression dayOfMonth =
+        compiled(QStringLiteral(R"(\b(?:on\s+)?(jan|feb|mar|apr|may|jun|jul|aug|sep|sept|oct|nov|dec|january|february)"
+                                R"(|march|april|june|july|august|september|october|november|december)\s+(\d{1,2})\b)"));
 
-bool Reader::readNamedDate()
-{
-    static const QRegularExpression named = pattern("\\b(today|tomorrow|yesterday)\\b");
-    const auto match = claim(named);
-    if (!match.hasMatch())
-        return false;
-    const QString name = match.captured(1).toLower();
-    m_date = m_today.addDays(name == u"tomorrow" ? 1 : name == u"yesterday" ? -1 : 0);
-    return true;
-}
-
-bool Reader::readWeekday()
-{
-    static const QRegularExpression next =
-        pattern("\\bnext\\s+(monday|tuesday|wednesday|thursday|friday|saturday|sunday|"
-                "mon|tue|tues|wed|thu|thur|thurs|fri|sat|sun)\\b");
-    static const QRegularExpression coming =
-        pattern("\\b(?:on\\s+)?(monday|tuesday|wednesday|thursday|friday|saturday|sunday|"
-                "mon|tue|tues|wed|thu|thur|thurs|fri|sat|sun)\\b");
-    auto match = claim(next);
-    const bool isNext = match.hasMatch();
-    if (!isNext)
-        match = claim(coming);
-    if (!match.hasMatch())
-        return false;
-    int days = weekdayOf(match.captured(1)) - m_today.dayOfWeek();
-    if (days < (isNext ? 1 : 0))
-        days += DaysPerWeek;
-    m_date = m_today.addDays(days);
-    return true;
-}
-
-bool Reader::readDaysAhead()
-{
-    static const QRegularExpression ahead = pattern("\\bin\\s+(\\d+)\\s+(days?|weeks?)\\b");
-    const auto match = claim(ahead);
-    if (!match.hasMatch())
-        return false;
-    const int days = match.captured(2).startsWith(u"week", Qt::CaseInsensitive) ? DaysPerWeek : 1;
-    m_date = m_today.addDays(match.captured(1).toInt() * qint64(days));
-    return true;
-}
-
-bool Reader::readMonthAndDay()
-{
-    static const QRegularExpression date =
-        pattern("\\b(?:on\\s+)?(jan|feb|mar|apr|may|jun|jul|aug|sep|sept|oct|nov|dec|january|february|march|april|"
-                "june|july|august|september|october|november|december)\\s+(\\d{1,2})\\b");
-    const auto match = claim(date);
-    if (!match.hasMatch())
-        return false;
-    const int month = monthOf(match.captured(1));
-    const int day = match.captured(2).toInt();
-    QDate found(m_today.year(), month, day);
-    if (found.isValid() && found < m_today)
-        found = QDate(m_today.year() + 1, month, day);
-    m_date = found;
-    return true;
-}
-
-void Reader::takeTime(const QRegularExpressionMatch &match, QTime time)
-{
-    m_time = time;
-    strip(match);
-}
-
-void Reader::readTime()
-{
-    static const QRegularExpression noon = pattern("\\b(?:at\\s+)?noon\\b");
-    static const QRegularExpression midnight = pattern("\\b(?:at\\s+)?midnight\\b");
-    static const QRegularExpression at = pattern("\\bat\\s+(\\d{1,2})(?::(\\d{2}))?\\s*(am|pm)?\\b");
-    static const QRegularExpression bare = pattern("\\b(\\d{1,2})(?::(\\d{2}))?\\s*(am|pm)\\b");
-    if (readTimeRange())
-        return;
-    if (const auto match = noon.match(m_text); match.hasMatch())
-        return takeTime(match, QTime(12, 0));
-    if (const auto match = midnight.match(m_text); match.hasMatch())
-        return takeTime(match, QTime(0, 0));
-    if (const auto match = at.match(m_text); match.hasMatch())
-        return takeTime(match, clockTime(match.captured(1), match.captured(2), match.captured(3)));
-    if (readDigits())
-        return;
-    if (const auto match = bare.match(m_text); match.hasMatch())
-        takeTime(match, clockTime(match.captured(1), match.captured(2), match.captured(3)));
-}
-
-bool Reader::readTimeRange()
-{
-    static const QRegularExpression range =
-        pattern("\\bfrom\\s+(\\d{1,2})(?::(\\d{2}))?\\s*(am|pm)?\\s+to\\s+(\\d{1,2})(?::(\\d{2}))?\\s*(am|pm)?\\b");
-    const auto match = range.match(m_text);
-    if (!match.hasMatch())
-        return false;
-    const QString from = match.captured(3).isEmpty() ? match.captured(6) : match.captured(3);
-    const QString to = match.captured(6).isEmpty() ? match.captured(3) : match.captured(6);
-    takeTime(match, clockTime(match.captured(1), match.captured(2), from));
-    m_endTime = clockTime(match.captured(4), match.captured(5), to);
-    return true;
-}
-
-bool Reader::readDigits()
-{
-    static const QRegularExpression digits = pattern("\\bat\\s+(\\d{4})\\b");
-    const auto match = digits.match(m_text);
-    const int number = match.captured(1).toInt();
-    const QTime time(number / 100, number % 100);
-    if (!match.hasMatch() || !time.isValid())
-        return false;
-    takeTime(match, time);
-    return true;
-}
-
-void Reader::settleTime()
-{
-    if (!m_time)
-        m_time = m_relativeTime;
-    m_result.hasTime = m_time.has_value();
-    if (!m_time && m_date) {
-        m_result.isAllDay = true;
-        m_time = QTime(0, 0);
+    const auto daysTo = [this](const QString &name, int atLeast) {
+        const int days = placeOf(name, Weekdays) - m_today.dayOfWeek();
+        return days < atLeast ? days + DaysPerWeek : days;
+    };
+    if (const auto match = claim(day); match.hasMatch()) {
+        const QString word = match.captured().toCaseFolded();
+        return m_today.addDays(word == u"today" ? 0 : word == u"tomorrow" ? 1 : -1);
     }
-    if (!m_time) {
-        const QDateTime rounded = roundedUp(m_now);
-        m_result.start = rounded;
-        return;
+    if (const auto match = claim(nextWeekday); match.hasMatch())
+        return m_today.addDays(daysTo(match.captured(1), 1));
+    if (const auto match = claim(weekday); match.hasMatch())
+        return m_today.addDays(daysTo(match.captured(1), 0));
+    if (const auto match = claim(inSome); match.hasMatch()) {
+        const bool isWeeks = match.capturedView(2).startsWith(u'w', Qt::CaseInsensitive);
+        return ifWritable(m_today.addDays(numberIn(match.capturedView(1)) * (isWeeks ? DaysPerWeek : 1)));
     }
-    const QDate date = m_date.value_or(m_today);
-    // An invalid time must not pass for midnight.
-    if (date.isValid() && m_time->isValid()) {
-        m_result.start = m_now;
-        m_result.start.setDate(date);
-        m_result.start.setTime(*m_time);
+    if (const auto match = claim(dayOfMonth); match.hasMatch()) {
+        const int month = placeOf(match.captured(1), Months);
+        const int dayNumber = match.capturedView(2).toInt();
+        const QDate thisYear(m_today.year(), month, dayNumber);
+        const bool isOver = thisYear.isValid() && thisYear < m_today;
+        return isOver ? QDate(m_today.year() + 1, month, dayNumber) : thisYear;
     }
+    return m_relativeDate;
 }
 
-int Reader::durationMinutes()
+std::optional<Line::Times> Line::readTimes()
+{
+    static const QRegularExpression fromTo = compiled(
+        QStringLiteral(R"(\bfrom\s+(\d{1,2})(?::(\d{2}))?\s*(am|pm)?\s+to\s+(\d{1,2})(?::(\d{2}))?\s*(am|pm)?\b)"));
+    static const QRegularExpression noon = compiled(QStringLiteral(R"(\b(?:at\s+)?noon\b)"));
+    static const QRegularExpression midnight = compiled(QStringLiteral(R"(\b(?:at\s+)?midnight\b)"));
+    static const QRegularExpression at = compiled(QStringLiteral(R"(\bat\s+(\d{1,2})(?::(\d{2}))?\s*(am|pm)?\b)"));
+    static const QRegularExpression atDigits = compiled(QStringLiteral(R"(\bat\s+(\d{4})\b)"));
+    static const QRegularExpression half = compiled(QStringLiteral(R"(\b(\d{1,2})(?::(\d{2}))?\s*(am|pm)\b)"));
+
+    if (const auto match = claim(fromTo); match.hasMatch()) {
+        // "from 3 to 5pm": both are in the afternoon.
+        const QStringView startHalf = match.capturedView(match.capturedLength(3) > 0 ? 3 : 6);
+        const QStringView endHalf = match.capturedView(match.capturedLength(6) > 0 ? 6 : 3);
+        return Times{ timeOfDay(match.capturedView(1), match.capturedView(2), startHalf),
+                      timeOfDay(match.capturedView(4), match.capturedView(5), endHalf) };
+    }
+    if (claim(noon).hasMatch())
+        return Times{ QTime(12, 0), {} };
+    if (claim(midnight).hasMatch())
+        return Times{ QTime(0, 0), {} };
+    const auto single = [](const QRegularExpressionMatch &match) {
+        return Times{ timeOfDay(match.capturedView(1), match.capturedView(2), match.capturedView(3)), {} };
+    };
+    if (const auto match = claim(at); match.hasMatch())
+        return single(match);
+    if (const auto match = atDigits.match(m_text); match.hasMatch()) {
+        const QStringView digits = match.capturedView(1);
+        const QTime time = timeOfDay(digits.first(2), digits.last(2), {});
+        if (time.isValid()) { // else it is a number of something, as in "meet at 4711 Main Street"
+            claim(atDigits);
+            return Times{ time, {} };
+        }
+    }
+    if (const auto match = claim(half); match.hasMatch())
+        return single(match);
+    return std::nullopt;
+}
+
+qint64 Line::readMinutes()
 {
     static const QRegularExpression duration =
-        pattern("\\bfor\\s+(\\d+(?:\\.\\d+)?)\\s*(min|mins|minute|minutes|h|hr|hrs|hour|hours)\\b");
+        compiled(QStringLiteral(R"(\bfor\s+(\d+(?:\.\d+)?)\s*(min|mins|minute|minutes|h|hr|hrs|hour|hours)\b)"));
     const auto match = claim(duration);
     if (!match.hasMatch())
         return DefaultMinutes;
-    const double number = match.captured(1).toDouble();
-    const bool isHours = match.captured(2).startsWith(u'h', Qt::CaseInsensitive);
-    constexpr double Most = 1e6; // about two years, and no overflow
-    return int(std::min(number * (isHours ? MinutesPerHour : 1), Most));
+    const double number = match.capturedView(1).toDouble() * (isHours(match.capturedView(2)) ? MinutesPerHour : 1);
+    return static_cast<qint64>(std::min(number, static_cast<double>(LargestNumber)));
 }
 
-void Reader::settleEnd()
+void Line::settleTimes(const std::optional<QDate> &date, const std::optional<Times> &times, qint64 minutes)
 {
-    const int minutes = durationMinutes();
-    if (!m_result.start.isValid())
+    m_found.hasTime = times || m_relativeTime;
+    m_found.isAllDay = !m_found.hasTime && date;
+    const bool isOpen = !m_found.hasTime && !date;
+    const QDate startDate = date.value_or(isOpen ? m_moment.date() : m_today);
+    const QTime startTime = times ? times->start : isOpen ? m_moment.time() : m_relativeTime.value_or(QTime(0, 0));
+    const bool hasAllTimes = !times || !times->end || times->end->isValid();
+    m_found.start = hasAllTimes ? at(startDate, startTime) : QDateTime();
+    if (!m_found.start.isValid())
         return;
-    if (m_endTime && !m_endTime->isValid()) {
-        m_result.start = QDateTime(); // "from 9 to 25"
-        return;
-    }
-    QDateTime end = m_result.start;
-    if (m_endTime) {
-        end.setTime(*m_endTime);
-        if (end <= m_result.start)
-            end = end.addDays(1);
-    } else if (m_result.isAllDay) {
-        end = end.addDays(1);
-        end.setTime(QTime(0, 0));
+    if (times && times->end) {
+        m_found.end = at(startDate, *times->end);
+        if (*m_found.end <= m_found.start)
+            m_found.end = at(startDate.addDays(1), *times->end);
+    } else if (m_found.isAllDay) {
+        m_found.end = at(startDate.addDays(1), QTime(0, 0));
     } else {
-        end = end.addSecs(qint64(minutes) * 60);
+        m_found.end = m_found.start.addSecs(minutes * SecondsPerMinute);
     }
-    m_result.end = end;
+    if (!ifWritable(m_found.end->date()).isValid()) {
+        m_found.start = {};
+        m_found.end.reset();
+    }
 }
 
-QString Reader::cleanedTitle() const
+QDateTime Line::at(QDate date, QTime time) const
 {
-    static const QRegularExpression preposition = pattern("^(?:on|at|for)\\s+|\\s+(?:on|at|for)$");
-    static const QRegularExpression intent = pattern("^(?:to|that|about)\\s+");
-    QList<Span> spans = m_spans;
-    std::sort(spans.begin(), spans.end(), [](const Span &a, const Span &b) { return a.start < b.start; });
-    QString title;
-    qsizetype reached = 0;
-    for (const Span &span : std::as_const(spans)) {
-        if (span.start > reached)
-            title += QStringView(m_text).mid(reached, span.start - reached);
-        reached = std::max(reached, span.start + span.length);
+    // "in 30 min" within the hour that a clock change repeats: the clock alone would give the first one.
+    if (date == m_moment.date() && time == m_moment.time())
+        return m_moment;
+    return WallClock(m_now).at(date, time);
+}
+
+QString Line::unclaimed()
+{
+    std::ranges::sort(m_claimed);
+    QString rest;
+    qsizetype done = 0;
+    for (const auto &[from, to] : std::as_const(m_claimed)) {
+        if (from > done)
+            rest += QStringView(m_text).sliced(done, from - done);
+        done = std::max(done, to);
     }
-    title += QStringView(m_text).mid(reached);
-    title = title.simplified().remove(preposition).simplified();
-    if (m_result.isReminder || m_result.isTask)
-        title = title.remove(intent).simplified();
-    return title;
+    rest += QStringView(m_text).sliced(done);
+    return rest;
+}
+
+QString Line::title()
+{
+    static const QRegularExpression looseEnds = compiled(QStringLiteral(R"(^(?:on|at|for)\s+|\s+(?:on|at|for)$)"));
+    static const QRegularExpression introduction = compiled(QStringLiteral(R"(^(?:to|that|about)\s+)"));
+    const QString title = unclaimed().remove(looseEnds).simplified();
+    if (!m_found.isReminder && !m_found.isTask)
+        return title;
+    return QString(title).remove(introduction).simplified();
 }
 
 }
 
 ParsedQuickAdd NLParser::parse(const QString &text, const QDateTime &now)
 {
-    const QString trimmed = text.trimmed();
-    if (!trimmed.isEmpty())
-        return Reader(trimmed, now).read();
-    ParsedQuickAdd nothing;
-    nothing.start = roundedUp(now);
-    return nothing;
+    return Line(text, now).read();
 }

@@ -4,9 +4,6 @@
 #include <QDate>
 #include <QHash>
 #include <QLocale>
-#include <QStringList>
-
-#include <cstdlib>
 
 namespace {
 
@@ -17,28 +14,38 @@ class Tr {
     Q_DECLARE_TR_FUNCTIONS(RruleFormat)
 };
 
-struct Day {
-    int ordinal = 0; ///< 0: every such day
-    QString code;
+struct WeekdayRule {
+    int ordinal = 0; ///< negative counts from the end of the month; 0: every one
+    QString day; ///< a two-letter code, or whatever stands there
 };
 
-Day parseDay(const QString &token)
+/// A token of BYDAY: "MO", "+2TU", "-1FR".
+WeekdayRule weekdayRule(const QString &token)
 {
-    qsizetype end = !token.isEmpty() && (token.front() == u'+' || token.front() == u'-') ? 1 : 0;
-    while (end < token.size() && token.at(end).isDigit())
+    qsizetype end = 0;
+    while (end < token.size() && (token[end].isDigit() || (end == 0 && (token[0] == u'+' || token[0] == u'-'))))
         ++end;
-    return { token.left(end).toInt(), token.mid(end) };
+    return { .ordinal = token.left(end).toInt(), .day = token.mid(end) };
 }
 
 QString dayName(const QString &code)
 {
-    const QHash<QString, QString> names{
-        { QStringLiteral("MO"), Tr::tr("Mon") }, { QStringLiteral("TU"), Tr::tr("Tue") },
-        { QStringLiteral("WE"), Tr::tr("Wed") }, { QStringLiteral("TH"), Tr::tr("Thu") },
-        { QStringLiteral("FR"), Tr::tr("Fri") }, { QStringLiteral("SA"), Tr::tr("Sat") },
-        { QStringLiteral("SU"), Tr::tr("Sun") }
-    };
-    return names.value(code.toUpper(), code.toUpper());
+    const QString upper = code.toUpper();
+    if (upper == u"MO")
+        return Tr::tr("Mon");
+    if (upper == u"TU")
+        return Tr::tr("Tue");
+    if (upper == u"WE")
+        return Tr::tr("Wed");
+    if (upper == u"TH")
+        return Tr::tr("Thu");
+    if (upper == u"FR")
+        return Tr::tr("Fri");
+    if (upper == u"SA")
+        return Tr::tr("Sat");
+    if (upper == u"SU")
+        return Tr::tr("Sun");
+    return upper;
 }
 
 QString ordinalWord(int ordinal)
@@ -59,18 +66,16 @@ QString ordinalWord(int ordinal)
     case -2:
         return Tr::tr("second-to-last");
     default:
-        return ordinal > 0 ? Tr::tr("%1st", "6 and above").arg(ordinal)
-                           : Tr::tr("%1th-from-last").arg(std::abs(ordinal));
+        return ordinal > 0 ? Tr::tr("%1st").arg(ordinal) : Tr::tr("%1th-from-last").arg(qAbs(qint64(ordinal)));
     }
 }
 
 QString dayOfMonth(int day)
 {
-    if (day >= 11 && day <= 13)
-        return Tr::tr("%1th").arg(day);
-    switch (day % 10) {
+    const bool isTeen = day >= 11 && day <= 13;
+    switch (isTeen ? 0 : day % 10) {
     case 1:
-        return Tr::tr("%1st", "day of the month").arg(day);
+        return Tr::tr("%1st").arg(day);
     case 2:
         return Tr::tr("%1nd").arg(day);
     case 3:
@@ -80,49 +85,63 @@ QString dayOfMonth(int day)
     }
 }
 
+/// The parts of a rule by their name in upper case.
+using Parts = QHash<QString, QString>;
+
+Parts partsOf(const QString &rule)
+{
+    Parts parts;
+    for (const QString &part : rule.split(u';', Qt::SkipEmptyParts)) {
+        const qsizetype equals = part.indexOf(u'=');
+        if (equals >= 0)
+            parts.insert(part.left(equals).toUpper(), part.mid(equals + 1));
+    }
+    return parts;
+}
+
 QString head(const QString &frequency, int interval)
 {
-    const bool isEvery = interval == 1;
     if (frequency == u"DAILY")
-        return isEvery ? Tr::tr("Repeats daily") : Tr::tr("Every %1 days").arg(interval);
+        return interval == 1 ? Tr::tr("Repeats daily") : Tr::tr("Every %1 days").arg(interval);
     if (frequency == u"WEEKLY")
-        return isEvery ? Tr::tr("Repeats weekly") : Tr::tr("Every %1 weeks").arg(interval);
+        return interval == 1 ? Tr::tr("Repeats weekly") : Tr::tr("Every %1 weeks").arg(interval);
     if (frequency == u"MONTHLY")
-        return isEvery ? Tr::tr("Repeats monthly") : Tr::tr("Every %1 months").arg(interval);
+        return interval == 1 ? Tr::tr("Repeats monthly") : Tr::tr("Every %1 months").arg(interval);
     if (frequency == u"YEARLY")
-        return isEvery ? Tr::tr("Repeats yearly") : Tr::tr("Every %1 years").arg(interval);
+        return interval == 1 ? Tr::tr("Repeats yearly") : Tr::tr("Every %1 years").arg(interval);
     return Tr::tr("Repeats");
 }
 
-QString days(const QHash<QString, QString> &rule)
+QString placeInMonth(const QString &byDay, const QString &byMonthDay)
 {
-    const bool isMonthly = rule.value(QStringLiteral("FREQ")) == u"MONTHLY";
-    const QString byDay = rule.value(QStringLiteral("BYDAY"));
-    if (!byDay.isEmpty() && !isMonthly) {
-        QStringList names;
-        const QStringList tokens = byDay.split(u',');
-        for (const QString &token : tokens) {
-            if (const Day day = parseDay(token.trimmed()); !day.code.isEmpty())
-                names.append(dayName(day.code));
-        }
-        return names.join(QStringLiteral(", "));
-    }
     if (!byDay.isEmpty()) {
-        const Day day = parseDay(byDay.section(u',', 0, 0).trimmed());
-        return day.ordinal == 0 ? dayName(day.code)
-                                : Tr::tr("on the %1 %2", "last Fri").arg(ordinalWord(day.ordinal), dayName(day.code));
+        const auto [ordinal, day] = weekdayRule(byDay.section(u',', 0, 0).trimmed());
+        //: as in "on the second Tue" of a month
+        return ordinal == 0 ? dayName(day) : Tr::tr("on the %1 %2").arg(ordinalWord(ordinal), dayName(day));
     }
-    const int monthDay = rule.value(QStringLiteral("BYMONTHDAY")).section(u',', 0, 0).trimmed().toInt();
-    return isMonthly && monthDay > 0 ? Tr::tr("on the %1", "22nd").arg(dayOfMonth(monthDay)) : QString();
+    const int day = byMonthDay.section(u',', 0, 0).toInt();
+    //: as in "on the 22nd" of a month
+    return day > 0 ? Tr::tr("on the %1").arg(dayOfMonth(day)) : QString();
 }
 
-QString end(const QHash<QString, QString> &rule)
+QString weekdays(const QString &byDay)
 {
-    if (const QString count = rule.value(QStringLiteral("COUNT")); !count.isEmpty())
-        return count.toInt() > 0 ? Tr::tr("%n time(s)", nullptr, count.toInt()) : QString();
-    const QString until = rule.value(QStringLiteral("UNTIL"));
-    const qsizetype time = until.indexOf(u'T');
-    const QDate date = QDate::fromString(time > 0 ? until.left(time) : until, QStringLiteral("yyyyMMdd"));
+    QStringList names;
+    for (const QString &token : byDay.split(u',')) {
+        if (const QString day = weekdayRule(token.trimmed()).day; !day.isEmpty())
+            names.append(dayName(day));
+    }
+    return names.join(QLatin1StringView(", "));
+}
+
+QString ending(const QString &count, const QString &until)
+{
+    if (!count.isEmpty()) {
+        const int times = count.toInt();
+        return times > 0 ? Tr::tr("%n time(s)", nullptr, times) : QString();
+    }
+    const qsizetype timeAt = until.indexOf(u'T');
+    const QDate date = QDate::fromString(timeAt > 0 ? until.left(timeAt) : until, QStringLiteral("yyyyMMdd"));
     //: the last day of a series, as a date pattern
     return date.isValid() ? Tr::tr("until %1").arg(QLocale().toString(date, Tr::tr("MMM d, yyyy"))) : QString();
 }
@@ -133,20 +152,15 @@ QString RruleFormat::humanReadable(const QString &rule)
 {
     if (rule.isEmpty())
         return {};
-    QHash<QString, QString> values;
-    const QStringList parts = rule.split(u';', Qt::SkipEmptyParts);
-    for (const QString &part : parts) {
-        if (const qsizetype equals = part.indexOf(u'='); equals >= 0)
-            values.insert(part.left(equals).toUpper(), part.mid(equals + 1));
-    }
-    QString &frequency = values[QStringLiteral("FREQ")];
-    frequency = frequency.toUpper();
-    const QString interval = values.value(QStringLiteral("INTERVAL"));
+    const Parts parts = partsOf(rule);
+    const auto part = [&parts](const char *name) { return parts.value(QString::fromLatin1(name)); };
+    const QString frequency = part("FREQ").toUpper();
+    const QString interval = part("INTERVAL");
+
     QStringList pieces{ head(frequency, interval.isEmpty() ? 1 : interval.toInt()) };
-    for (const QString &piece : { days(values), end(values) }) {
-        if (!piece.isEmpty())
-            pieces.append(piece);
-    }
+    pieces.append(frequency == u"MONTHLY" ? placeInMonth(part("BYDAY"), part("BYMONTHDAY")) : weekdays(part("BYDAY")));
+    pieces.append(ending(part("COUNT"), part("UNTIL")));
+    pieces.removeAll(QString());
     return pieces.join(QStringLiteral(" · "));
 }
 
@@ -157,6 +171,6 @@ QString RruleFormat::humanReadableReminder(int minutes)
     if (minutes < MinutesPerHour)
         return Tr::tr("%1 min before").arg(minutes);
     if (minutes < MinutesPerDay)
-        return Tr::tr("%1 hour(s) before").arg(minutes / MinutesPerHour);
-    return Tr::tr("%1 day(s) before").arg(minutes / MinutesPerDay);
+        return Tr::tr("%n hour(s) before", nullptr, minutes / MinutesPerHour);
+    return Tr::tr("%n day(s) before", nullptr, minutes / MinutesPerDay);
 }

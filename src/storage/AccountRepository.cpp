@@ -1,5 +1,6 @@
 #include "storage/AccountRepository.h"
 
+#include "storage/CalendarRemovals.h"
 #include "storage/CalendarRepository.h"
 #include "storage/Database.h"
 #include "storage/Reorder.h"
@@ -129,6 +130,14 @@ int AccountRepository::finishInterruptedRemovals()
 
 bool AccountRepository::cascadeDeleteCalendars(const QString &accountId)
 {
+    QStringList calendarIds;
+    const QList<Calendar> all =
+        Tables::calendars().list(m_database, QStringLiteral(" WHERE account_id = ?"), { accountId });
+    std::ranges::transform(all, std::back_inserter(calendarIds), &Calendar::id);
+    CalendarRemovals *removals = m_database->removals();
+    if (removals->areLarge(calendarIds))
+        return std::ranges::all_of(calendarIds, [removals](const QString &id) { return removals->mark(id); });
+
     const QString calendars = QStringLiteral("SELECT id FROM calendars WHERE account_id = ?");
     const QString events = QStringLiteral("SELECT id FROM events WHERE calendar_id IN (%1)").arg(calendars);
     const QString tasks = QStringLiteral("SELECT id FROM tasks WHERE calendar_id IN (%1)").arg(calendars);
@@ -153,7 +162,8 @@ bool AccountRepository::cascadeDeleteCalendars(const QString &accountId)
         // The queue is gone since version 15 of the schema; its place in the order of the list remains.
         allDone = allDone && sql == queue;
     }
-    m_database->eventsPurged();
+    for (const QString &id : std::as_const(calendarIds))
+        m_database->eventsPurged(id);
     return allDone;
 }
 
@@ -230,7 +240,7 @@ bool AccountRepository::mergeCalendarsInto(const QString &fromAccountId, const Q
 
 bool AccountRepository::deleteCalendarDeep(const QString &calendarId)
 {
-    return CalendarRepository::deleteDeep(m_database, calendarId);
+    return m_database->removals()->remove(calendarId);
 }
 
 bool AccountRepository::isSameServer(const ServerIdentity &a, const ServerIdentity &b)

@@ -36,9 +36,11 @@ public:
     bool insert(const Account &account);
     bool update(const Account &account);
 
-    /// Tombstones the account and hard-deletes all its calendars with everything in them.
+    /// Tombstones the account and hard-deletes all its calendars with everything in them; see
+    /// CalendarRemovals.
     bool remove(const QString &id);
-    /// Finishes the removals that were cut off between tombstone and cascade. Returns how many.
+    /// Finishes the removals that were cut off between tombstone and cascade, or has CalendarRemovals do so.
+    /// Returns how many.
     int finishInterruptedRemovals();
     /// Hard-deletes a tombstone; a live account stays.
     bool reapTombstone(const QString &id);

@@ -1,5 +1,8 @@
 #include "storage/CalendarFilter.h"
 
+#include "storage/CalendarRemovals.h"
+#include "storage/Database.h"
+
 QString SqlList::places(qsizetype count)
 {
     return QStringList(count, QStringLiteral("?")).join(QLatin1StringView(", "));
@@ -10,20 +13,25 @@ QVariantList SqlList::values(const QStringList &texts)
     return QVariantList(texts.begin(), texts.end());
 }
 
-CalendarFilter::CalendarFilter(const QStringList &calendarIds)
+CalendarFilter::CalendarFilter(Database *database, const QStringList &calendarIds)
     : m_ids(calendarIds.begin(), calendarIds.end())
+    , m_removed(database->removals()->ids())
 {
 }
 
 QString CalendarFilter::clause() const
 {
-    if (m_ids.isEmpty() || m_ids.size() > SqlList::MaxValues)
+    const bool isPositive = !m_ids.isEmpty();
+    const qsizetype count = isPositive ? m_ids.size() : m_removed.size();
+    if (count == 0 || count > SqlList::MaxValues)
         return {};
     // The plus keeps SQLite from walking whole calendars by their index instead of the range asked for.
-    return QStringLiteral(" AND +calendar_id IN (%1)").arg(SqlList::places(m_ids.size()));
+    return QStringLiteral(" AND +calendar_id %1 (%2)")
+        .arg(isPositive ? QStringLiteral("IN") : QStringLiteral("NOT IN"), SqlList::places(count));
 }
 
 QVariantList CalendarFilter::values() const
 {
-    return m_ids.size() > SqlList::MaxValues ? QVariantList() : SqlList::values(m_ids.values());
+    const QSet<QString> &ids = m_ids.isEmpty() ? m_removed : m_ids;
+    return ids.size() > SqlList::MaxValues ? QVariantList() : SqlList::values(ids.values());
 }

@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QVariant>
 
+class Database;
+
 /// Lists of values in SQL. SQLite bounds the variables of one statement.
 namespace SqlList {
 
@@ -18,20 +20,21 @@ QVariantList values(const QStringList &texts);
 
 } // namespace SqlList
 
-/// Restricts a query to some calendars; no ids mean all of them. A list too long for one statement is
-/// applied to the rows that came back.
+/// Restricts a query to some calendars; no ids mean all but those under removal. A list too long for one
+/// statement is applied to the rows that came back.
 class CalendarFilter {
 public:
-    explicit CalendarFilter(const QStringList &calendarIds);
+    CalendarFilter(Database *database, const QStringList &calendarIds);
 
-    /// " AND calendar_id IN (…)" or nothing, and what to bind to it.
+    /// " AND calendar_id IN (…)", the opposite or nothing, and what to bind to it.
     [[nodiscard]] QString clause() const;
     [[nodiscard]] QVariantList values() const;
     [[nodiscard]] bool accepts(const QString &calendarId) const
     {
-        return m_ids.isEmpty() || m_ids.contains(calendarId);
+        return (m_ids.isEmpty() || m_ids.contains(calendarId)) && !m_removed.contains(calendarId);
     }
 
 private:
     QSet<QString> m_ids;
+    QSet<QString> m_removed;
 };

@@ -1,5 +1,6 @@
 #include "storage/CalendarRepository.h"
 
+#include "storage/CalendarRemovals.h"
 #include "storage/Database.h"
 #include "storage/Savepoint.h"
 #include "storage/Statement.h"
@@ -33,11 +34,15 @@ std::optional<Calendar> CalendarRepository::getById(const QString &id)
 
 QList<Calendar> CalendarRepository::getDeleted()
 {
-    return Tables::calendars().list(m_database, QStringLiteral(" WHERE deleted_at IS NOT NULL"));
+    QList<Calendar> calendars = Tables::calendars().list(m_database, QStringLiteral(" WHERE deleted_at IS NOT NULL"));
+    calendars.removeIf([this](const Calendar &c) { return m_database->removals()->ids().contains(c.id); });
+    return calendars;
 }
 
 bool CalendarRepository::insert(const Calendar &calendar)
 {
+    if (!m_database->removals()->finish(calendar.id))
+        return false;
     return announce(Tables::calendars().insert(m_database, calendar, "CalendarRepository::insert failed:"));
 }
 
@@ -69,7 +74,7 @@ bool CalendarRepository::remove(const QString &id)
 
 bool CalendarRepository::removeDeep(const QString &id)
 {
-    return announce(deleteDeep(m_database, id));
+    return announce(m_database->removals()->remove(id));
 }
 
 bool CalendarRepository::setVisible(const QString &id, bool visible)
@@ -115,7 +120,7 @@ bool CalendarRepository::deleteDeep(Database *database, const QString &id)
         qWarning().noquote() << "CalendarRepository::deleteDeep failed:" << statement.errorText() << "\n " << sql;
         allDone = false;
     }
-    database->eventsPurged();
+    database->eventsPurged(id);
     return allDone && savepoint.commit();
 }
 

@@ -19,14 +19,14 @@ public:
     QList<Calendar> getAll(); ///< live, in the user's order, then by name
     QList<Calendar> getByAccount(const QString &accountId);
     std::optional<Calendar> getById(const QString &id); ///< live only
-    QList<Calendar> getDeleted(); ///< tombstones
+    QList<Calendar> getDeleted(); ///< tombstones, without those under removal
 
     bool insert(const Calendar &calendar);
     bool update(const Calendar &calendar);
     bool softDelete(const QString &id); ///< hides it, with its events, until a sync has acted
     bool restore(const QString &id);
     bool remove(const QString &id); ///< only for a row with no children
-    bool removeDeep(const QString &id); ///< with everything in it
+    bool removeDeep(const QString &id); ///< with everything in it; see CalendarRemovals
     bool setVisible(const QString &id, bool visible);
     bool setDefault(const QString &id); ///< leaves exactly one default
 

@@ -1,5 +1,7 @@
 #include "storage/Database.h"
 
+#include "storage/CalendarRemovals.h"
+
 #include <QDebug>
 #include <QSqlDriver>
 #include <QSqlError>
@@ -8,6 +10,7 @@
 Database::Database(QObject *parent)
     : QObject(parent)
 {
+    m_removals = new CalendarRemovals(this);
 }
 
 Database::~Database()
@@ -35,6 +38,7 @@ bool Database::open(const QString &path)
 
 void Database::close()
 {
+    m_removals->pause();
     m_prepared.clear();
     m_savepointDepth = 0;
     m_isTransactionLost = false;

@@ -7,6 +7,7 @@
 #include <memory>
 #include <unordered_map>
 
+class CalendarRemovals;
 class QSqlQuery;
 
 /// The program's one connection to its SQLite file, and the migrations that bring the file up to date.
@@ -42,11 +43,16 @@ public:
     /// Counts the changes of events by anything else than EventRepository (a calendar or an account
     /// went with all it held), and the rollbacks of such.
     [[nodiscard]] quint64 eventPurges() const { return m_eventPurges; }
-    void eventsPurged()
+    /// Without a calendar anything may have changed.
+    void eventsPurged(const QString &calendarId = {})
     {
         ++m_eventPurges;
         dataWritten();
+        emit purged(calendarId);
     }
+
+    /// Deletes calendars; those under removal are no longer there for any reader.
+    [[nodiscard]] CalendarRemovals *removals() const { return m_removals; }
 
     /// How many Savepoints are open.
     [[nodiscard]] int savepointDepth() const { return m_savepointDepth; }
@@ -54,6 +60,8 @@ public:
 signals:
     void migrationApplied(int version, const QString &name);
     void migrationError(int version, const QString &message);
+    /// All events of a calendar went at once. An empty id means that any event may have changed.
+    void purged(const QString &calendarId);
 
 private:
     friend class Savepoint;
@@ -74,6 +82,7 @@ private:
     void checkTransaction();
 
     QSqlDatabase m_db;
+    CalendarRemovals *m_removals = nullptr;
     bool m_isOpen = false;
     std::unordered_map<QString, std::unique_ptr<QSqlQuery>, TextHash> m_prepared;
     int m_savepointDepth = 0;

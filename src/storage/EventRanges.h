@@ -1,6 +1,7 @@
 #pragma once
 
 #include "models/Event.h"
+#include "storage/EventSelection.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -8,10 +9,12 @@
 #include <QSet>
 #include <QStringList>
 
+#include <limits>
 #include <map>
 #include <set>
 #include <utility>
 
+class CalendarFilter;
 class Database;
 class Statement;
 
@@ -19,19 +22,25 @@ class Statement;
 ///
 /// Most events are short, so an index scan over their starts from a week before the range finds them.
 /// What such a scan would miss is kept in memory: series, overrides, events without an end, and long
-/// ones. That memory is read once and follows the writes it is told of; it is read anew after
-/// Database::eventPurges() has changed.
+/// ones. That memory is read once, in order of rowid, and follows the writes it is told of. Whoever has
+/// an event loop lets it catch up slice by slice; a read finishes what is left.
 class EventRanges {
 public:
     explicit EventRanges(Database *database);
 
-    /// See EventRepository::getInRange.
+    /// See EventRepository::getInRange, getOverrides and select.
     QList<Event> inRange(const QDateTime &start, const QDateTime &end, const QStringList &calendarIds);
-    /// See EventRepository::getOverrides.
     QList<Event> overridesOf(const QStringList &masterUids, const QStringList &calendarIds);
+    EventSelection select(const QDateTime &start, const QDateTime &end, const QStringList &calendarIds);
 
     void onWritten(const Event &event); ///< inserted or replaced
     void onTouched(const QString &id); ///< changed in some column, or deleted
+    void onPurged(const QString &calendarId); ///< see Database::purged
+
+    /// Whether a read finds all it needs in memory.
+    [[nodiscard]] bool isCaughtUp() const { return m_isLoaded && !m_isProvisional && m_stale.isEmpty(); }
+    /// Reads on for about \p sliceMs. False if the database refuses. Does nothing inside a Savepoint.
+    bool catchUp(int sliceMs);
 
 private:
     using Key = std::pair<QByteArray, qint64>; // start as it is stored, rowid: the order of the results
@@ -39,19 +48,33 @@ private:
         Event event;
         QByteArray endText; // null for a row without an end
     };
+    struct Window {
+        Window(const QDateTime &start, const QDateTime &end);
+        QString startText;
+        QString endText;
+        QByteArray startDigits; // the same, to compare with what is kept
+        QByteArray endDigits;
+
+        [[nodiscard]] bool isValid() const { return !startText.isEmpty() && !endText.isEmpty(); }
+        [[nodiscard]] bool holds(const Key &key, const Standing &row) const;
+    };
+    static constexpr qint64 BeforeAllRows = std::numeric_limits<qint64>::min();
+
+    EventSelection rowsIn(const Window &window, const CalendarFilter &filter);
+    void addOverrides(EventSelection &selection, const Window &window, const CalendarFilter &filter) const;
+    QList<Event> shortOnes(const Window &window, const CalendarFilter &filter, QList<Key> &keys) const;
 
     void refresh();
-    void load();
-    void readAgain(const QStringList &ids);
+    void startOver();
+    bool loadNextRows();
+    bool readAgain(const QStringList &ids);
     void add(Statement &rows);
     void forget(const QString &id);
-    QList<Event> shortOnes(const QString &start, const QString &end, const QStringList &calendarIds,
-                           QList<Key> &keys) const;
 
     Database *m_database;
     bool m_isLoaded = false;
     bool m_isProvisional = false; // read inside a Savepoint, which may yet be rolled back
-    quint64 m_purges = 0;
+    qint64 m_loadedTo = BeforeAllRows; // rowid
     std::map<Key, Standing> m_standing;
     QHash<QString, Key> m_keys; // by event id
     QHash<QString, std::set<Key>> m_overrides; // by the UID of their series

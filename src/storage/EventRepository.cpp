@@ -1,5 +1,6 @@
 #include "storage/EventRepository.h"
 
+#include "storage/CalendarFilter.h"
 #include "storage/ChangeNotifier.h"
 #include "storage/Database.h"
 #include "storage/EventRanges.h"
@@ -10,8 +11,11 @@
 #include "storage/Tables.h"
 
 #include <QDebug>
+#include <QTimer>
 
 namespace {
+
+constexpr int SliceMs = 8;
 
 QString calendarOf(Database *database, const QString &eventId)
 {
@@ -25,9 +29,15 @@ EventRepository::EventRepository(Database *database, QObject *parent)
     : QObject(parent)
     , m_database(database)
     , m_notifier(new ChangeNotifier(this))
+    , m_catchUp(new QTimer(this))
     , m_ranges(std::make_unique<EventRanges>(database))
 {
     connect(m_notifier, &ChangeNotifier::changed, this, &EventRepository::eventsChanged);
+    connect(m_catchUp, &QTimer::timeout, this, &EventRepository::catchUp);
+    connect(database, &Database::purged, this, [this](const QString &calendarId) {
+        m_ranges->onPurged(calendarId);
+        catchUpSoon();
+    });
 }
 
 EventRepository::~EventRepository() = default;
@@ -49,6 +59,11 @@ QList<Event> EventRepository::getInRange(const QDateTime &start, const QDateTime
     return m_ranges->inRange(start, end, calendarIds);
 }
 
+EventSelection EventRepository::select(const QDateTime &start, const QDateTime &end, const QStringList &calendarIds)
+{
+    return m_ranges->select(start, end, calendarIds);
+}
+
 QList<Event> EventRepository::getOverrides(const QStringList &masterUids, const QStringList &calendarIds)
 {
     return m_ranges->overridesOf(masterUids, calendarIds);
@@ -62,18 +77,20 @@ std::optional<Event> EventRepository::getById(const QString &id)
 QList<Event> EventRepository::search(const QString &text, int limit)
 {
     const QString pattern = u'%' + text + u'%';
-    return EventRows::list(
-        m_database,
-        QStringLiteral(" WHERE deleted_at IS NULL AND (title LIKE ? OR location LIKE ? OR description"
-                       " LIKE ?) ORDER BY start_time ASC LIMIT ?"),
-        { pattern, pattern, pattern, limit });
+    const CalendarFilter anyCalendar(m_database, {});
+    const QString tail =
+        QStringLiteral(" WHERE deleted_at IS NULL AND (title LIKE ? OR location LIKE ? OR description LIKE ?)")
+        + anyCalendar.clause() + QStringLiteral(" ORDER BY start_time ASC LIMIT ?");
+    return EventRows::list(m_database, tail,
+                           QVariantList{ pattern, pattern, pattern } + anyCalendar.values() + QVariantList{ limit });
 }
 
 QList<Event> EventRepository::findByRelatedToUid(const QString &uid)
 {
-    return EventRows::list(m_database,
-                           QStringLiteral(" WHERE related_to_uid = ? AND deleted_at IS NULL ORDER BY start_time ASC"),
-                           { uid });
+    const CalendarFilter anyCalendar(m_database, {});
+    const QString tail = QStringLiteral(" WHERE related_to_uid = ? AND deleted_at IS NULL") + anyCalendar.clause()
+        + QStringLiteral(" ORDER BY start_time ASC");
+    return EventRows::list(m_database, tail, QVariantList{ uid } + anyCalendar.values());
 }
 
 std::optional<Event> EventRepository::getByUid(const QString &uid, const QString &calendarId)
@@ -125,8 +142,7 @@ bool EventRepository::insert(const Event &event)
     if (!savepoint.isActive() || !Tables::events().insert(m_database, row, "EventRepository::insert failed:")
         || !EventRows::insertChildren(m_database, row) || !savepoint.commit())
         return false;
-    m_ranges->onWritten(row);
-    notifyChanged(row.calendarId);
+    onWritten(row);
     return true;
 }
 
@@ -158,8 +174,7 @@ bool EventRepository::update(const Event &event)
     if (!Tables::events().update(m_database, row, "EventRepository::update failed:")
         || !EventRows::replaceChildren(m_database, row) || !savepoint.commit())
         return false;
-    m_ranges->onWritten(row);
-    notifyChanged(row.calendarId);
+    onWritten(row);
     return true;
 }
 
@@ -189,7 +204,7 @@ bool EventRepository::remove(const QString &id)
         QStringLiteral("UPDATE events SET deleted_at = ?, sync_status = 'pending', last_modified = ? WHERE id = ?");
     if (!runStatement(m_database, "EventRepository::remove failed:", sql, { now, now, id }))
         return false;
-    m_ranges->onTouched(id);
+    onTouched(id);
     notifyChanged(calendarId);
     return true;
 }
@@ -209,7 +224,7 @@ bool EventRepository::hardDelete(const QString &id)
                       "EventRepository::hardDelete failed:", QStringLiteral("DELETE FROM events WHERE id = ?"), { id })
         || !savepoint.commit())
         return false;
-    m_ranges->onTouched(id);
+    onTouched(id);
     notifyChanged(calendarId);
     return true;
 }
@@ -220,7 +235,7 @@ bool EventRepository::markSynced(const QString &id, const QString &href, const Q
                       QStringLiteral("UPDATE events SET href = ?, etag = ?, sync_status = 'synced' WHERE id = ?"),
                       { StoredAs::NullableText::store(href), StoredAs::NullableText::store(etag), id }))
         return false;
-    m_ranges->onTouched(id);
+    onTouched(id);
     m_database->dataWritten();
     return true;
 }
@@ -242,6 +257,46 @@ bool EventRepository::restoreDeleted(const Event &event)
     const bool ok = insert(row);
     qInfo().noquote() << "[Undo] re-inserted row" << row.id << "title=" << row.title << "ok=" << ok;
     return ok;
+}
+
+void EventRepository::warmUp()
+{
+    m_isKeptWarm = true;
+    m_catchUp->start(0);
+}
+
+bool EventRepository::isWarm() const
+{
+    return m_ranges->isCaughtUp();
+}
+
+void EventRepository::catchUpSoon()
+{
+    if (m_isKeptWarm && !m_catchUp->isActive() && !m_ranges->isCaughtUp())
+        m_catchUp->start(0);
+}
+
+void EventRepository::catchUp()
+{
+    const bool goesOn = m_ranges->catchUp(SliceMs) && !m_ranges->isCaughtUp();
+    if (goesOn)
+        return;
+    // What the database refused is left to the next read.
+    m_catchUp->stop();
+    emit warmedUp();
+}
+
+void EventRepository::onWritten(const Event &event)
+{
+    m_ranges->onWritten(event);
+    catchUpSoon();
+    notifyChanged(event.calendarId);
+}
+
+void EventRepository::onTouched(const QString &id)
+{
+    m_ranges->onTouched(id);
+    catchUpSoon();
 }
 
 void EventRepository::notifyChanged(const QString &calendarId)

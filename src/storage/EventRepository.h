@@ -1,6 +1,7 @@
 #pragma once
 
 #include "models/Event.h"
+#include "storage/EventSelection.h"
 
 #include <QList>
 #include <QObject>
@@ -12,6 +13,7 @@
 class ChangeNotifier;
 class Database;
 class EventRanges;
+class QTimer;
 
 /// Table `events` with `reminders` and `attendees`. Every read gives whole records, children included.
 /// Each write is atomic; on a database error it returns false, logs, and changes nothing.
@@ -25,6 +27,11 @@ public:
     /// To open a Savepoint around several writes.
     [[nodiscard]] Database *database() const { return m_database; }
 
+    /// Range reads need much of the table at hand. From here on that is read, and kept up with writes, in
+    /// slices of the event loop. A range read before warmedUp() is as right, but reads all that is left.
+    void warmUp();
+    [[nodiscard]] bool isWarm() const;
+
     QList<Event> getByCalendar(const QString &calendarId);
     QList<Event> getByCalendarIncludingDeleted(const QString &calendarId);
 
@@ -34,6 +41,9 @@ public:
     /// The stored texts are compared digit by digit and not as instants: a caller that needs instants
     /// asks for a day more on each side, and looks again (see VisibleEvents).
     QList<Event> getInRange(const QDateTime &start, const QDateTime &end, const QStringList &calendarIds);
+
+    /// The same rows, and the overrides of the series among them wherever they moved to, not copied.
+    EventSelection select(const QDateTime &start, const QDateTime &end, const QStringList &calendarIds);
 
     /// The live overrides of these series in these calendars, wherever they moved to.
     QList<Event> getOverrides(const QStringList &masterUids, const QStringList &calendarIds);
@@ -71,11 +81,19 @@ public:
 signals:
     /// 150 ms after the last write of a burst. \p calendarId is the last one touched, not the only one.
     void eventsChanged(const QString &calendarId);
+    /// Range reads are fast now: after warmUp(), and after each catching up with writes.
+    void warmedUp();
 
 private:
+    void catchUp();
+    void catchUpSoon();
+    void onWritten(const Event &event);
+    void onTouched(const QString &id);
     void notifyChanged(const QString &calendarId);
 
     Database *m_database;
     ChangeNotifier *m_notifier;
+    QTimer *m_catchUp;
+    bool m_isKeptWarm = false;
     std::unique_ptr<EventRanges> m_ranges;
 };

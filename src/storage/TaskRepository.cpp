@@ -155,7 +155,7 @@ QList<Task> TaskRepository::getByCalendarIncludingDeleted(const QString &calenda
 
 QList<Task> TaskRepository::getInDueRange(const QDateTime &start, const QDateTime &end, const QStringList &calendarIds)
 {
-    const CalendarFilter filter(calendarIds);
+    const CalendarFilter filter(m_database, calendarIds);
     const QVariant from = start.toString(Qt::ISODate);
     const QVariant to = end.toString(Qt::ISODate);
     const QString tail = QStringLiteral(" WHERE deleted_at IS NULL"
@@ -167,7 +167,7 @@ QList<Task> TaskRepository::getInDueRange(const QDateTime &start, const QDateTim
 
 QList<Task> TaskRepository::getUndated(const QStringList &calendarIds)
 {
-    const CalendarFilter filter(calendarIds);
+    const CalendarFilter filter(m_database, calendarIds);
     const QString tail =
         QStringLiteral(" WHERE deleted_at IS NULL AND due_date IS NULL AND status NOT IN ('completed', 'cancelled')")
         + filter.clause() + QStringLiteral(" ORDER BY sort_order, last_modified DESC");
@@ -186,7 +186,11 @@ std::optional<Task> TaskRepository::getByUid(const QString &uid, const QString &
 
 std::optional<Task> TaskRepository::findByUid(const QString &uid)
 {
-    return firstTask(m_database, QStringLiteral(" WHERE uid = ? AND deleted_at IS NULL LIMIT 1"), { uid });
+    const CalendarFilter anyCalendar(m_database, {});
+    return firstTask(m_database,
+                     QStringLiteral(" WHERE uid = ? AND deleted_at IS NULL") + anyCalendar.clause()
+                         + QStringLiteral(" LIMIT 1"),
+                     QVariantList{ uid } + anyCalendar.values());
 }
 
 QList<Task> TaskRepository::getPending(const QString &calendarId)

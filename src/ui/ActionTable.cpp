@@ -46,6 +46,7 @@ QAction *ActionTable::add(const Row &row)
     m_order.append(action);
     m_byId.insert(row.id, action);
     m_groups.insert(action, row.group);
+    m_helpTexts.insert(action, row.helpText);
     if (row.needsCalendar)
         m_needCalendar.append(action);
     return action;
@@ -72,7 +73,8 @@ QList<ShortcutInfo> ActionTable::shortcuts() const
         const QString group = m_groups.value(action);
         if (!groups.contains(group))
             groups.append(group);
-        byGroup[group].append({ group, withoutMnemonic(action->text()), action->shortcuts() });
+        const QString help = m_helpTexts.value(action);
+        byGroup[group].append({ group, help.isEmpty() ? withoutMnemonic(action->text()) : help, action->shortcuts() });
     }
     QList<ShortcutInfo> result;
     for (const QString &group : std::as_const(groups))

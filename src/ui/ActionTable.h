@@ -20,6 +20,7 @@ public:
         QString id{}; ///< for action()
         QString group{}; ///< heading in the keyboard help
         QString text{}; ///< as a menu shows it
+        QString helpText{}; ///< as the keyboard help shows it; empty: the text
         QList<QKeySequence> keys{}; ///< alternatives; a key that an earlier row has is left out
         std::function<void()> run{};
         bool needsCalendar = false; ///< disabled while there is no calendar
@@ -47,5 +48,6 @@ private:
     QList<QAction *> m_needCalendar;
     QHash<QString, QAction *> m_byId;
     QHash<QAction *, QString> m_groups;
+    QHash<QAction *, QString> m_helpTexts;
     QList<QKeySequence> m_takenKeys;
 };

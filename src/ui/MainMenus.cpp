@@ -79,6 +79,7 @@ void MainMenus::buildEditMenu()
     m_undo = m_table->add({ .id = QStringLiteral("undo"),
                             .group = tr("General"),
                             .text = tr("&Undo"),
+                            .helpText = tr("Undo (drag/resize/delete)"),
                             .keys = ActionTable::keysFor(QKeySequence::Undo, Qt::CTRL | Qt::Key_Z),
                             .run = [this] { m_window->undo(); } });
     menu->addAction(m_undo);

@@ -98,6 +98,7 @@ void MainWindow::buildActions()
     connect(m_eventActions, &EventActions::filterFromEventRequested, this, &MainWindow::onFilterFromEvent);
     connect(m_state->undoStack(), &UndoStack::undone, this,
             [this](const QString &summary) { showMessage(tr("Undid: %1").arg(summary)); });
+    connect(m_state->undoStack(), &UndoStack::failed, this, &MainWindow::showMessage);
 }
 
 void MainWindow::buildCentralPanes()

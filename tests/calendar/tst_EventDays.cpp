@@ -71,9 +71,7 @@ private slots:
         // The event shows on each of its days, and on none other.
         for (QDate day = Day.addDays(-3); day <= last.addDays(3); day = day.addDays(1))
             QCOMPARE(EventDays::overlaps(event, day, 1), day >= Day && day <= last);
-        QVERIFY(EventDays::overlaps(event, Day.addDays(-10), 100));
-        QVERIFY(EventDays::overlaps(event, Day.addDays(-6), 7));
-        QVERIFY(!EventDays::overlaps(event, Day.addDays(-7), 7));
+        QVERIFY(EventDays::overlaps(event, Day.addDays(-6), 7) && !EventDays::overlaps(event, Day.addDays(-7), 7));
         QVERIFY(!EventDays::overlaps(event, Day, 0));
     }
 

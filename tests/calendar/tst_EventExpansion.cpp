@@ -93,18 +93,6 @@ private slots:
         QCOMPARE(instances({ first, series(u"a"_s, 2), second }, 2, 4), u"a@2 second@3"_s);
         QCOMPARE(instances({ first, second }, 2, 4), u"second@3"_s);
     }
-
-    void manyOverrides()
-    {
-        QList<Event> events{ series(u"a"_s, 1) };
-        events.first().recurrenceRule = u"FREQ=DAILY"_s;
-        for (int day = 1; day <= 20'000; ++day)
-            events.append(overrideRow(u"a"_s, day, march(day)));
-        // Every second one belongs to no occurrence, as its minute is another.
-        for (qsizetype i = 1; i < events.size(); i += 2)
-            events[i].recurrenceId = events.at(i).startTime.addSecs(60).toString(u"yyyyMMdd'T'HHmmss'Z'");
-        QCOMPARE(EventExpansion::expand(events, march(1), march(9'001)).size(), 9'000 + 20'000 - 4'500);
-    }
 };
 
 QTEST_GUILESS_MAIN(tst_EventExpansion)

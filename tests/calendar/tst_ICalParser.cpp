@@ -57,6 +57,7 @@ private slots:
         QCOMPARE(event.title, expected);
         QCOMPARE(event.description, expected);
         QCOMPARE(event.location, expected);
+        QCOMPARE(ICalParser::unescapeText(ICalParser::escapeText(expected)), expected);
     }
 
     void otherProperties()
@@ -77,6 +78,11 @@ private slots:
         event.rawIcalendar.clear();
         QCOMPARE(event, expected);
         QCOMPARE(eventOf("SEQUENCE:many").sequence, 0);
+
+        const Event override = eventOf("RECURRENCE-ID;TZID=Asia/Tokyo:20260315T050000");
+        QCOMPARE(override.recurrenceId + override.masterEventUid, u"20260314T200000Zu"_s);
+        QCOMPARE(eventOf("RECURRENCE-ID;VALUE=DATE:20260315").recurrenceId, u"20260315T000000Z"_s);
+        QCOMPARE(eventOf("RECURRENCE-ID:the third").recurrenceId, u"the third"_s);
     }
 
     void startTimes_data()
@@ -85,19 +91,16 @@ private slots:
         row("date", "DTSTART;VALUE=DATE:20260315", "2026-03-15", "UTC");
         row("leap day without its parameter", "DTSTART:20240229", "2024-02-29", "UTC");
         row("UTC", "DTSTART:20260315T090000Z", "2026-03-15T09:00:00Z", "UTC");
-        row("winter", "DTSTART;TZID=Europe/Paris:20260315T090000", "2026-03-15T08:00:00Z", "Europe/Paris");
-        row("summer", "dtstart;tzid=Europe/Paris:20260715T090000", "2026-07-15T07:00:00Z", "Europe/Paris");
+        row("zone", "dtstart;tzid=Europe/Paris:20260315T090000", "2026-03-15T08:00:00Z", "Europe/Paris");
         row("zone and Z", "DTSTART;TZID=Europe/Paris:20260315T090000Z", "2026-03-15T09:00:00Z", "Europe/Paris");
         row("quoted, with a colon", "DTSTART;TZID=\"tzone://Microsoft/Utc\";X=1:20260315T090000",
             "2026-03-15T09:00:00Z", "UTC");
         row("Windows", "DTSTART;TZID=Eastern Standard Time:20260315T090000", "2026-03-15T13:00:00Z",
             "America/New_York");
-        // RFC 5545 §3.3.5: the offset before the gap; the first of two.
+        // RFC 5545 §3.3.5: the offset before the gap.
         row("in the gap", "DTSTART;TZID=Europe/Paris:20260329T023000", "2026-03-29T01:30:00Z", "Europe/Paris");
-        row("in the overlap", "DTSTART;TZID=Europe/Paris:20261025T023000", "2026-10-25T00:30:00Z", "Europe/Paris");
         row("floating", "DTSTART:20260315T090000", "2026-03-15T09:00:00", "UTC");
         row("unknown zone", "DTSTART;TZID=Nowhere:20260315T090000", "2026-03-15T09:00:00", "Nowhere");
-        row("empty zone", "DTSTART;TZID=:20260315T090000", "2026-03-15T09:00:00", "UTC");
         for (const char *value : { "20260230", "20261315T090000Z", "20260315T250000Z", "20260315Z",
                                    "20260315T090000.5Z", "20260315T090000+0100", "2026-03-15T09:00:00", "2026031ß" })
             row(value, QLatin1StringView("DTSTART:") + QString::fromUtf8(value), "", "UTC");
@@ -114,13 +117,10 @@ private slots:
     void endTimes_data()
     {
         columns<QString, QString>("lines", "expected"); // of an event at 09:00
-        row("DTEND", "DTEND:20260315T103000Z", "2026-03-15T10:30:00Z");
         row("90 minutes", "DURATION:PT90M", "2026-03-15T10:30:00Z");
         row("duration first, days of a date", "DURATION:P2D\nDTSTART:20260315", "2026-03-17");
-        row("zero duration", "DURATION:PT0S", "");
         row("negative duration", "DURATION:-PT1H", "");
         row("DTEND before DURATION", "DTEND:20260315T100000Z\nDURATION:PT5H", "2026-03-15T10:00:00Z");
-        row("DTEND after DURATION", "DURATION:PT5H\nDTEND:20260315T100000Z", "2026-03-15T10:00:00Z");
         row("unreadable DTEND, DURATION", "DURATION:PT5H\nDTEND:soon", "");
         row("duration over a clock change", "DTSTART;TZID=Europe/Paris:20260329T013000\nDURATION:PT1H",
             "2026-03-29T01:30:00Z");
@@ -135,15 +135,6 @@ private slots:
         QTEST(shown(event.endTime.value_or(QDateTime()), event.isAllDay), "expected");
     }
 
-    void recurrenceIds()
-    {
-        const Event event = eventOf("RECURRENCE-ID;TZID=Asia/Tokyo:20260315T050000");
-        QCOMPARE(event.recurrenceId, u"20260314T200000Z"_s);
-        QCOMPARE(event.masterEventUid, u"u"_s);
-        QCOMPARE(eventOf("RECURRENCE-ID;VALUE=DATE:20260315").recurrenceId, u"20260315T000000Z"_s);
-        QCOMPARE(eventOf("RECURRENCE-ID:the third").recurrenceId, u"the third"_s);
-    }
-
     void exceptionDates_data()
     {
         columns<QString, QString>("lines", "expected");
@@ -155,7 +146,6 @@ private slots:
             u"EXDATE:20260309T080000Z\n"_s + timed + u"EXDATE;TZID=\"W. Europe Standard Time\":20260316T090000"_s,
             R"(["20260309T080000Z","20260316T080000Z"])");
         row("floating", "DTSTART:20260302T090000\nEXDATE:20260309T090000", R"(["20260309T090000"])");
-        row("dates", allDay + u"EXDATE;VALUE=DATE:20260309,20260316"_s, R"(["20260309","20260316"])");
         // 09:00 in Paris, before and after the clock change of 29 March.
         row("dates of a timed series, before DTSTART",
             u"EXDATE;VALUE=DATE:20260309,20260330\n"_s + timed + u"EXDATE:20260316T080000Z"_s,
@@ -188,11 +178,9 @@ private slots:
         row("audio", "ACTION:Audio\nTRIGGER;RELATED=START:-PT5M", 5, "audio");
         row("absurdly long before", "TRIGGER:-P999999999999W", std::numeric_limits<int>::max() / 60, "display");
         row("after", "ACTION:DISPLAY\nTRIGGER:PT15M", -1, "");
-        row("seconds after", "ACTION:DISPLAY\nTRIGGER:+PT15S", -1, "");
         row("before the end", "ACTION:DISPLAY\nTRIGGER;RELATED=end:-PT15M", -1, "");
         row("absolute", "ACTION:DISPLAY\nTRIGGER;VALUE=DATE-TIME:20260315T080000Z", -1, "");
         row("mail", "ACTION:EMAIL\nTRIGGER:-PT15M\nATTENDEE:mailto:a@e.org", -1, "");
-        row("no trigger", "ACTION:DISPLAY", -1, "");
     }
     void reminders()
     {
@@ -209,24 +197,7 @@ private slots:
         QCOMPARE(event.uid + event.title + event.location, u"uLunchHere"_s);
     }
 
-    void organizers_data()
-    {
-        columns<QString, QString, QString>("line", "email", "name");
-        row("plain", "ORGANIZER;CN=Jane:mailto:jane@e.org", "jane@e.org", "Jane");
-        row("quoted name, upper case", "ORGANIZER;CN=\"Doe, Jane\":MAILTO:jane", "jane", "\"Doe, Jane\"");
-        row("in quotes", "ORGANIZER;SENT-BY=\"mailto:x@e.org\";CN=\"a;CN=b:c\":mailto:jane", "jane", "\"a;CN=b:c\"");
-        row("quote never closed", "ORGANIZER;CN=\"Jane:mailto:jane", "jane", "\"Jane");
-        row("parameter without value", "ORGANIZER;CN;=x;:jane@e.org", "jane@e.org", "");
-    }
-    void organizers()
-    {
-        QFETCH(QString, line);
-        const Event event = eventOf(line.toUtf8());
-        QTEST(event.organizerEmail, "email");
-        QTEST(event.organizerName, "name");
-    }
-
-    void attendees()
+    void people()
     {
         const Event event = eventOf("ATTENDEE;CUTYPE=INDIVIDUAL;PARTSTAT=ACCEPTED;CN=\"Doe, Jane\";RSVP=TRUE:jane\n"
                                     "ATTENDEE;ROLE=OPT-PARTICIPANT;PARTSTAT=declined;RSVP=FALSE:MAILTO:bob@e.org\n"
@@ -238,6 +209,15 @@ private slots:
         QCOMPARE(found,
                  QStringList({ u"jane|Doe, Jane|required|accepted|INDIVIDUAL|1"_s, u"bob@e.org||optional|declined||0"_s,
                                u"urn:uuid:1||chair|needs-action|ROOM|0"_s }));
+
+        const auto organizer = [](const QByteArray &line) {
+            const Event invitation = eventOf("ORGANIZER" + line);
+            return invitation.organizerEmail + u'|' + invitation.organizerName;
+        };
+        QCOMPARE(organizer(";CN=\"Doe, Jane\":MAILTO:jane"), u"jane|\"Doe, Jane\""_s);
+        QCOMPARE(organizer(";SENT-BY=\"mailto:x@e.org\";CN=\"a;CN=b:c\":mailto:jane"), u"jane|\"a;CN=b:c\""_s);
+        QCOMPARE(organizer(";CN=\"Jane:mailto:jane"), u"jane|\"Jane"_s); // never closed
+        QCOMPARE(organizer(";CN;=x;:jane@e.org"), u"jane@e.org|"_s);
     }
 
     void keepsTheTextOfTheEvent()
@@ -259,15 +239,13 @@ private slots:
         columns<QByteArray, QString>("text", "uids");
         const QByteArray a = "BEGIN:VEVENT\nUID:a\nEND:VEVENT\n";
         const QByteArray b = "BEGIN:VEVENT\nUID:b\nEND:VEVENT\n";
-        row("byte order mark, no final line end", QByteArray("\xEF\xBB\xBF" + a + b.chopped(1)), "a b");
-        row("mixed line ends", QByteArray(QByteArray(a).replace("\n", "\r\n") + b), "a b");
+        row("byte order mark, mixed line ends",
+            QByteArray("\xEF\xBB\xBF" + QByteArray(a).replace("\n", "\r\n") + b.chopped(1)), "a b");
         row("cut off", QByteArray(a + b.chopped(3)), "a");
         row("cut off, then another", QByteArray(a.chopped(11) + b), "b");
         row("stray ends", QByteArray("END:VEVENT\n" + a + "END:VALARM\nEND:VEVENT\n" + b), "a b");
         row("alarm never closed", QByteArray("BEGIN:VEVENT\nUID:a\nBEGIN:VALARM\nUID:x\nEND:VEVENT\n" + b), "a b");
         row("alarm never opened", QByteArray("BEGIN:VEVENT\nEND:VALARM\nUID:a\nEND:VEVENT\n" + b), "a b");
-        row("without a UID", QByteArray("BEGIN:VEVENT\nSUMMARY:x\nEND:VEVENT\n" + b), "b");
-        row("one UID twice", QByteArray(a + a), "a a");
         row("other components", QByteArray("BEGIN:VTODO\nUID:x\nEND:VTODO\n" + a), "a");
         row("binary", QByteArray(QByteArray("\0\xFF\xFE\x01:;\"\r\r\n ", 12).repeated(500) + "\n" + a), "a");
         row("begins with a fold", QByteArray(" x\n" + a), "a");
@@ -278,135 +256,63 @@ private slots:
         QTEST(uidsOf(ICalParser::parse(text)), "uids");
     }
 
-    void countsWhatItSkips()
-    {
-        ICalParser::EventReader reader("BEGIN:VEVENT\nDTSTART:20260315\nEND:VEVENT\nBEGIN:VEVENT\nUID:\nEND:VEVENT\n"
-                                       "BEGIN:VEVENT\nUID:a\nDTSTART:soon\nEND:VEVENT\n"
-                                       "BEGIN:VEVENT\nUID:b\nDTSTART:20260315\nEND:VEVENT\n"_ba);
-        QCOMPARE(uidsOf(reader.read(100, reader.size())), u"a b"_s);
-        QCOMPARE(reader.skipped(), (ICalParser::Skipped{ .withoutUid = 2, .withoutStart = 1 }));
-        QVERIFY(reader.atEnd());
-    }
-
-    void keepsALimitOnAbsurdEvents()
-    {
-        const QByteArray alarm = "BEGIN:VALARM\r\nTRIGGER:-PT5M\r\nEND:VALARM\r\n";
-        const QByteArray text = "DTSTART:20260302T090000Z\r\n" + QByteArray("ATTENDEE:a\r\n").repeated(1001)
-            + alarm.repeated(101) + "EXDATE:" + QByteArray("20260303T090000Z,").repeated(9000)
-            + "\r\nEXDATE:" + QByteArray("20260304T090000Z,").repeated(1001);
-        const Event event = eventOf(text);
-        QCOMPARE(event.attendees.size(), 1000);
-        QCOMPARE(event.reminders.size(), 100);
-        QCOMPARE(event.exceptionDates.count(u'Z'), 10'000);
-        QVERIFY(event.rawIcalendar.contains(QString::fromLatin1(text)));
-    }
-
-    void leavesOutWhatIsTooLarge_data()
-    {
-        columns<QByteArray, int, bool>("line", "times", "isKept");
-        constexpr int limit = 16 * 1024 * 1024;
-        const QByteArray line = "X-LINE:" + QByteArray(1015, 'x') + "\r\n"; // 1 KiB
-        row("one line", QByteArray("X-LINE:" + QByteArray(limit, 'x') + "\r\n"), 1, false);
-        row("many lines", line, limit / 1024, false);
-        row("many lines, not too many", line, limit / 1024 - 1, true);
-    }
     void leavesOutWhatIsTooLarge()
     {
-        QFETCH(QByteArray, line);
-        QFETCH(int, times);
-        QFETCH(bool, isKept);
-        ICalParser::EventReader reader("BEGIN:VEVENT\r\nUID:a\r\n" + line.repeated(times)
-                                       + "END:VEVENT\r\nBEGIN:VEVENT\r\nUID:b\r\nEND:VEVENT\r\n");
-        QCOMPARE(uidsOf(reader.read(10, reader.size())), isKept ? u"a b"_s : u"b"_s);
-        QCOMPARE(reader.skipped().tooLarge, isKept ? 0 : 1);
+        constexpr int limit = 16 * 1024 * 1024;
+        const auto found = [](const QByteArray &lines) {
+            ICalParser::EventReader reader("BEGIN:VEVENT\r\nUID:a\r\n" + lines
+                                           + "END:VEVENT\r\nBEGIN:VEVENT\r\nUID:b\r\nEND:VEVENT\r\n");
+            return u"%1, %2 too large"_s.arg(uidsOf(reader.read(10, reader.size()))).arg(reader.skipped().tooLarge);
+        };
+        const QByteArray line = "X-LINE:" + QByteArray(1015, 'x') + "\r\n"; // 1 KiB
+        QCOMPARE(found("X-LINE:" + QByteArray(limit, 'x') + "\r\n"), u"b, 1 too large"_s);
+        QCOMPARE(found(line.repeated(limit / 1024)), u"b, 1 too large"_s);
+        QCOMPARE(found(line.repeated(limit / 1024 - 1)), u"a b, 0 too large"_s);
     }
 
-    void readsTheSameInSlices_data()
-    {
-        columns<int, qsizetype>("maxEvents", "maxBytes");
-        row("three events", 3, qsizetype(1'000'000));
-        row("one byte", 100, qsizetype(1));
-        row("100 bytes", 2, qsizetype(100));
-    }
     void readsTheSameInSlices()
     {
-        QFETCH(int, maxEvents);
-        QFETCH(qsizetype, maxBytes);
         QByteArray text = "BEGIN:VCALENDAR\r\n";
         for (int i = 0; i < 20; ++i)
             text += "BEGIN:VEVENT\r\nUID:" + QByteArray::number(i)
                 + "\r\nSUMMARY:a long \r\n line in \r\n three pieces\r\nEXDATE:20260316T080000Z\r\nEND:VEVENT\r\n";
-        ICalParser::EventReader reader(text);
-        QList<Event> events;
-        while (!reader.atEnd()) {
-            const qsizetype before = reader.bytesRead();
-            const QList<Event> more = reader.read(maxEvents, maxBytes);
-            QVERIFY(more.size() <= maxEvents);
-            QVERIFY(reader.bytesRead() > before);
-            events.append(more);
+        for (const auto &[maxEvents, maxBytes] : { std::pair(3, 1'000'000), std::pair(100, 1), std::pair(2, 100) }) {
+            ICalParser::EventReader reader(text);
+            QList<Event> events;
+            while (!reader.atEnd()) {
+                const qsizetype before = reader.bytesRead();
+                const QList<Event> more = reader.read(maxEvents, maxBytes);
+                QVERIFY(more.size() <= maxEvents && reader.bytesRead() > before);
+                events.append(more);
+            }
+            QCOMPARE(events.size(), 20);
+            QCOMPARE(events[19].title, u"a long line in three pieces"_s);
+            QCOMPARE(events, ICalParser::parse(text));
         }
-        QCOMPARE(events.size(), 20);
-        QCOMPARE(events[19].title, u"a long line in three pieces"_s);
-        QCOMPARE(events, ICalParser::parse(text));
     }
 
-    void aSliceEndsWithinJunk_data()
-    {
-        columns<QByteArray>("piece");
-        row("lines", "no event here\n"_ba);
-        row("one line with many folds", "x\n "_ba);
-        row("begins without an end", "BEGIN:VEVENT\n"_ba);
-        row("ends without a UID", "BEGIN:VEVENT\nEND:VEVENT\n"_ba);
-    }
     void aSliceEndsWithinJunk()
     {
-        QFETCH(QByteArray, piece);
-        ICalParser::EventReader reader(piece.repeated(20'000));
-        QVERIFY(reader.read(10, 1000).isEmpty());
-        QVERIFY(reader.bytesRead() >= 1000 && reader.bytesRead() < 1100);
-        QVERIFY(reader.read(10, reader.size()).isEmpty());
-        QVERIFY(reader.atEnd());
+        for (const char *piece : { "no event here\n", "x\n ", "BEGIN:VEVENT\n", "BEGIN:VEVENT\nEND:VEVENT\n" }) {
+            ICalParser::EventReader reader(QByteArray(piece).repeated(20'000));
+            QVERIFY2(reader.read(10, 1000).isEmpty(), piece);
+            QVERIFY2(reader.bytesRead() >= 1000 && reader.bytesRead() < 1100, piece);
+            QVERIFY2(reader.read(10, reader.size()).isEmpty() && reader.atEnd(), piece);
+        }
     }
 
-    void durations_data()
+    void durationsAndTriggers()
     {
-        columns<QString, qint64>("text", "seconds");
-        row("RFC 5545 §3.3.6", "P15DT5H0M20S", qint64(15) * 86'400 + 5 * 3'600 + 20);
-        row("RFC 5545 §3.3.6, weeks", "P7W", qint64(7) * 604'800);
-        row("months", "P1M", qint64(30) * 86'400);
-        row("hours outside the time part", "P5H3S", qint64(0));
-        row("unknown letter takes its number", "P5X2D", qint64(2) * 86'400);
-        for (const char *text : { "", "-PT1H", "1H", "PT5" })
-            row(text, QString::fromLatin1(text), qint64(0));
-    }
-    void durations()
-    {
-        QFETCH(QString, text);
-        QTEST(ICalParser::parseDurationSeconds(text), "seconds");
-    }
-
-    void triggers()
-    {
+        const auto seconds = [](QStringView text) { return ICalParser::parseDurationSeconds(text); };
+        QCOMPARE(seconds(u"P15DT5H0M20S"), qint64(15) * 86'400 + 5 * 3'600 + 20); // RFC 5545 §3.3.6
+        QCOMPARE(seconds(u"P7W"), qint64(7) * 604'800);
+        QCOMPARE(seconds(u"P1M"), qint64(30) * 86'400);
+        QCOMPARE(seconds(u"P5X2D"), qint64(2) * 86'400); // an unknown letter takes its number
+        for (const QStringView text : { u"", u"-PT1H", u"1H", u"PT5", u"P5H3S" })
+            QCOMPARE(seconds(text), 0);
         QCOMPARE(ICalParser::parseTriggerMinutes(u" PT15M "), 15); // after counts as before
-        QCOMPARE(ICalParser::parseTriggerMinutes(u"+PT1H"), 60);
         QCOMPARE(ICalParser::parseTriggerMinutes(u"-PT119S"), 1);
-        for (const QStringView text : { u"20260315T090000Z", u"", u"-" })
-            QCOMPARE(ICalParser::parseTriggerMinutes(text), -1);
-    }
-
-    void escaping_data()
-    {
-        columns<QString, QString, QString>("text", "escaped", "readBack");
-        row("all", "a,b;c\\d\ne", "a\\,b\\;c\\\\d\\ne", "a,b;c\\d\ne");
-        row("line ends", "a\r\nb\rc\r\r\n", "a\\nb\\nc\\n\\n", "a\nb\nc\n\n");
-        row("backslash n", "\\n", "\\\\n", "\\n");
-    }
-    void escaping()
-    {
-        QFETCH(QString, text);
-        QFETCH(QString, escaped);
-        QCOMPARE(ICalParser::escapeText(text), escaped);
-        QTEST(ICalParser::unescapeText(escaped), "readBack");
+        QCOMPARE(ICalParser::parseTriggerMinutes(u"20260315T090000Z"), -1);
     }
 
     void replacesTimes_data()

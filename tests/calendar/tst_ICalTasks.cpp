@@ -64,23 +64,18 @@ private slots:
         QVERIFY(ICalParser::parseTasks("BEGIN:VTODO\nSUMMARY:x\nEND:VTODO\n"_ba).isEmpty());
     }
 
-    void privateProperties_data()
-    {
-        columns<QString, QString, QString, int>("line", "repeatMode", "itemType", "sortOrder");
-        row("completion", "REPEAT-MODE: fromCompletionDate ", "fromCompletionDate", "task", 0);
-        row("mode in another case", "REPEAT-MODE:FROMCOMPLETIONDATE", "fromDueDate", "task", 0);
-        row("reminder", "ITEM-TYPE:Reminder", "fromDueDate", "reminder", 0);
-        row("other type", "ITEM-TYPE:note", "fromDueDate", "task", 0);
-        row("order", "SORT-ORDER: 12 ", "fromDueDate", "task", 12);
-        row("negative order", "SORT-ORDER:-4", "fromDueDate", "task", 0);
-    }
     void privateProperties()
     {
-        QFETCH(QString, line);
-        const Task task = taskOf("X-QUILLON-" + line.toUtf8());
-        QTEST(task.repeatMode, "repeatMode");
-        QTEST(task.itemType, "itemType");
-        QTEST(task.sortOrder, "sortOrder");
+        const auto read = [](const QByteArray &line) {
+            const Task task = taskOf("X-QUILLON-" + line);
+            return u"%1 %2 %3"_s.arg(task.repeatMode, task.itemType).arg(task.sortOrder);
+        };
+        QCOMPARE(read("REPEAT-MODE: fromCompletionDate "), u"fromCompletionDate task 0"_s);
+        QCOMPARE(read("REPEAT-MODE:FROMCOMPLETIONDATE"), u"fromDueDate task 0"_s);
+        QCOMPARE(read("ITEM-TYPE:Reminder"), u"fromDueDate reminder 0"_s);
+        QCOMPARE(read("ITEM-TYPE:note"), u"fromDueDate task 0"_s);
+        QCOMPARE(read("SORT-ORDER: 12 "), u"fromDueDate task 12"_s);
+        QCOMPARE(read("SORT-ORDER:-4"), u"fromDueDate task 0"_s);
     }
 
     void keepsOverridesInTheTextOfTheirSeries()

@@ -2,8 +2,6 @@
 #include "support/TestData.h"
 
 #include <QElapsedTimer>
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QRandomGenerator>
 #include <QTimeZone>
 
@@ -172,25 +170,17 @@ private slots:
     {
         columns<QString, QString, QString, QString>("rule", "start", "to", "expected"); // at 09:00 each
         // 2 March 2026 is a Monday.
-        row("count", "FREQ=DAILY;COUNT=3", "2026-03-02", "2026-04-01", "03-02 03-03 03-04");
-        row("weekly from mid-week", "FREQ=WEEKLY;BYDAY=MO,WE,FR", "2026-03-04", "2026-03-10", "03-04 03-06 03-09");
         row("weeks count from the start's own", "FREQ=WEEKLY;INTERVAL=2;BYDAY=MO,WE,FR", "2026-03-08", "2026-04-01",
             "03-16 03-18 03-20 03-30");
         row("ordinals fall away", "FREQ=WEEKLY;BYDAY=2MO", "2026-03-05", "2026-03-20", "03-05 03-12 03-19");
         row("weekdays cost no count", "FREQ=DAILY;COUNT=6;BYDAY=MO,TU,WE,TH,FR", "2026-03-05", "2026-04-01",
             "03-05 03-06 03-09 03-10 03-11 03-12");
         row("month day ignored", "FREQ=MONTHLY;BYMONTHDAY=15", "2026-03-03", "2026-06-01", "03-03 04-03 05-03");
-        row("month weekday ignored", "FREQ=MONTHLY;BYDAY=1TH", "2026-03-03", "2026-05-01", "03-03 04-03");
         row("month ends stay cut", "FREQ=MONTHLY", "2026-01-31", "2026-05-01", "01-31 02-28 03-28 04-28");
-        row("leap month ends", "FREQ=MONTHLY", "2028-01-31", "2028-05-01", "01-31 02-29 03-29 04-29");
         row("month of the year ignored", "FREQ=YEARLY;BYMONTH=3", "2026-06-10", "2028-01-01", "06-10 06-10");
         row("leap day", "FREQ=YEARLY", "2024-02-29", "2029-01-01", "02-29 02-28 02-28 02-28 02-28");
-        row("leap day every fourth year", "FREQ=YEARLY;INTERVAL=4", "2024-02-29", "2033-01-01", "02-29 02-29 02-29");
-        row("always the same wrong weekday", "FREQ=DAILY;INTERVAL=7;BYDAY=TU", "2026-03-02", "2027-01-01", "");
         row("until that instant", "FREQ=DAILY;UNTIL=20260304T090000Z", "2026-03-02", "2026-04-01", "03-02 03-03 03-04");
         row("until the second before", "FREQ=DAILY;UNTIL=20260304T085959Z", "2026-03-02", "2026-04-01", "03-02 03-03");
-        row("until the start of a date", "FREQ=DAILY;UNTIL=20260304", "2026-03-02", "2026-04-01", "03-02 03-03");
-        row("until before the start", "FREQ=DAILY;UNTIL=20250101", "2026-03-02", "2026-04-01", "");
         row("no frequency, and no until either", "UNTIL=20250101", "2026-03-02", "2026-04-01", "03-02");
     }
     void rules()
@@ -244,90 +234,73 @@ private slots:
         QVERIFY(instances > 10'000); // the windows do hold something
     }
 
-    void keepsWallClock_data()
-    {
-        columns<QString, QString, QString>("zone", "rule", "expected"); // in UTC; the first is the series' start
-        row("nine o'clock over the spring change", "Europe/Berlin", "FREQ=DAILY;COUNT=3",
-            "2026-03-28T08:00 2026-03-29T07:00 2026-03-30T07:00");
-        row("a step into the gap does not stick", "Europe/Berlin", "FREQ=DAILY;COUNT=3",
-            "2026-03-28T01:30 2026-03-29T01:30 2026-03-30T00:30");
-        row("an hour that comes twice", "Europe/Berlin", "FREQ=DAILY;COUNT=3",
-            "2026-10-24T00:30 2026-10-25T00:30 2026-10-26T01:30");
-        row("begun in the second of two hours", "Europe/Berlin", "FREQ=WEEKLY;COUNT=2",
-            "2026-10-25T01:30 2026-11-01T01:30");
-        row("weekdays are those of the zone, not of UTC", "Asia/Tokyo", "FREQ=DAILY;COUNT=2;BYDAY=MO",
-            "2026-03-01T22:00 2026-03-08T22:00");
-        row("until counts instants", "Asia/Tokyo", "FREQ=DAILY;UNTIL=20260315", "2026-03-13T22:00 2026-03-14T22:00");
-    }
     void keepsWallClock()
     {
-        QFETCH(QString, zone);
-        QFETCH(QString, rule);
-        QFETCH(QString, expected);
-        const QDateTime start = utc(expected.first(16)).toTimeZone(QTimeZone(zone.toLatin1()));
-        const QList<Event> found = RruleExpander::expand(series(start, rule), start.addDays(-2), start.addDays(30));
-        QCOMPARE(startsOf(found, u"yyyy-MM-ddTHH:mm"_s), expected);
+        const auto startsIn = [](const char *zone, const char *start, const QString &rule) {
+            const QDateTime first = utc(start).toTimeZone(QTimeZone(zone));
+            return startsOf(RruleExpander::expand(series(first, rule), first, first.addDays(30)), u"d HH:mm"_s);
+        };
+        // In UTC. Berlin leaves 02:30 out on 29 March, and has it twice on 25 October.
+        QCOMPARE(startsIn("Europe/Berlin", "2026-03-28T01:30", u"FREQ=DAILY;COUNT=3"_s),
+                 u"28 01:30 29 01:30 30 00:30"_s);
+        QCOMPARE(startsIn("Europe/Berlin", "2026-10-24T00:30", u"FREQ=DAILY;COUNT=3"_s),
+                 u"24 00:30 25 00:30 26 01:30"_s);
+        QCOMPARE(startsIn("Europe/Berlin", "2026-10-25T01:30", u"FREQ=WEEKLY;COUNT=2"_s), u"25 01:30 1 01:30"_s);
+        // Half an hour left out, midnight left out, and a whole day left out.
+        QCOMPARE(startsIn("Australia/Lord_Howe", "2026-10-02T15:45", u"FREQ=DAILY;COUNT=2"_s), u"2 15:45 3 15:45"_s);
+        QCOMPARE(startsIn("America/Sao_Paulo", "2017-10-14T03:00", u"FREQ=DAILY;COUNT=2"_s), u"14 03:00 15 03:00"_s);
+        QCOMPARE(startsIn("Pacific/Apia", "2011-12-29T19:00", u"FREQ=DAILY;COUNT=3"_s),
+                 u"29 19:00 30 19:00 30 19:00"_s);
+        // Monday morning in Tokyo; an end that counts instants.
+        QCOMPARE(startsIn("Asia/Tokyo", "2026-03-01T22:00", u"FREQ=DAILY;COUNT=2;BYDAY=MO"_s), u"1 22:00 8 22:00"_s);
+        QCOMPARE(startsIn("Asia/Tokyo", "2026-03-13T22:00", u"FREQ=DAILY;UNTIL=20260315"_s), u"13 22:00 14 22:00"_s);
     }
 
-    void leavesOutExceptions_data()
-    {
-        columns<QString, int>("exceptions", "left"); // of three in Berlin, 09:00 from 2 March
-        row("instant in UTC", R"(["20260303T080000Z"])", 2);
-        row("another instant", R"(["20260303T090000Z"])", 3);
-        row("two of them, unsorted", R"(["20260304T080000Z","20260302T080000Z"])", 1);
-        row("a date is midnight in UTC", R"(["20260303"])", 3);
-        row("other elements are passed over", R"([20260303,null,"","x","20260303T080000Z"])", 2);
-        row("no array", R"({"a":"20260303T080000Z"})", 3);
-        row("no JSON", "20260303T080000Z", 3);
-        row("local time", utc("2026-03-03T08:00").toLocalTime().toString(u"'[\"'yyyyMMdd'T'HHmmss'\"]'"), 2);
-    }
     void leavesOutExceptions()
     {
-        QFETCH(QString, exceptions);
         Event event = series(inZone("Europe/Berlin", QDate(2026, 3, 2), QTime(9, 0)), u"FREQ=DAILY;COUNT=3"_s);
-        event.exceptionDates = exceptions;
-        QTEST(int(RruleExpander::expand(event, utc("2026-03-01"), utc("2026-04-01")).size()), "left");
+        const auto left = [&event](const QString &exceptions) {
+            event.exceptionDates = exceptions;
+            return RruleExpander::expand(event, utc("2026-03-01"), utc("2026-04-01")).size();
+        };
+        QCOMPARE(left(uR"(["20260303T080000Z"])"_s), 2);
+        QCOMPARE(left(uR"(["20260303T090000Z"])"_s), 3);
+        QCOMPARE(left(uR"(["20260304T080000Z","20260302T080000Z"])"_s), 1); // unsorted
+        QCOMPARE(left(uR"(["20260303"])"_s), 3); // midnight in UTC
+        QCOMPARE(left(uR"([20260303,null,"","x","20260303T080000Z"])"_s), 2);
+        QCOMPARE(left(u"20260303T080000Z"_s), 3); // no JSON
+        QCOMPARE(left(utc("2026-03-03T08:00").toLocalTime().toString(u"'[\"'yyyyMMdd'T'HHmmss'\"]'")), 2);
     }
 
-    void window_data()
-    {
-        // The length of each instance, begun at 09:00 each day of March; the days found.
-        columns<int, QDateTime, QDateTime, QString>("minutes", "from", "to", "expected");
-        row("ends as the window begins", 60, utc("2026-03-05T10:00"), utc("2026-03-06"), "");
-        row("ends within", 61, utc("2026-03-05T10:00"), utc("2026-03-06"), "5");
-        row("begins as the window ends", 60, utc("2026-03-05"), utc("2026-03-05T09:00"), "");
-        row("begins within", 60, utc("2026-03-05"), utc("2026-03-05T09:00:01"), "5");
-        row("no length, at the window's begin", 0, utc("2026-03-05T09:00"), utc("2026-03-06"), "");
-        row("no length, within", 0, utc("2026-03-05T08:59:59"), utc("2026-03-06"), "5");
-        row("longer than the step", 3 * 1440, utc("2026-03-08"), utc("2026-03-08T01:00"), "5 6 7");
-        row("ends before it begins", -60, utc("2026-03-05"), utc("2026-03-06"), "5");
-        row("a window the wrong way round", 60, utc("2026-03-06"), utc("2026-03-05"), "");
-    }
     void window()
     {
-        QFETCH(int, minutes);
-        QFETCH(QDateTime, from);
-        QFETCH(QDateTime, to);
-        const Event event = series(utc("2026-03-01T09:00"), u"FREQ=DAILY"_s, minutes);
-        QTEST(startsOf(RruleExpander::expand(event, from, to), u"d"_s), "expected");
+        // The days of March found, of instances at 09:00 each day.
+        const auto days = [](int minutes, const char *from, const char *to) {
+            const Event event = series(utc("2026-03-01T09:00"), u"FREQ=DAILY"_s, minutes);
+            return startsOf(RruleExpander::expand(event, utc(from), utc(to)), u"d"_s);
+        };
+        QCOMPARE(days(60, "2026-03-05T10:00", "2026-03-06"), u""_s);
+        QCOMPARE(days(61, "2026-03-05T10:00", "2026-03-06"), u"5"_s);
+        QCOMPARE(days(60, "2026-03-05", "2026-03-05T09:00"), u""_s);
+        QCOMPARE(days(0, "2026-03-05T09:00", "2026-03-06"), u""_s);
+        QCOMPARE(days(0, "2026-03-05T08:59:59", "2026-03-06"), u"5"_s);
+        QCOMPARE(days(3 * 1440, "2026-03-08", "2026-03-08T01:00"), u"5 6 7"_s);
+        QCOMPARE(days(-60, "2026-03-05", "2026-03-06"), u"5"_s); // ends before it begins
+        QCOMPARE(days(60, "2026-03-06", "2026-03-05"), u""_s);
     }
 
-    void singleEvents_data()
-    {
-        columns<QDateTime, QDateTime, bool>("start", "end", "isFound");
-        const QDateTime from = utc("2026-03-02");
-        row("ends as the window begins", from.addSecs(-60), from, false);
-        row("begins as the window ends", from.addDays(1), from.addDays(2), false);
-        row("without end, however old", from.addYears(-40), QDateTime(), true);
-        row("without start", QDateTime(), from.addDays(1), false);
-    }
     void singleEvents()
     {
-        QFETCH(QDateTime, start);
-        QFETCH(QDateTime, end);
-        Event event = series(start, QString());
-        event.endTime = end.isValid() ? std::optional(end) : std::nullopt;
-        QTEST(RruleExpander::expand(event, utc("2026-03-02"), utc("2026-03-03")) == QList<Event>{ event }, "isFound");
+        const QDateTime from = utc("2026-03-02");
+        const auto isFound = [&](const QDateTime &start, const std::optional<QDateTime> &end) {
+            Event event = series(start, QString());
+            event.endTime = end;
+            return RruleExpander::expand(event, from, from.addDays(1)) == QList<Event>{ event };
+        };
+        QVERIFY(!isFound(from.addSecs(-60), from));
+        QVERIFY(!isFound(from.addDays(1), from.addDays(2)));
+        QVERIFY(isFound(from.addYears(-40), std::nullopt));
+        QVERIFY(!isFound(QDateTime(), from.addDays(1)));
     }
 
     void occurrenceIsCopyOfMaster()
@@ -364,60 +337,26 @@ private slots:
         constexpr qint64 farthest = std::numeric_limits<qint64>::max();
         const QDateTime dawn = QDateTime::fromMSecsSinceEpoch(-farthest, Qt::UTC);
         const QDateTime dusk = QDateTime::fromMSecsSinceEpoch(farthest, Qt::UTC);
-        const QList<QDateTime> starts{ dawn,
-                                       QDateTime(QDate(-4000, 2, 28), QTime(9, 0), zone),
-                                       QDateTime(QDate(2024, 1, 31), QTime(9, 0), zone),
-                                       QDateTime(QDate(2024, 2, 29), QTime(9, 0)),
-                                       QDateTime(QDate(99'999, 12, 31), QTime(9, 0), zone),
-                                       dusk,
-                                       QDateTime() };
+        const QDateTime leapDay(QDate(2024, 2, 29), QTime(9, 0), zone);
         QElapsedTimer timer;
         timer.start();
-        const auto check = [](Event event, const QDateTime &from, const QDateTime &to) {
-            const int most = event.startTime.isValid() ? RruleExpander::MaxInstances : 0;
-            QVERIFY2(RruleExpander::expand(event, from, to).size() <= most, qPrintable(event.recurrenceRule));
-        };
         for (const char *rule :
              { "FREQ=DAILY", "FREQ=DAILY;INTERVAL=2147483647", "FREQ=DAILY;INTERVAL=2147483646;BYDAY=MO",
-               "FREQ=DAILY;INTERVAL=2147483647;BYDAY=MO", "FREQ=WEEKLY;INTERVAL=2147483647;BYDAY=MO,SU",
-               "FREQ=WEEKLY;BYDAY=MO", "FREQ=MONTHLY;INTERVAL=2147483647", "FREQ=MONTHLY",
-               "FREQ=YEARLY;INTERVAL=2147483647", "FREQ=YEARLY;INTERVAL=1000", "FREQ=YEARLY;COUNT=2147483647",
-               "FREQ=DAILY;UNTIL=99991231T235959Z" }) {
-            for (const QDateTime &start : starts) {
+               "FREQ=WEEKLY;INTERVAL=2147483647;BYDAY=MO,SU", "FREQ=WEEKLY;BYDAY=MO",
+               "FREQ=MONTHLY;INTERVAL=2147483647", "FREQ=MONTHLY", "FREQ=YEARLY;INTERVAL=1000",
+               "FREQ=YEARLY;COUNT=2147483647" }) {
+            for (const QDateTime &start :
+                 { dawn, leapDay.addYears(-6000), leapDay, leapDay.addYears(97'000), dusk, {} }) {
                 Event event = series(start, QString::fromLatin1(rule));
-                for (const std::optional<QDateTime> &end : { std::optional<QDateTime>(), std::optional(dawn),
-                                                             std::optional(QDateTime()), std::optional(start) }) {
+                for (const QDateTime &end : { dawn, QDateTime(), start, dusk }) {
                     event.endTime = end;
-                    check(event, dawn, start.addDays(40));
-                    check(event, start.addDays(9'000), start.addDays(9'040));
-                    check(event, dusk, dawn);
+                    for (const auto &[from, to] : { std::pair(dawn, start.addDays(40)), std::pair(dusk, dawn),
+                                                    std::pair(start.addDays(9'000), start.addDays(9'040)) })
+                        QVERIFY2(RruleExpander::expand(event, from, to).size() <= RruleExpander::MaxInstances, rule);
                 }
-                event.endTime = dusk;
-                check(event, start.addDays(90), start.addDays(91));
             }
         }
-        check(series(inZone("Asia/Kolkata", QDate(2024, 2, 29), QTime(9, 0)), u"FREQ=DAILY"_s), dawn, dusk);
         QVERIFY2(timer.elapsed() < 60'000, "takes too long"); // far above what it takes under sanitizers
-    }
-
-    void manyExceptions()
-    {
-        const QDateTime start = utc("2000-01-01T09:00");
-        QJsonArray dates;
-        for (int i = 0; i < 30'000; ++i)
-            dates.append(start.addDays(i % 9'000).toString(u"yyyyMMdd'T'HHmmss'Z'"));
-        Event event = series(start, u"FREQ=DAILY"_s);
-        event.exceptionDates = QString::fromUtf8(QJsonDocument(dates).toJson());
-        QCOMPARE(RruleExpander::expand(event, start, start.addYears(50)).size(), 1'000);
-    }
-
-    void recurrenceId()
-    {
-        QCOMPARE(RruleExpander::formatRecurrenceId(inZone("America/New_York", QDate(2026, 7, 4), QTime(21, 5, 9))),
-                 u"20260705T010509Z"_s);
-        QCOMPARE(RruleExpander::formatRecurrenceId(utc("0001-01-01")), u"00010101T000000Z"_s);
-        QCOMPARE(RruleExpander::formatRecurrenceId(utc("1969-12-31T23:59:59").addMSecs(999)), u"19691231T235959Z"_s);
-        QCOMPARE(RruleExpander::formatRecurrenceId(QDateTime()), QString());
     }
 };
 

@@ -10,18 +10,14 @@ private slots:
     void find_data()
     {
         columns<QString, QByteArray>("tzid", "expected"); // empty: none
-        row("three parts", "America/Argentina/Ushuaia", "America/Argentina/Ushuaia"_ba);
-        row("no area", "Japan", "Japan"_ba);
+        row("no area, fixed offset", "Etc/GMT+5", "Etc/GMT+5"_ba);
         row("UTC in another case", "utc", "UTC"_ba);
-        row("fixed offset", "Etc/GMT+5", "Etc/GMT+5"_ba);
-        row("quoted, with blanks", " \" Europe/Paris \" ", "Europe/Paris"_ba);
+        row("quoted, with blanks", " \" Japan \" ", "Japan"_ba);
         row("Windows", "W. Europe Standard Time", "Europe/Berlin"_ba);
-        row("Windows, old spelling", "India Standard Time", "Asia/Calcutta"_ba);
         row("path", "/softwarestudio.org/Tzfile/20070129_1/America/New_York", "America/New_York"_ba);
         row("path, three parts", "/example.com/America/Argentina/Ushuaia", "America/Argentina/Ushuaia"_ba);
         row("path to a name without area", "tzone://Microsoft/Utc", "UTC"_ba);
         row("prefix", "custom_America/New_York", "America/New_York"_ba);
-        row("leap-second copy", "right/Europe/Berlin", "Europe/Berlin"_ba);
         for (const char *tzid :
              { "", "\"", "Customized Time Zone", "Pacific1", "ABC", "Europe", "America/Argentina", "Europe/Atlantis",
                "Europe/../../../../etc/passwd", "UTC+/../Europe/Berlin..", "/dev/stdin" })
@@ -44,13 +40,6 @@ private slots:
         for (const auto *id : { "\"Europe/Paris\"", "Eastern Standard Time", "/example.com/Europe/Paris", "Foo",
                                 "../zoneinfo/Europe/Paris", "Europe/../Asia/Tokyo", "UTC+x", "" })
             QVERIFY2(!TimeZones::ianaZone(QString::fromLatin1(id)).isValid(), id);
-    }
-
-    void findsAnAnswerForEveryOfManyOddNames()
-    {
-        for (int i = 0; i < 5000; ++i)
-            QVERIFY(!TimeZones::find(u"Odd zone %1"_s.arg(i)).isValid());
-        QCOMPARE(TimeZones::find(u"Europe/Paris").id(), QByteArray("Europe/Paris"));
     }
 };
 

@@ -1,7 +1,7 @@
 #include "models/Calendar.h"
 #include "models/Event.h"
-#include "models/Task.h"
-#include "support/TestData.h"
+
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -10,46 +10,39 @@ class tst_Records : public QObject {
     Q_OBJECT
 
 private slots:
-    void reminderTexts_data()
-    {
-        columns<int, QString>("minutes", "text");
-        row("none", 0, "At time of event");
-        row("almost an hour", 59, "59 minute(s) before");
-        row("an hour", 60, "1 hour(s) before");
-        row("an hour and a half", 90, "90 minutes before");
-        row("two days", 2880, "2 day(s) before");
-        row("25 hours", 1500, "1500 minutes before");
-    }
     void reminderTexts()
     {
-        Reminder reminder;
-        QFETCH(int, minutes);
-        reminder.minutesBefore = minutes;
-        QTEST(reminder.displayText(), "text");
+        const auto text = [](int minutes) {
+            Reminder reminder;
+            reminder.minutesBefore = minutes;
+            return reminder.displayText();
+        };
+        QCOMPARE(text(0), u"At time of event"_s);
+        QCOMPARE(text(59), u"59 minute(s) before"_s);
+        QCOMPARE(text(60), u"1 hour(s) before"_s);
+        QCOMPARE(text(90), u"90 minutes before"_s);
+        QCOMPARE(text(1500), u"1500 minutes before"_s); // 25 hours
+        QCOMPARE(text(1440), u"1 day(s) before"_s);
     }
 
     void taskSupport()
     {
-        const auto supportsTasks = [](const QString &components, bool allows) {
-            Calendar calendar;
-            calendar.supportedComponents = components;
-            calendar.allowTasksOverride = allows;
-            return calendar.supportsTasks();
-        };
-        QVERIFY(supportsTasks(u"[\"VEVENT\",\"vtodo\"]"_s, false));
-        QVERIFY(!supportsTasks(u"[\"VEVENT\"]"_s, false));
-        QVERIFY(supportsTasks(u"[\"VEVENT\"]"_s, true));
-        QVERIFY(!supportsTasks(QString(), false));
+        Calendar calendar;
+        calendar.supportedComponents = u"[\"VEVENT\",\"vtodo\"]"_s;
+        QVERIFY(calendar.supportsTasks());
+        calendar.supportedComponents = u"[\"VEVENT\"]"_s;
+        QVERIFY(!calendar.supportsTasks());
+        calendar.allowTasksOverride = true;
+        QVERIFY(calendar.supportsTasks());
     }
 
     void firstReminder()
     {
         Event event;
         QCOMPARE(event.firstReminderMinutes(), std::nullopt);
-        event.reminders.resize(3);
+        event.reminders.resize(2);
         event.reminders[0].minutesBefore = 30;
         event.reminders[1].minutesBefore = 5;
-        event.reminders[2].minutesBefore = 1440;
         QCOMPARE(event.firstReminderMinutes(), 5);
     }
 };

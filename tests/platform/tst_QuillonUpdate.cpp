@@ -44,15 +44,6 @@ private slots:
         client.checkForUpdate(); // while it runs: the same question
         QTRY_COMPARE(server.requests().size(), 1);
         QCOMPARE(server.requests().constFirst().target, QByteArray("/calendar/stable/latest.json"));
-<<<<<<< HEAD
-        QCOMPARE(failed.size(), fails ? 1 : 0);
-        QCOMPARE(available.size(), offered.isEmpty() ? 0 : 1);
-        QCOMPARE(nothingNewer.size(), offered.isEmpty() && !fails ? 1 : 0);
-        if (!offered.isEmpty())
-            QCOMPARE(available.constFirst().constFirst().value<Artifact>().version, offered);
-    }
-=======
->>>>>>> prunecal
 
         // Silence is seen by asking once more: that question is only sent after the first has ended.
         server.enqueue({ .status = 200, .body = release("99").toUtf8(), .headers = {} });
@@ -63,6 +54,7 @@ private slots:
         QTRY_VERIFY(isSecond());
         QCOMPARE(server.requests().size(), 2);
         QTEST(!failed.isEmpty(), "fails");
+        QCOMPARE(nothingNewer.size(), offered.isEmpty() && failed.isEmpty() ? 1 : 0);
         QCOMPARE(available.size(), offered.isEmpty() ? 1 : 2);
         if (offered.isEmpty())
             return;

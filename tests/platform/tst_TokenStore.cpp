@@ -1,4 +1,5 @@
 #include "platform/TokenStore.h"
+#include "support/FakePortal.h"
 #include "support/TestData.h"
 
 #include <QDBusConnection>
@@ -9,7 +10,6 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -26,66 +26,51 @@ const QString AppId = u"com.quillon.calendar.test"_s;
 const QString A = u"caldav-password-a"_s;
 const QString B = u"caldav-password-b"_s;
 
-/// A session bus and a keyring daemon in folders of their own; both end with the object.
+/// A keyring daemon on a bus of its own, in folders of its own; both end with the object.
 class Keyring {
 public:
-    explicit Keyring(const QString &home)
+    ~Keyring()
     {
+        QDBusConnection::disconnectFromBus(BusName);
+        m_daemon.kill();
+        m_daemon.waitForFinished(5000);
+    }
+
+    /// Without \p password no keyring is unlocked.
+    bool start(const QString &home, const QByteArray &password)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const QString &name :
              { u"HOME"_s, u"XDG_DATA_HOME"_s, u"XDG_RUNTIME_DIR"_s, u"XDG_CONFIG_HOME"_s, u"XDG_CACHE_HOME"_s }) {
             const QString path = home + u'/' + name;
             QDir().mkpath(path);
             QFile::setPermissions(path, OwnerOnly | QFile::ExeOwner | QFile::ExeUser);
-            m_environment.insert(name, path);
+            environment.insert(name, path);
         }
-        m_environment.remove(u"DISPLAY"_s);
-        m_environment.remove(u"WAYLAND_DISPLAY"_s);
-    }
-    ~Keyring()
-    {
-        QDBusConnection::disconnectFromBus(BusName);
-        for (QProcess *process : { &m_daemon, &m_bus }) {
-            process->kill();
-            process->waitForFinished(5000);
-        }
-    }
-    Q_DISABLE_COPY_MOVE(Keyring)
-
-    static bool isInstalled()
-    {
-        return !QStandardPaths::findExecutable(u"dbus-daemon"_s).isEmpty()
-            && !QStandardPaths::findExecutable(u"gnome-keyring-daemon"_s).isEmpty();
-    }
-
-    /// Without \p password no keyring is unlocked.
-    bool start(const QByteArray &password)
-    {
-        m_bus.setProcessEnvironment(m_environment);
-        m_bus.start(u"dbus-daemon"_s, { u"--session"_s, u"--nofork"_s, u"--print-address=1"_s });
-        if (!m_bus.waitForReadyRead(10'000))
-            return false;
-        const QByteArray address = m_bus.readLine().trimmed();
-        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
-        m_environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, QString::fromLatin1(address));
+        environment.remove(u"DISPLAY"_s);
+        environment.remove(u"WAYLAND_DISPLAY"_s);
         QStringList args{ u"--foreground"_s, u"--components=secrets"_s };
         if (!password.isEmpty())
             args.append(u"--unlock"_s);
-        m_daemon.setProcessEnvironment(m_environment);
+        m_daemon.setProcessEnvironment(environment);
         m_daemon.start(u"gnome-keyring-daemon"_s, args);
         m_daemon.write(password);
         m_daemon.closeWriteChannel();
-        const auto connection = QDBusConnection::connectToBus(QString::fromLatin1(address), BusName);
-        return QTest::qWaitFor(
-            [&] { return connection.interface()->isServiceRegistered(u"org.freedesktop.secrets"_s); }, 10'000);
+        const auto connection = QDBusConnection::connectToBus(m_bus.address(), BusName);
+        return m_daemon.waitForStarted()
+            && QTest::qWaitFor(
+                   [&] { return connection.interface()->isServiceRegistered(u"org.freedesktop.secrets"_s); }, 10'000);
     }
 
-    QByteArray log() { return m_bus.readAllStandardError() + m_daemon.readAllStandardError(); }
+    QByteArray log()
+    {
+        return "this test needs dbus-daemon and gnome-keyring-daemon: " + m_daemon.readAllStandardError();
+    }
 
 private:
     static inline const QString BusName = u"keyring-test"_s;
 
-    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
-    QProcess m_bus;
+    PrivateBus m_bus;
     QProcess m_daemon;
 };
 
@@ -194,9 +179,8 @@ private slots:
 #ifndef QUILLON_HAVE_LIBSECRET
         QSKIP("built without libsecret");
 #endif
-        Keyring session(m_dir->path());
-        QVERIFY2(session.isInstalled(), "this test needs dbus-daemon and gnome-keyring-daemon");
-        QVERIFY2(session.start("correct horse"), session.log().constData());
+        Keyring session;
+        QVERIFY2(session.start(m_dir->path(), "correct horse"), session.log().constData());
         qputenv("CALENDAR_TOKEN_STORE", "");
         checkStore(u"pässwört 日本語 🔑"_s);
         QCOMPARE(TokenStore::create(AppId + u".dev"_s)->value(B), std::nullopt);
@@ -207,9 +191,8 @@ private slots:
 #ifndef QUILLON_HAVE_LIBSECRET
         QSKIP("built without libsecret");
 #endif
-        Keyring session(m_dir->path());
-        QVERIFY2(session.isInstalled(), "this test needs dbus-daemon and gnome-keyring-daemon");
-        QVERIFY2(session.start({}), session.log().constData());
+        Keyring session;
+        QVERIFY2(session.start(m_dir->path(), {}), session.log().constData());
         qputenv("CALENDAR_TOKEN_STORE", "");
         QElapsedTimer timer;
         timer.start();

@@ -50,6 +50,11 @@ private slots:
             randomWrite();
             compareRanges(2);
         }
+        QStringList many{ u"c1"_s }; // more than SQLite takes
+        for (int i = 0; i < 40'000; ++i)
+            many.append(u"other-%1"_s.arg(i));
+        QCOMPARE(m_events->getInRange(firstDay, firstDay.addDays(40), many),
+                 m_events->getInRange(firstDay, firstDay.addDays(40), { u"c1"_s }));
         const QList<Event> all = m_events->getInRange(firstDay, firstDay.addYears(1), {});
         QVERIFY(!all.isEmpty());
         for (const Event &event : all)
@@ -141,16 +146,6 @@ private slots:
             randomWrite();
         }
         QVERIFY(m_events->getOverrides({}, {}).isEmpty());
-    }
-
-    void takesManyCalendars()
-    {
-        fill();
-        QStringList ids{ u"c1"_s };
-        for (int i = 0; i < 40'000; ++i)
-            ids.append(u"other-%1"_s.arg(i));
-        QCOMPARE(m_events->getInRange(firstDay, firstDay.addDays(40), ids),
-                 m_events->getInRange(firstDay, firstDay.addDays(40), { u"c1"_s }));
     }
 
 private:

@@ -4,7 +4,6 @@
 #include "support/TestData.h"
 
 #include <QRegularExpression>
-#include <QSignalSpy>
 #include <QSqlQuery>
 #include <QTimeZone>
 
@@ -135,13 +134,6 @@ private slots:
         QCOMPARE(moved.calendarId + moved.syncStatus, u"dpending"_s);
         QVERIFY(moved.reminders.isEmpty() && moved.attendees.isEmpty());
         QVERIFY(qAbs(moved.lastModified.secsTo(QDateTime::currentDateTimeUtc())) < 60);
-    }
-
-    void readsStampsOfSqlite()
-    {
-        m_database->execute(u"INSERT INTO events (id, calendar_id, uid, title, start_time, raw_icalendar, created)"
-                            " VALUES ('e', 'c', 'u', '', '2026-05-01T00:00:00Z', '', '2026-05-01 10:20:30')"_s);
-        QCOMPARE(storedEvent(u"e"_s).created, utc("2026-05-01T10:20:30"));
     }
 
     void refusesWritesWithoutASavepoint()
@@ -346,19 +338,6 @@ private slots:
             QCOMPARE(event.attendees.size(), i % 3 == 0 ? 1 : 0);
         }
         QCOMPARE(m_events->getByCalendar(u"c"_s), read);
-    }
-
-    void gathersSignals()
-    {
-        QSignalSpy changed(m_events.get(), &EventRepository::eventsChanged);
-        Event other = meeting(u"b"_s);
-        other.calendarId = u"d"_s;
-        QVERIFY(m_events->insert(meeting(u"a"_s)) && m_events->insert(other));
-        QVERIFY(m_events->remove(u"a"_s) && m_events->hardDelete(u"b"_s));
-        QCOMPARE(changed.size(), 0);
-        QVERIFY(changed.wait());
-        QCOMPARE(changed.size(), 1);
-        QCOMPARE(changed.first().at(0).toString(), u"d"_s);
     }
 
 private:

@@ -1,11 +1,6 @@
 #include "support/ScratchState.h"
 
 #include "calendar/services/VisibleEvents.h"
-#include "models/Calendar.h"
-#include "storage/CalendarRepository.h"
-#include "storage/EventRepository.h"
-#include "storage/FilterRuleRepository.h"
-#include "storage/ViewRepository.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -82,10 +77,11 @@ ViewDef ScratchState::addGroup(const QString &name, const QStringList &calendarI
 {
     ViewDef group;
     group.id = group.name = name;
-    group.calendarIds = QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(calendarIds)).toJson());
+    group.calendarIds =
+        QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(calendarIds)).toJson(QJsonDocument::Compact));
     if (!m_state.views()->insert(group))
         qFatal("cannot store a scratch group");
-    return group;
+    return m_state.views()->getById(group.id).value();
 }
 
 FilterRule ScratchState::addFilter(const QString &name, const QString &titlePart, const QString &action)
@@ -96,10 +92,10 @@ FilterRule ScratchState::addFilter(const QString &name, const QString &titlePart
     rule.action = action;
     const QJsonObject conditions{ { QStringLiteral("runtimeType"), QStringLiteral("pattern") },
                                   { QStringLiteral("titleContains"), QJsonArray{ titlePart } } };
-    rule.conditions = QString::fromUtf8(QJsonDocument(conditions).toJson());
+    rule.conditions = QString::fromUtf8(QJsonDocument(conditions).toJson(QJsonDocument::Compact));
     if (!m_state.filterRules()->insert(rule))
         qFatal("cannot store a scratch filter");
-    return rule;
+    return m_state.filterRules()->getById(rule.id).value();
 }
 
 void ScratchState::makeReadOnly(const QString &calendarId)

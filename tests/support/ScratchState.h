@@ -5,10 +5,17 @@
 #include "models/Event.h"
 #include "models/FilterRule.h"
 #include "models/ViewDef.h"
+#include "storage/AccountRepository.h"
+#include "storage/CalendarRepository.h"
+#include "storage/EventRepository.h"
+#include "storage/FilterRuleRepository.h"
+#include "storage/PreferencesRepository.h"
+#include "storage/ViewRepository.h"
 
 #include <QTemporaryDir>
 
-/// An AppState over a database of its own, seeded as on a first start, without theme and window.
+/// An AppState over a database of its own, seeded as on a first start, without theme and window. With it come
+/// the records and the repositories, which hardly any test does without.
 class ScratchState {
 public:
     ScratchState();

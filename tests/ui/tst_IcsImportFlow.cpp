@@ -1,19 +1,13 @@
-#include "storage/CalendarRepository.h"
 #include "storage/Database.h"
-#include "storage/EventRepository.h"
 #include "support/ScratchState.h"
-#include "ui/dialogs/IcsDrop.h"
 #include "ui/IcsImportFlow.h"
+#include "ui/dialogs/IcsDrop.h"
 #include "ui/dialogs/ImportDialog.h"
 #include "ui/dialogs/Prompt.h"
 
-#include <QFile>
-#include <QMimeData>
-#include <QSignalSpy>
 #include <QSqlQuery>
-#include <QTest>
-#include <QUrl>
-#include <QWidget>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -24,26 +18,13 @@ QByteArray vevent(const QByteArray &uid, const QByteArray &title,
     return "BEGIN:VEVENT\r\n" + uidLine + start + "SUMMARY:" + title + "\r\nEND:VEVENT\r\n";
 }
 
-/// The one on show; one that has been answered may not be deleted yet.
-ImportDialog *openDialog(const QWidget &window)
-{
-    const QList<ImportDialog *> dialogs = window.findChildren<ImportDialog *>();
-    for (ImportDialog *dialog : dialogs) {
-        if (dialog->isVisible())
-            return dialog;
-    }
-    return nullptr;
-}
-
-IcsImporter::Result counts(int imported, int updated, int withoutUid = 0, int withoutStart = 0, int failed = 0,
-                           int tooLarge = 0)
+IcsImporter::Result counts(int imported, int updated, int unidentified = 0, int tooLarge = 0, int failed = 0)
 {
     IcsImporter::Result result;
     result.imported = imported;
     result.updated = updated;
     result.failed = failed;
-    result.skipped.withoutUid = withoutUid;
-    result.skipped.withoutStart = withoutStart;
+    result.skipped.withoutUid = unidentified;
     result.skipped.tooLarge = tooLarge;
     return result;
 }
@@ -53,235 +34,170 @@ IcsImporter::Result counts(int imported, int updated, int withoutUid = 0, int wi
 class tst_IcsImportFlow : public QObject {
     Q_OBJECT
 
-private slots:
-    void reports_data();
-    void reports();
-    void importsAndThenUpdates();
-    void severalFilesGiveOneDialog();
-    void cancellingStoresNothing();
-    void namesWhatItCannotRead();
-    void needsAWritableCalendar();
-    void tellsWhatTheDatabaseRefused();
-    void tellsThatTheCalendarIsGone();
-    void tellsWhatWasSkippedOfAnEmptyFile();
-    void aSecondImportWaits();
-    void findsDroppedFiles();
-
 private:
-    static QString write(ScratchState &state, const QString &name, const QByteArray &events);
-};
-
-QString tst_IcsImportFlow::write(ScratchState &state, const QString &name, const QByteArray &events)
-{
-    QFile file(state.path(name));
-    if (!file.open(QIODevice::WriteOnly))
-        qFatal("cannot write a scratch file");
-    file.write("BEGIN:VCALENDAR\r\nVERSION:2.0\r\n" + events + "END:VCALENDAR\r\n");
-    return file.fileName();
-}
-
-void tst_IcsImportFlow::reports_data()
-{
-    QTest::addColumn<IcsImporter::Result>("result");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("one new") << counts(1, 0) << "Imported 1 event into Work & %1.";
-    QTest::newRow("new ones") << counts(12, 0) << "Imported 12 events into Work & %1.";
-    QTest::newRow("one again") << counts(0, 1) << "Updated 1 existing event in Work & %1.";
-    QTest::newRow("again") << counts(0, 3) << "Updated 3 existing events in Work & %1.";
-    QTest::newRow("both, even of one each") << counts(1, 1) << "Imported 1 and updated 1 in Work & %1.";
-    QTest::newRow("skipped") << counts(
-        2, 0, 1, 2) << "Imported 2 events into Work & %1. Skipped 3 event(s) without an identifier or a start.";
-    QTest::newRow("too large")
-        << counts(1, 0, 1, 0, 0, 2)
-        << "Imported 1 event into Work & %1. Skipped 1 event(s) without an identifier or a start."
-           " Skipped 2 event(s) that are too large.";
-    QTest::newRow("refused") << counts(0, 0, 0, 0, 4)
-                             << "Imported 0 events into Work & %1. 4 event(s) could not be stored.";
-}
-
-void tst_IcsImportFlow::reports()
-{
-    QFETCH(IcsImporter::Result, result);
-    QTEST(IcsImportFlow::report(result, QStringLiteral("Work & %1")), "expected");
-}
-
-void tst_IcsImportFlow::importsAndThenUpdates()
-{
-    ScratchState state;
-    QWidget window;
-    IcsImportFlow flow(state.state(), &window);
-    QSignalSpy ended(&flow, &IcsImportFlow::finished);
-    QSignalSpy messages(&flow, &IcsImportFlow::statusMessage);
-    const auto import = [&](const QString &path) {
-        flow.start({ path });
-        QTRY_VERIFY(openDialog(window));
-        openDialog(window)->accept();
-        QTRY_VERIFY(!flow.isRunning());
-    };
-
-    import(write(state, QStringLiteral("a.ics"), vevent("one", "First") + vevent("two", "Second")));
-    QCOMPARE(messages.last().at(0).toString(), QStringLiteral("Imported 2 events into Personal."));
-    QCOMPARE(messages.last().at(1).toInt(), 5000);
-
-    import(write(state, QStringLiteral("a.ics"), vevent("one", "First again") + vevent("two", "Second")));
-    QCOMPARE(messages.last().at(0).toString(), QStringLiteral("Updated 2 existing events in Personal."));
-
-    import(write(state, QStringLiteral("a.ics"),
-                 vevent("one", "First") + vevent("three", "Third") + vevent("", "Nameless")
-                     + vevent("four", "Never", "")));
-    QCOMPARE(messages.last().at(0).toString(),
-             QStringLiteral("Imported 1 and updated 1 in Personal."
-                            " Skipped 2 event(s) without an identifier or a start."));
-
-    QStringList titles;
-    const QList<Event> stored = state->events()->getByCalendar(ScratchState::calendarId());
-    for (const Event &event : stored)
-        titles.append(event.title);
-    titles.sort();
-    QCOMPARE(titles, QStringList({ QStringLiteral("First"), QStringLiteral("Second"), QStringLiteral("Third") }));
-    QCOMPARE(ended.size(), 3);
-}
-
-void tst_IcsImportFlow::severalFilesGiveOneDialog()
-{
-    ScratchState state;
-    QWidget window;
-    Prompt::ScopedAnswers answers;
-    IcsImportFlow flow(state.state(), &window);
-    flow.start({ write(state, QStringLiteral("a.ics"), vevent("a", "A")), write(state, QStringLiteral("empty.ics"), ""),
-                 write(state, QStringLiteral("b.ics"), vevent("b", "B") + vevent("c", "C")) });
-    QTRY_VERIFY(openDialog(window));
-    QCOMPARE(window.findChildren<ImportDialog *>().size(), 1);
-    const Prompt::ScopedAnswers::Asked empty{ QStringLiteral("warning"), QStringLiteral("Nothing to import"),
-                                              QStringLiteral("No events found in \"empty.ics\".") };
-    QCOMPARE(answers.asked, QList<Prompt::ScopedAnswers::Asked>{ empty });
-    openDialog(window)->accept();
-    QTRY_VERIFY(!flow.isRunning());
-    QCOMPARE(state->events()->getByCalendar(ScratchState::calendarId()).size(), 3);
-}
-
-void tst_IcsImportFlow::cancellingStoresNothing()
-{
-    ScratchState state;
-    QWidget window;
-    IcsImportFlow flow(state.state(), &window);
-    flow.start({ write(state, QStringLiteral("a.ics"), vevent("a", "A")) });
-    QTRY_VERIFY(openDialog(window));
-    openDialog(window)->reject();
-    QVERIFY(!flow.isRunning());
-    QVERIFY(state->events()->getByCalendar(ScratchState::calendarId()).isEmpty());
-}
-
-void tst_IcsImportFlow::namesWhatItCannotRead()
-{
-    ScratchState state;
-    QWidget window;
-    Prompt::ScopedAnswers answers;
-    IcsImportFlow flow(state.state(), &window);
-    const QString missing = state.path(QStringLiteral("<b>gone</b>.ics"));
-    flow.start({ missing });
-    QTRY_VERIFY(!flow.isRunning());
-    QCOMPARE(answers.asked.size(), 1);
-    QCOMPARE(answers.asked.first().title, QStringLiteral("Couldn't open file"));
-    QCOMPARE(answers.asked.first().text, QStringLiteral("Couldn't open \"%1\" for reading.").arg(missing));
-    QVERIFY(!window.findChild<ImportDialog *>());
-}
-
-void tst_IcsImportFlow::needsAWritableCalendar()
-{
-    ScratchState state;
-    auto calendar = state->calendars()->getById(ScratchState::calendarId()).value();
-    calendar.isReadOnly = true;
-    QVERIFY(state->calendars()->update(calendar));
-    QWidget window;
-    Prompt::ScopedAnswers answers;
-    IcsImportFlow flow(state.state(), &window);
-    flow.start({ write(state, QStringLiteral("a.ics"), vevent("a", "A")), write(state, QStringLiteral("b.ics"), "") });
-    QTRY_VERIFY(!flow.isRunning());
-    const Prompt::ScopedAnswers::Asked empty{ QStringLiteral("warning"), QStringLiteral("Nothing to import"),
-                                              QStringLiteral("No events found in \"b.ics\".") };
-    const Prompt::ScopedAnswers::Asked expected{ QStringLiteral("warning"), QStringLiteral("No calendars configured"),
-                                                 QStringLiteral(
-                                                     "Add a writable calendar first; then re-import \"a.ics\".") };
-    QCOMPARE(answers.asked, (QList<Prompt::ScopedAnswers::Asked>{ expected, empty }));
-}
-
-void tst_IcsImportFlow::tellsWhatTheDatabaseRefused()
-{
-    ScratchState state;
-    QVERIFY(QSqlQuery(state->database()->db())
-                .exec(QStringLiteral("CREATE TRIGGER refuse BEFORE INSERT ON events WHEN NEW.title = 'Bad'"
-                                     " BEGIN SELECT RAISE(ABORT, 'refused'); END")));
-    QWidget window;
-    Prompt::ScopedAnswers answers;
-    IcsImportFlow flow(state.state(), &window);
-    flow.start({ write(state, QStringLiteral("a.ics"), vevent("a", "Good") + vevent("b", "Bad")) });
-    QTRY_VERIFY(openDialog(window));
-    openDialog(window)->accept();
-    QTRY_VERIFY(!flow.isRunning());
-    const Prompt::ScopedAnswers::Asked expected{ QStringLiteral("warning"), QStringLiteral("Import incomplete"),
-                                                 QStringLiteral("Imported 1 event into Personal."
-                                                                " 1 event(s) could not be stored.") };
-    QCOMPARE(answers.asked, QList<Prompt::ScopedAnswers::Asked>{ expected });
-}
-
-void tst_IcsImportFlow::tellsThatTheCalendarIsGone()
-{
-    ScratchState state;
-    QWidget window;
-    Prompt::ScopedAnswers answers;
-    IcsImportFlow flow(state.state(), &window);
-    flow.start({ write(state, QStringLiteral("a.ics"), vevent("a", "A")) });
-    QTRY_VERIFY(openDialog(window));
-    QVERIFY(state->calendars()->removeDeep(ScratchState::calendarId()));
-    openDialog(window)->accept();
-    QVERIFY(!flow.isRunning());
-    const Prompt::ScopedAnswers::Asked expected{ QStringLiteral("warning"), QStringLiteral("Import failed"),
-                                                 QStringLiteral("The chosen calendar was deleted in the meantime.") };
-    QCOMPARE(answers.asked, QList<Prompt::ScopedAnswers::Asked>{ expected });
-}
-
-void tst_IcsImportFlow::tellsWhatWasSkippedOfAnEmptyFile()
-{
-    ScratchState state;
-    QWidget window;
-    Prompt::ScopedAnswers answers;
-    IcsImportFlow flow(state.state(), &window);
-    flow.start({ write(state, QStringLiteral("a.ics"), vevent("", "Nameless") + vevent("a", "Never", "")) });
-    QTRY_VERIFY(!flow.isRunning());
-    const Prompt::ScopedAnswers::Asked expected{ QStringLiteral("warning"), QStringLiteral("Nothing to import"),
-                                                 QStringLiteral("No events found in \"a.ics\". Skipped 2 event(s)"
-                                                                " without an identifier or a start.") };
-    QCOMPARE(answers.asked, QList<Prompt::ScopedAnswers::Asked>{ expected });
-}
-
-void tst_IcsImportFlow::aSecondImportWaits()
-{
-    ScratchState state;
-    QWidget window;
-    IcsImportFlow flow(state.state(), &window);
-    flow.start({ write(state, QStringLiteral("a.ics"), vevent("a", "A")) });
-    flow.start({ write(state, QStringLiteral("b.ics"), vevent("b", "B")) });
-    for (int stored = 1; stored <= 2; ++stored) {
-        QTRY_VERIFY(openDialog(window));
-        openDialog(window)->accept();
-        QTRY_COMPARE(state->events()->getByCalendar(ScratchState::calendarId()).size(), stored);
+    QString write(const QString &name, const QByteArray &events)
+    {
+        QFile file(m_state->path(name));
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("cannot write a scratch file");
+        file.write("BEGIN:VCALENDAR\r\nVERSION:2.0\r\n" + events + "END:VCALENDAR\r\n");
+        return file.fileName();
     }
-    QTRY_VERIFY(!flow.isRunning());
-}
 
-void tst_IcsImportFlow::findsDroppedFiles()
-{
-    QMimeData data;
-    QVERIFY(!IcsDrop::hasIcs(&data));
-    QVERIFY(!IcsDrop::hasIcs(nullptr));
-    data.setUrls({ QUrl::fromLocalFile(QStringLiteral("/tmp/a b.ICS")), QUrl(QStringLiteral("https://x.example/c.ics")),
-                   QUrl::fromLocalFile(QStringLiteral("/tmp/notes.txt")),
-                   QUrl::fromLocalFile(QStringLiteral("/tmp/d.ics")) });
-    QVERIFY(IcsDrop::hasIcs(&data));
-    QCOMPARE(IcsDrop::localPathsIn(&data),
-             QStringList({ QStringLiteral("/tmp/a b.ICS"), QStringLiteral("/tmp/d.ics") }));
-}
+    /// The one on show; one that has been answered may not be deleted yet.
+    ImportDialog *dialog()
+    {
+        const QList<ImportDialog *> dialogs = m_window->findChildren<ImportDialog *>();
+        const auto shown = std::find_if(dialogs.begin(), dialogs.end(),
+                                        [](const ImportDialog *candidate) { return candidate->isVisible(); });
+        return shown == dialogs.end() ? nullptr : *shown;
+    }
+
+    void import(const QStringList &paths)
+    {
+        m_flow->start(paths);
+        QTRY_VERIFY(dialog());
+        dialog()->accept();
+        QTRY_VERIFY(!m_flow->isRunning());
+    }
+
+    /// What the program warned of, as "title: text".
+    [[nodiscard]] QStringList warnings() const
+    {
+        QStringList texts;
+        for (const Prompt::ScopedAnswers::Asked &asked : m_answers->asked)
+            texts.append(asked.title + u": "_qs + asked.text);
+        return texts;
+    }
+
+    [[nodiscard]] QString storedTitles()
+    {
+        QStringList titles;
+        const QList<Event> stored = (*m_state)->events()->getByCalendar(ScratchState::calendarId());
+        for (const Event &event : stored)
+            titles.append(event.title);
+        titles.sort();
+        return titles.join(u' ');
+    }
+
+    std::optional<Prompt::ScopedAnswers> m_answers;
+    std::optional<ScratchState> m_state;
+    std::optional<QWidget> m_window;
+    IcsImportFlow *m_flow = nullptr;
+
+private slots:
+    void init()
+    {
+        m_window.reset();
+        m_state.emplace();
+        m_window.emplace();
+        m_answers.reset();
+        m_answers.emplace();
+        m_flow = new IcsImportFlow(m_state->state(), &*m_window);
+    }
+
+    void reports()
+    {
+        const auto report = [](const IcsImporter::Result &result) {
+            return IcsImportFlow::report(result, u"Work & %1"_qs);
+        };
+        QCOMPARE(report(counts(1, 0)), u"Imported 1 event into Work & %1."_qs);
+        QCOMPARE(report(counts(0, 1)), u"Updated 1 existing event in Work & %1."_qs);
+        QCOMPARE(report(counts(0, 3)), u"Updated 3 existing events in Work & %1."_qs);
+        QCOMPARE(report(counts(1, 1)), u"Imported 1 and updated 1 in Work & %1."_qs);
+        QCOMPARE(report(counts(0, 0, 3, 2, 4)),
+                 u"Imported 0 events into Work & %1. Skipped 3 event(s) without an identifier or a start."
+                 " Skipped 2 event(s) that are too large. 4 event(s) could not be stored."_qs);
+    }
+
+    void importsThenUpdatesThenCancels()
+    {
+        QSignalSpy ended(m_flow, &IcsImportFlow::finished);
+        QSignalSpy messages(m_flow, &IcsImportFlow::statusMessage);
+        import({ write(u"a.ics"_qs, vevent("one", "First") + vevent("two", "Second")) });
+        QCOMPARE(messages.last(), (QVariantList{ u"Imported 2 events into Personal."_qs, 5000 }));
+        import({ write(u"a.ics"_qs,
+                       vevent("one", "First again") + vevent("three", "Third") + vevent("", "Nameless")
+                           + vevent("four", "Never", "")) });
+        QCOMPARE(messages.last().at(0).toString(),
+                 u"Imported 1 and updated 1 in Personal. Skipped 2 event(s) without an identifier or a start."_qs);
+        QCOMPARE(storedTitles(), u"First again Second Third"_qs);
+        m_flow->start({ write(u"a.ics"_qs, vevent("five", "Cancelled")) });
+        QTRY_VERIFY(dialog());
+        dialog()->reject();
+        QVERIFY(!m_flow->isRunning());
+        QCOMPARE(storedTitles(), u"First again Second Third"_qs);
+        QCOMPARE(ended.size(), 3);
+        QVERIFY(warnings().isEmpty());
+    }
+
+    void severalFilesGiveOneDialog()
+    {
+        const QString missing = m_state->path(u"<b>gone</b>.ics"_qs);
+        import({ write(u"a.ics"_qs, vevent("a", "A")), missing, write(u"empty.ics"_qs, {}),
+                 write(u"b.ics"_qs, vevent("b", "B") + vevent("c", "C")) });
+        QCOMPARE(storedTitles(), u"A B C"_qs);
+        QCOMPARE(warnings(),
+                 QStringList({ u"Couldn't open file: Couldn't open \"%1\" for reading."_qs.arg(missing),
+                               u"Nothing to import: No events found in \"empty.ics\"."_qs }));
+    }
+
+    void needsAWritableCalendar()
+    {
+        m_state->makeReadOnly(ScratchState::calendarId());
+        m_flow->start({ write(u"a.ics"_qs, vevent("a", "A")),
+                        write(u"b.ics"_qs, vevent("", "Nameless") + vevent("b", "Never", "")) });
+        QTRY_VERIFY(!m_flow->isRunning());
+        QCOMPARE(warnings(),
+                 QStringList({ u"No calendars configured: Add a writable calendar first; then re-import \"a.ics\"."_qs,
+                               u"Nothing to import: No events found in \"b.ics\"."
+                               " Skipped 2 event(s) without an identifier or a start."_qs }));
+    }
+
+    void tellsWhatTheDatabaseRefused()
+    {
+        QVERIFY(QSqlQuery((*m_state)->database()->db())
+                    .exec(u"CREATE TRIGGER refuse BEFORE INSERT ON events WHEN NEW.title = 'Bad'"
+                          " BEGIN SELECT RAISE(ABORT, 'refused'); END"_qs));
+        import({ write(u"a.ics"_qs, vevent("a", "Good") + vevent("b", "Bad")) });
+        QCOMPARE(storedTitles(), u"Good"_qs);
+        QCOMPARE(
+            warnings(),
+            QStringList{ u"Import incomplete: Imported 1 event into Personal. 1 event(s) could not be stored."_qs });
+    }
+
+    void tellsThatTheCalendarIsGone()
+    {
+        m_flow->start({ write(u"a.ics"_qs, vevent("a", "A")) });
+        QTRY_VERIFY(dialog());
+        QVERIFY((*m_state)->calendars()->removeDeep(ScratchState::calendarId()));
+        dialog()->accept();
+        QVERIFY(!m_flow->isRunning());
+        QCOMPARE(warnings(), QStringList{ u"Import failed: The chosen calendar was deleted in the meantime."_qs });
+    }
+
+    void aSecondImportWaits()
+    {
+        m_flow->start({ write(u"a.ics"_qs, vevent("a", "A")) });
+        m_flow->start({ write(u"b.ics"_qs, vevent("b", "B")) });
+        for (const QString &stored : { u"A"_qs, u"A B"_qs }) {
+            QTRY_VERIFY(dialog());
+            dialog()->accept();
+            QTRY_COMPARE(storedTitles(), stored);
+        }
+        QTRY_VERIFY(!m_flow->isRunning());
+    }
+
+    void findsDroppedFiles()
+    {
+        QMimeData data;
+        QVERIFY(!IcsDrop::hasIcs(&data));
+        QVERIFY(!IcsDrop::hasIcs(nullptr));
+        data.setUrls({ QUrl(u"file:///tmp/a%20b.ICS"_qs), QUrl(u"https://x.example/c.ics"_qs),
+                       QUrl(u"file:///tmp/notes.txt"_qs), QUrl(u"file:///tmp/d.ics"_qs) });
+        QCOMPARE(IcsDrop::localPathsIn(&data), QStringList({ u"/tmp/a b.ICS"_qs, u"/tmp/d.ics"_qs }));
+    }
+};
 
 QTEST_MAIN(tst_IcsImportFlow)
 #include "tst_IcsImportFlow.moc"

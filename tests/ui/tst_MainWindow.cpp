@@ -1,7 +1,5 @@
-#include "storage/CalendarRepository.h"
-#include "storage/PreferencesRepository.h"
-#include "storage/ViewRepository.h"
 #include "support/ScratchState.h"
+#include "support/TestData.h"
 #include "ui/ActionTable.h"
 #include "ui/CalendarListWidget.h"
 #include "ui/MainWindow.h"
@@ -15,19 +13,8 @@
 #include "ui/dialogs/WelcomeDialog.h"
 #include "ui/surfaces/WeekView.h"
 
-#include <QApplication>
-#include <QDropEvent>
-#include <QFile>
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QMenuBar>
-#include <QMimeData>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QSplitter>
-#include <QUrl>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -68,15 +55,10 @@ private:
 private slots:
     void init()
     {
+        m_window.reset();
         m_scratch = std::make_unique<ScratchState>();
         state()->setCurrentDate(Tuesday);
         state()->setCurrentDate(Wednesday);
-    }
-
-    void cleanup()
-    {
-        m_window.reset();
-        m_scratch.reset();
     }
 
     void everyKeyHasOneAction()
@@ -107,14 +89,9 @@ private slots:
 
     void keysNavigate_data()
     {
-        QTest::addColumn<QKeySequence>("key");
-        QTest::addColumn<QDate>("date");
-        QTest::addColumn<QString>("mode");
-        QTest::addColumn<int>("horizon");
+        columns<QKeySequence, QDate, QString, int>("key", "date", "mode", "horizon");
         const auto row = [](const char *name, QKeyCombination key, QDate date, const char *mode = "week",
-                            int horizon = 7) {
-            QTest::newRow(name) << QKeySequence(key) << date << QString::fromLatin1(mode) << horizon;
-        };
+                            int horizon = 7) { ::row(name, QKeySequence(key), date, mode, horizon); };
         row("T", Qt::Key_T, QDate::currentDate());
         row("J", Qt::Key_J, QDate(2025, 11, 26));
         row("K", Qt::Key_K, QDate(2025, 11, 12));
@@ -140,30 +117,19 @@ private slots:
         QTEST(state()->weekHorizon(), "horizon");
     }
 
-    void plainKeys_data()
-    {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("isPlain");
-        const auto row = [](const char *name, int key, Qt::KeyboardModifiers modifiers, const QString &text,
-                            bool isPlain) { QTest::newRow(name) << key << modifiers << text << isPlain; };
-        row("Cyrillic", 0x041E, {}, u"о"_qs, true);
-        row("Greek capital", 0x039E, Qt::ShiftModifier, u"Ξ"_qs, true);
-        row("outside the BMP", 0x1F600, {}, u"😀"_qs, true);
-        row("digit of the keypad", Qt::Key_1, Qt::KeypadModifier, u"1"_qs, true);
-        row("Ctrl+letter", Qt::Key_J, Qt::ControlModifier, u"\n"_qs, false);
-        row("Alt+Cyrillic", 0x041E, Qt::AltModifier, u"о"_qs, false);
-        row("Return", Qt::Key_Return, {}, u"\r"_qs, false);
-        row("F1", Qt::Key_F1, {}, {}, false);
-    }
-
     void plainKeys()
     {
-        QFETCH(int, key);
-        QFETCH(Qt::KeyboardModifiers, modifiers);
-        QFETCH(QString, text);
-        QTEST(PlainKeyGuard::isPlainKey(QKeyEvent(QEvent::ShortcutOverride, key, modifiers, text)), "isPlain");
+        const auto isPlain = [](int key, Qt::KeyboardModifiers modifiers, const QString &text) {
+            return PlainKeyGuard::isPlainKey(QKeyEvent(QEvent::ShortcutOverride, key, modifiers, text));
+        };
+        QVERIFY(isPlain(0x041E, {}, u"о"_qs)); // Cyrillic
+        QVERIFY(isPlain(0x039E, Qt::ShiftModifier, u"Ξ"_qs));
+        QVERIFY(isPlain(0x1F600, {}, u"😀"_qs)); // outside the BMP
+        QVERIFY(isPlain(Qt::Key_1, Qt::KeypadModifier, u"1"_qs));
+        QVERIFY(!isPlain(Qt::Key_J, Qt::ControlModifier, u"\n"_qs));
+        QVERIFY(!isPlain(0x041E, Qt::AltModifier, u"о"_qs));
+        QVERIFY(!isPlain(Qt::Key_Return, {}, u"\r"_qs));
+        QVERIFY(!isPlain(Qt::Key_F1, {}, {}));
     }
 
     void plainKeysBelongToWhoUsesThem()
@@ -188,20 +154,17 @@ private slots:
 
     void keysActivateGroups()
     {
-        for (const QString &name : { u"a"_qs, u"b"_qs })
-            m_scratch->addGroup(name);
-        QStringList ids;
-        const QList<ViewDef> groups = state()->views()->getAll();
-        for (const ViewDef &group : groups)
-            ids.append(group.id);
+        m_scratch->addGroup(u"a"_qs);
+        m_scratch->addGroup(u"b"_qs); // after "a" and the built-in group
         open();
-        const QList<std::pair<Qt::Key, int>> steps{
-            { Qt::Key_3, 2 }, { Qt::Key_BracketRight, 0 }, { Qt::Key_BracketLeft, 2 }, { Qt::Key_9, 2 }
-        };
-        for (const auto &[key, active] : steps) {
+        const auto activeAfter = [this](Qt::Key key) {
             QTest::keyClick(m_window.get(), key, Qt::ControlModifier);
-            QCOMPARE(state()->activeViewId(), ids.at(active));
-        }
+            return state()->activeViewId();
+        };
+        QCOMPARE(activeAfter(Qt::Key_3), u"b"_qs);
+        QCOMPARE(activeAfter(Qt::Key_BracketRight), QString(ViewDefaults::AllCalendarsId));
+        QCOMPARE(activeAfter(Qt::Key_BracketLeft), u"b"_qs);
+        QCOMPARE(activeAfter(Qt::Key_9), u"b"_qs);
     }
 
     void mouseButtonsWalkTheHistory()
@@ -273,17 +236,6 @@ private slots:
             std::find_if(views.begin(), views.end(), [](const WeekView *view) { return view->isVisible(); });
         QVERIFY(shown != views.end());
         QCOMPARE((*shown)->scrollArea()->horizontalScrollBar()->maximum(), 0);
-    }
-
-    void densityFollowsTheMode()
-    {
-        open();
-        action("compactDensity")->trigger();
-        QVERIFY(state()->isCompact(u"week"_qs));
-        state()->setViewMode(u"day"_qs);
-        QVERIFY(!action("compactDensity")->isChecked());
-        state()->setViewMode(u"week"_qs);
-        QVERIFY(action("compactDensity")->isChecked());
     }
 
     void droppedFileIsImported()

@@ -3,6 +3,7 @@
 #include "app/state/FirstDayOfWeek.h"
 #include "app/state/UndoStack.h"
 #include "storage/AccountRepository.h"
+#include "storage/CalendarRemovals.h"
 #include "storage/CalendarRepository.h"
 #include "storage/Database.h"
 #include "storage/EventRepository.h"
@@ -87,8 +88,10 @@ bool AppState::openStorage(const QString &databasePath)
     m_templates = new TemplateRepository(m_database, this);
 
     // Before anything asks which calendars there are: those of a removed account must not count.
+    m_database->removals()->resume();
     if (const int finished = m_accounts->finishInterruptedRemovals(); finished > 0)
         qInfo() << "[AppState] finished" << finished << "interrupted account removal(s)";
+    m_events->warmUp();
     return true;
 }
 

@@ -83,8 +83,9 @@ bool takeBack(AppState *state, const Change &change)
 
 }
 
-void EventUndo::push(AppState *state, const QString &summary, const Change &change)
+void EventUndo::push(AppState *state, const QString &summary, Change change)
 {
+    RecurringEdits::noteAdded(state->events(), change.series);
     UndoStack *stack = state->undoStack();
     stack->push({ .summary = summary, .undo = [state, stack, change] {
                      if (const QString why = refusal(state, change); !why.isEmpty())

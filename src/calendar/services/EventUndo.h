@@ -19,10 +19,10 @@ struct Change {
     QStringList addedIds; ///< rows that it made, or brought back
 };
 
-/// Puts the change on the undo stack. The undo deletes what was added, and gives the other rows their content
+/// Puts the change on the undo stack, right after it was made. The undo deletes what was added, and gives the other rows their content
 /// of before. What a sync learnt of a row in between stays (address, etag, sequence), and a row that a
 /// sync has purged comes back as a new one. It is one transaction; what is in its way goes to
 /// UndoStack::fail().
-void push(AppState *state, const QString &summary, const Change &change);
+void push(AppState *state, const QString &summary, Change change);
 
 } // namespace EventUndo

@@ -1,6 +1,7 @@
 #include "calendar/services/IcsImporter.h"
 
 #include "app/state/AppState.h"
+#include "storage/BulkWrites.h"
 #include "storage/Database.h"
 #include "storage/EventRepository.h"
 #include "storage/Savepoint.h"
@@ -8,8 +9,6 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QPointer>
-#include <QSqlQuery>
 #include <QTimer>
 #include <QUuid>
 
@@ -29,29 +28,6 @@ int percentOf(qint64 done, qint64 total)
 {
     return total > 0 ? static_cast<int>(std::min(done, total) * 100 / total) : 100;
 }
-
-/// Sets the database up for many writes while it lives. A commit does not wait for the disk: a power cut may
-/// take back the last slices, but the file stays whole, and importing again completes what is missing. What
-/// SQLite keeps to undo each single row stays in memory, as a temporary file takes most of the time.
-class BulkWrites {
-public:
-    explicit BulkWrites(Database *database)
-        : m_database(database)
-    {
-        run(QStringLiteral("PRAGMA synchronous=NORMAL"));
-    }
-    ~BulkWrites() { run(QStringLiteral("PRAGMA synchronous=FULL")); }
-    Q_DISABLE_COPY_MOVE(BulkWrites)
-
-private:
-    void run(const QString &pragma)
-    {
-        if (m_database && m_database->isOpen())
-            QSqlQuery(m_database->db()).exec(pragma);
-    }
-
-    QPointer<Database> m_database;
-};
 
 }
 
@@ -208,7 +184,7 @@ private:
     }
 
     AppState *m_state;
-    BulkWrites m_bulkWrites;
+    BulkWrites m_bulkWrites; // importing again completes what a power cut took back
     QString m_calendarId;
     QList<File> m_files;
     qsizetype m_total = 0; // events

@@ -3,94 +3,113 @@
 #include "app/state/AppState.h"
 #include "calendar/ICalParser.h"
 #include "calendar/NLParser.h"
+#include "calendar/WallClock.h"
 #include "calendar/services/EventEdits.h"
-#include "calendar/services/TaskEdits.h"
+#include "models/Calendar.h"
 #include "storage/CalendarRepository.h"
+#include "storage/StoredTime.h"
+#include "storage/TaskRepository.h"
 
 #include <QCoreApplication>
+#include <QUuid>
 
 #include <algorithm>
 
 namespace {
 
-constexpr int ReminderHour = 9; // of a reminder for a day
+// When a reminder for a day rings.
+constexpr int ReminderHour = 9;
 
 class Tr {
     Q_DECLARE_TR_FUNCTIONS(QuickAdd)
 };
 
-QDateTime utcDay(QDate date)
+QuickAdd::Draft refused(const QString &why)
 {
-    return { date, QTime(0, 0), Qt::UTC };
+    return { .record = {}, .why = why };
 }
 
-/// The calendar that was asked for, else the default one, else the first one on show, else the first: of those
-/// that can take the record.
-QString chooseCalendar(AppState *state, const QString &hint, bool forTask)
+QList<Calendar> writableCalendars(AppState *state, bool forTask)
 {
-    QList<Calendar> allowed = state->calendars()->getAll();
-    const QStringList forTasks = forTask ? TaskEdits::writableCalendarIds(state) : QStringList();
-    allowed.removeIf(
-        [&](const Calendar &calendar) { return calendar.isReadOnly || (forTask && !forTasks.contains(calendar.id)); });
-    const auto first = [&allowed](auto isMeant) {
-        const auto found = std::find_if(allowed.cbegin(), allowed.cend(), isMeant);
-        return found == allowed.cend() ? QString() : found->id;
+    QList<Calendar> writable = state->calendars()->getAll();
+    writable.removeIf([](const Calendar &calendar) { return calendar.isReadOnly; });
+    if (!forTask)
+        return writable;
+    QList<Calendar> forTasks = writable;
+    forTasks.removeIf([](const Calendar &calendar) { return !calendar.supportsTasks() && !calendar.isLocal(); });
+    // A task that no server may take is still better kept here than lost.
+    return forTasks.isEmpty() ? writable : forTasks;
+}
+
+/// Empty if there is none to choose from.
+QString chosenCalendarId(const QList<Calendar> &calendars, const QString &hint)
+{
+    const auto is = [&hint](const Calendar &calendar) { return calendar.id == hint; };
+    auto chosen = std::ranges::find_if(calendars, is);
+    if (chosen == calendars.end())
+        chosen = std::ranges::find_if(calendars, &Calendar::isDefault);
+    if (chosen == calendars.end())
+        chosen = std::ranges::find_if(calendars, &Calendar::isVisible);
+    if (chosen == calendars.end())
+        chosen = calendars.begin();
+    return chosen == calendars.end() ? QString() : chosen->id;
+}
+
+Event eventOf(const ParsedQuickAdd &parsed)
+{
+    const auto toStore = [&parsed](const QDateTime &time) {
+        return parsed.isAllDay ? StoredTime::wholeDay(time) : time.toUTC();
     };
-    const QString choices[] = {
-        first([&hint](const Calendar &calendar) { return calendar.id == hint; }),
-        first([](const Calendar &calendar) { return calendar.isDefault; }),
-        first([](const Calendar &calendar) { return calendar.isVisible; }),
-        first([](const Calendar &) { return true; }),
-    };
-    for (const QString &id : choices) {
-        if (!id.isEmpty())
-            return id;
-    }
-    return {};
+    Event event;
+    event.title = parsed.title;
+    event.startTime = toStore(parsed.start);
+    if (parsed.end)
+        event.endTime = toStore(*parsed.end);
+    event.isAllDay = parsed.isAllDay;
+    event.syncStatus = SyncStatus::Pending;
+    return event;
 }
 
-QString titleOf(const ParsedQuickAdd &parsed, const QString &text)
-{
-    return parsed.title.isEmpty() ? text.simplified() : parsed.title;
-}
-
-Task taskOf(AppState *state, const ParsedQuickAdd &parsed, const QString &text, const QString &hint)
+Task taskOf(const ParsedQuickAdd &parsed)
 {
     Task task;
-    task.calendarId = chooseCalendar(state, hint, true);
-    task.title = titleOf(parsed, text);
+    task.title = parsed.title;
     task.categories = parsed.tags;
     task.syncStatus = SyncStatus::Pending;
-    if (parsed.isReminder) {
+    if (parsed.isReminder)
         task.itemType = QStringLiteral("reminder");
-        if (parsed.hasTime)
-            task.dueDate = parsed.start;
-        else if (parsed.isAllDay)
-            task.dueDate = QDateTime(parsed.start.date(), QTime(ReminderHour, 0));
-        task.dueIsDateOnly = false;
-        if (task.dueDate)
-            task.reminders = { Reminder{} };
+    if (!parsed.hasTime && !parsed.isAllDay)
         return task;
-    }
-    task.dueIsDateOnly = !parsed.hasTime;
-    if (parsed.hasTime)
-        task.dueDate = parsed.start;
+    task.dueIsDateOnly = parsed.isAllDay && !parsed.isReminder;
+    if (task.dueIsDateOnly)
+        task.dueDate = StoredTime::wholeDay(parsed.start);
     else if (parsed.isAllDay)
-        task.dueDate = utcDay(parsed.start.date());
+        task.dueDate = WallClock(parsed.start).at(parsed.start.date(), QTime(ReminderHour, 0)).toUTC();
+    else
+        task.dueDate = parsed.start.toUTC();
+    if (parsed.isReminder)
+        task.reminders = { Reminder() };
     return task;
 }
 
-Event eventOf(AppState *state, const ParsedQuickAdd &parsed, const QString &text, const QString &hint)
+QString store(AppState *state, const Event &event)
 {
-    Event event;
-    event.calendarId = chooseCalendar(state, hint, false);
-    event.title = titleOf(parsed, text);
-    event.isAllDay = parsed.isAllDay;
-    event.startTime = parsed.isAllDay ? utcDay(parsed.start.date()) : parsed.start;
-    if (parsed.end)
-        event.endTime = parsed.isAllDay ? utcDay(parsed.end->date()) : *parsed.end;
-    event.syncStatus = SyncStatus::Pending;
-    return event;
+    return EventEdits::create(state, event).id;
+}
+
+QString store(AppState *state, Task task)
+{
+    task.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    task.uid = task.id;
+    task.created = QDateTime::currentDateTimeUtc();
+    task.lastModified = task.created;
+    task.rawIcalendar = ICalParser::serializeTaskToVCalendar(task);
+    return state->tasks()->insert(task) ? task.id : QString();
+}
+
+QString store(AppState *, std::monostate)
+{
+    return {};
 }
 
 }
@@ -98,40 +117,34 @@ Event eventOf(AppState *state, const ParsedQuickAdd &parsed, const QString &text
 QuickAdd::Draft QuickAdd::draft(AppState *state, const QString &text, const QString &calendarIdHint,
                                 const QDateTime &now)
 {
-    if (text.trimmed().isEmpty())
+    const QString line = text.simplified();
+    if (line.isEmpty())
         return {};
-    const ParsedQuickAdd parsed = NLParser::parse(text, now);
+    ParsedQuickAdd parsed = NLParser::parse(line, now);
     if (!parsed.start.isValid())
-        return { .record = {}, .why = Tr::tr("There is no such date or time.") };
-    Draft draft;
-    if (parsed.isReminder || parsed.isTask)
-        draft.record = taskOf(state, parsed, text, calendarIdHint);
-    else
-        draft.record = eventOf(state, parsed, text, calendarIdHint);
-    const bool hasCalendar = std::visit(
-        [](const auto &record) {
-            if constexpr (std::is_same_v<std::decay_t<decltype(record)>, std::monostate>)
-                return false;
-            else
-                return !record.calendarId.isEmpty();
-        },
-        draft.record);
-    return hasCalendar ? draft : Draft{ .record = {}, .why = Tr::tr("There is no calendar that this can go to.") };
+        return refused(Tr::tr("There is no such date or time."));
+    if (parsed.title.isEmpty())
+        parsed.title = line;
+    const bool isTask = parsed.isTask || parsed.isReminder;
+    const QString calendarId = chosenCalendarId(writableCalendars(state, isTask), calendarIdHint);
+    if (calendarId.isEmpty())
+        return refused(Tr::tr("There is no calendar that can be written to. Create one first."));
+    const auto ofCalendar = [&calendarId](auto record) {
+        record.calendarId = calendarId;
+        return Draft{ .record = record, .why = {} };
+    };
+    return isTask ? ofCalendar(taskOf(parsed)) : ofCalendar(eventOf(parsed));
 }
 
 Event QuickAdd::preview(AppState *state, const QString &text, const QString &calendarIdHint)
 {
-    const Draft made = draft(state, text, calendarIdHint);
-    const auto *event = std::get_if<Event>(&made.record);
+    const Draft line = draft(state, text, calendarIdHint);
+    const auto *event = std::get_if<Event>(&line.record);
     return event ? *event : Event();
 }
 
 QString QuickAdd::commit(AppState *state, const QString &text, const QString &calendarIdHint)
 {
-    const Draft made = draft(state, text, calendarIdHint);
-    if (const auto *event = std::get_if<Event>(&made.record))
-        return EventEdits::create(state, *event).id;
-    if (const auto *task = std::get_if<Task>(&made.record))
-        return TaskEdits::create(state, *task).id;
-    return {};
+    const Draft line = draft(state, text, calendarIdHint);
+    return std::visit([state](const auto &record) { return store(state, record); }, line.record);
 }

@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -47,14 +48,18 @@ QString withUntil(const QString &rule, const QDateTime &cut);
 struct SeriesSnapshot {
     QList<Event> rows; ///< master and overrides as stored before the edit, tombstones too
     QString tailUid; ///< as apply() gave it; empty if it made no series
+    QStringList addedIds; ///< rows that the edit made, as noteAdded() found them
 };
 
 /// The rows of the series of \p master as they are stored now.
 SeriesSnapshot snapshot(EventRepository *repository, const Event &master);
 
+/// Notes, right after the edit, which rows of the series and of its tail are new.
+void noteAdded(EventRepository *repository, SeriesSnapshot &before);
+
 /// Gives every row of the snapshot its content back, pending. What a sync learnt of it since stays (address,
-/// etag, sequence). A row that was purged comes back as a new one; rows of the series and of its tail that
-/// are not in the snapshot become tombstones. False, and nothing changed, if the snapshot is empty or the
+/// etag, sequence). A row that was purged comes back as a new one; the rows that the edit made become
+/// tombstones. What a sync added since then stays. False, and nothing changed, if the snapshot is empty or the
 /// database refuses.
 bool restore(EventRepository *repository, const SeriesSnapshot &before);
 

@@ -43,15 +43,23 @@ Event withContent(const Event &row, const Event &content)
     return restored;
 }
 
-/// What an edit added, as tombstones. A tombstone needs its address, but no instance: one in the way of a
-/// row that comes back gives the instance up.
-QList<Event> withdrawn(EventRepository *repository, const SeriesSnapshot &before, const QSet<QString> &keptIds)
+/// The series and its tail as they are stored now.
+QList<Event> rowsNow(EventRepository *repository, const SeriesSnapshot &before)
 {
     const Event &first = before.rows.constFirst();
     QList<Event> rows = repository->getSeries(first.uid, first.calendarId);
     if (!before.tailUid.isEmpty())
         rows += repository->getSeries(before.tailUid, first.calendarId);
-    rows.removeIf([&keptIds](const Event &row) { return keptIds.contains(row.id); });
+    return rows;
+}
+
+/// What an edit added, as tombstones. A tombstone needs its address, but no instance: one in the way of a
+/// row that comes back gives the instance up.
+QList<Event> withdrawn(EventRepository *repository, const SeriesSnapshot &before, const QSet<QString> &keptIds)
+{
+    const Event &first = before.rows.constFirst();
+    QList<Event> rows = rowsNow(repository, before);
+    rows.removeIf([&](const Event &row) { return keptIds.contains(row.id) || !before.addedIds.contains(row.id); });
     QSet<QString> keys;
     for (const Event &row : before.rows)
         keys.insert(row.recurrenceId);
@@ -70,7 +78,19 @@ QList<Event> withdrawn(EventRepository *repository, const SeriesSnapshot &before
 SeriesSnapshot RecurringEdits::snapshot(EventRepository *repository, const Event &master)
 {
     return { .rows = repository ? repository->getSeries(master.uid, master.calendarId) : QList<Event>(),
-             .tailUid = {} };
+             .tailUid = {},
+             .addedIds = {} };
+}
+
+void RecurringEdits::noteAdded(EventRepository *repository, SeriesSnapshot &before)
+{
+    if (!repository || before.rows.isEmpty())
+        return;
+    const QSet<QString> known = idsOf(before.rows);
+    for (const Event &row : rowsNow(repository, before)) {
+        if (!known.contains(row.id))
+            before.addedIds.append(row.id);
+    }
 }
 
 bool RecurringEdits::restore(EventRepository *repository, const SeriesSnapshot &before)

@@ -6,6 +6,7 @@
 #include "calendar/TaskTree.h"
 #include "calendar/services/CalendarAccess.h"
 #include "calendar/services/EditDifference.h"
+#include "calendar/services/TaskListing.h"
 #include "storage/CalendarRepository.h"
 #include "storage/Savepoint.h"
 #include "storage/StoredTime.h"
@@ -159,7 +160,8 @@ bool writeRow(AppState *state, const Task &before, Task row, bool isPurged)
 class Trees {
 public:
     Trees(AppState *state, const QString &calendarId)
-        : m_tasks(TaskTree::flatten(state->tasks()->getByCalendar(calendarId), TaskTree::withManualSortOrder({})))
+        : m_tasks(TaskTree::flatten(state->tasks()->getByCalendar(calendarId),
+                                    TaskTree::withManualSortOrder(TaskListing::isBefore)))
     {
     }
 

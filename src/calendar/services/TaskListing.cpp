@@ -40,9 +40,8 @@ QList<TaskListing::Row> rowsOf(const QList<Task> &tasks)
     QSet<QString> uids;
     for (const Task &task : tasks)
         uids.insert(task.uid);
-    const auto inOrder = [](const Task &a, const Task &b) { return orderOf(a) < orderOf(b); };
     QList<TaskListing::Row> rows;
-    const QList<TreeTask> tree = TaskTree::flatten(tasks, TaskTree::withManualSortOrder(inOrder));
+    const QList<TreeTask> tree = TaskTree::flatten(tasks, TaskTree::withManualSortOrder(TaskListing::isBefore));
     rows.reserve(tree.size());
     for (const TreeTask &task : tree)
         rows.append({ task, !task.parentTaskUid.isEmpty() && !uids.contains(task.parentTaskUid) });
@@ -93,6 +92,11 @@ bool TaskListing::matches(const Task &task, Filter filter, QDate today)
 bool TaskListing::isOverdue(const Task &task, QDate today)
 {
     return !isDone(task) && matches(task, Filter::Overdue, today);
+}
+
+bool TaskListing::isBefore(const Task &a, const Task &b)
+{
+    return orderOf(a) < orderOf(b);
 }
 
 QList<TaskListing::Section> TaskListing::load(AppState *state, const Options &options, QDate today)

@@ -35,6 +35,9 @@ bool matches(const Task &task, Filter filter, QDate today);
 /// Due before today, and neither completed nor cancelled.
 bool isOverdue(const Task &task, QDate today);
 
+/// How siblings without a place of their own are ordered: to do before done, then by due date and priority.
+bool isBefore(const Task &a, const Task &b);
+
 /// The tasks of the visible calendars; no reminders. One section, or one for each calendar that has rows.
 QList<Section> load(AppState *state, const Options &options, QDate today);
 

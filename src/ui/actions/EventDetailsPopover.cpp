@@ -3,6 +3,7 @@
 #include "app/state/AppState.h"
 #include "calendar/DescriptionFormat.h"
 #include "calendar/RruleFormat.h"
+#include "calendar/RuleEnd.h"
 #include "calendar/services/EventEdits.h"
 #include "calendar/services/EventText.h"
 #include "calendar/services/TimeFormat.h"
@@ -87,7 +88,8 @@ void EventDetailsPopover::populate()
         when = tr("%1 (cancelled)", "date and time").arg(when);
     addLine(DetailGlyphs::Clock, tr("When"), when);
     if (m_event.isRecurring())
-        addLine(DetailGlyphs::Repeat, tr("Repeats"), RruleFormat::humanReadable(m_event.recurrenceRule));
+        addLine(DetailGlyphs::Repeat, tr("Repeats"),
+                RruleFormat::humanReadable(RuleEnd::asDay(m_event.recurrenceRule, m_event.isAllDay)));
     addPlace();
     if (calendar)
         addLine(DetailGlyphs::Calendar, tr("Calendar"),

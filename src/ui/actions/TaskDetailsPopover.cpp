@@ -3,6 +3,7 @@
 #include "app/state/AppState.h"
 #include "calendar/DescriptionFormat.h"
 #include "calendar/RruleFormat.h"
+#include "calendar/RuleEnd.h"
 #include "calendar/services/EventText.h"
 #include "calendar/services/TaskEdits.h"
 #include "calendar/services/TaskText.h"
@@ -72,7 +73,8 @@ void TaskDetailsPopover::addDates()
     if (m_task.startDate)
         addLine(DetailGlyphs::Clock, tr("Starts"), TaskText::date(m_state, *m_task.startDate, m_task.startIsDateOnly));
     if (!m_task.recurrenceRule.isEmpty())
-        addLine(DetailGlyphs::Repeat, tr("Repeats"), RruleFormat::humanReadable(m_task.recurrenceRule));
+        addLine(DetailGlyphs::Repeat, tr("Repeats"),
+                RruleFormat::humanReadable(RuleEnd::asDay(m_task.recurrenceRule, m_task.dueIsDateOnly)));
     QStringList reminders;
     for (const Reminder &reminder : std::as_const(m_task.reminders))
         reminders.append(RruleFormat::humanReadableReminder(reminder.minutesBefore));

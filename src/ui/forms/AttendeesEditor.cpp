@@ -1,6 +1,6 @@
 #include "ui/forms/AttendeesEditor.h"
 
-#include "ui/forms/RowButton.h"
+#include "ui/forms/CompoundField.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -18,7 +18,7 @@ AttendeesEditor::AttendeesEditor(QWidget *parent)
     m_column->setContentsMargins(0, 0, 0, 0);
     m_add->setAutoDefault(false);
     m_column->addWidget(m_add, 0, Qt::AlignLeft);
-    setFocusProxy(m_add);
+    setFirstControl(this, m_add);
     connect(m_add, &QPushButton::clicked, this, [this] {
         addRow({});
         m_rows.constLast().name->setFocus();

@@ -1,6 +1,7 @@
 #include "ui/forms/ColorField.h"
 
 #include "ui/dialogs/ColorButton.h"
+#include "ui/forms/CompoundField.h"
 
 #include <QHBoxLayout>
 
@@ -16,7 +17,7 @@ ColorField::ColorField(const QString &dialogTitle, QWidget *parent)
     row->addWidget(m_button);
     row->addWidget(m_clear);
     row->addStretch();
-    setFocusProxy(m_button);
+    setFirstControl(this, m_button);
     connect(m_button, &ColorButton::colorChanged, this, [this](const QString &color) {
         setColor(color);
         emit colorChanged(color);

@@ -1,5 +1,6 @@
 #include "ui/forms/DateTimePicker.h"
 
+#include "ui/forms/CompoundField.h"
 #include "ui/theme/Theme.h"
 
 #include <QAbstractItemView>
@@ -45,7 +46,7 @@ DateTimePicker::DateTimePicker(Qt::DayOfWeek firstDayOfWeek, QWidget *parent)
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_date, 3);
     row->addWidget(m_time, 2);
-    setFocusProxy(m_date);
+    setFirstControl(this, m_date);
     setAccessibleNames(tr("Date"), tr("Time"));
     connect(m_date, &QDateEdit::dateChanged, this, &DateTimePicker::onDateEdited);
     connect(m_time, &QComboBox::activated, this, &DateTimePicker::onTimeCommit);

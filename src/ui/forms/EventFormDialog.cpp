@@ -13,6 +13,7 @@
 #include "ui/forms/AttendeesEditor.h"
 #include "ui/forms/CalendarCombo.h"
 #include "ui/forms/ColorField.h"
+#include "ui/forms/CompoundField.h"
 #include "ui/forms/DateTimePicker.h"
 #include "ui/forms/RecurrenceButton.h"
 #include "ui/forms/ReminderList.h"
@@ -142,7 +143,7 @@ QWidget *EventFormDialog::buildCalendarRow()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_calendar, 1);
     layout->addWidget(m_templates);
-    row->setFocusProxy(m_calendar);
+    setFirstControl(row, m_calendar);
     return row;
 }
 

@@ -1,5 +1,6 @@
 #include "ui/forms/OptionalDateField.h"
 
+#include "ui/forms/CompoundField.h"
 #include "ui/forms/DateTimePicker.h"
 
 #include <QCheckBox>
@@ -24,7 +25,7 @@ OptionalDateField::OptionalDateField(Qt::DayOfWeek firstDayOfWeek, bool use24Hou
     row->addWidget(m_has);
     row->addWidget(m_picker, 1);
     row->addWidget(m_hasTime);
-    setFocusProxy(m_has);
+    setFirstControl(this, m_has);
     for (QCheckBox *box : { m_has, m_hasTime }) {
         connect(box, &QCheckBox::clicked, this, [this] {
             refresh();

@@ -1,6 +1,6 @@
 #include "ui/forms/RemindersEditor.h"
 
-#include "ui/forms/RowButton.h"
+#include "ui/forms/CompoundField.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -55,7 +55,7 @@ RemindersEditor::RemindersEditor(QWidget *parent)
     m_column->setContentsMargins(0, 0, 0, 0);
     m_add->setAutoDefault(false);
     m_column->addWidget(m_add, 0, Qt::AlignLeft);
-    setFocusProxy(m_add);
+    setFirstControl(this, m_add);
     connect(m_add, &QPushButton::clicked, this, [this] {
         addRow(FirstSuggestion);
         m_rows.constLast()->setFocus();

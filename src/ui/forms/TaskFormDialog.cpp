@@ -12,6 +12,7 @@
 #include "ui/dialogs/Prompt.h"
 #include "ui/forms/CalendarCombo.h"
 #include "ui/forms/ColorField.h"
+#include "ui/forms/CompoundField.h"
 #include "ui/forms/OptionalDateField.h"
 #include "ui/forms/RecurrenceButton.h"
 #include "ui/forms/ReminderList.h"
@@ -142,7 +143,7 @@ QWidget *TaskFormDialog::buildProgress()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_status, 1);
     layout->addWidget(m_progress);
-    row->setFocusProxy(m_status);
+    setFirstControl(row, m_status);
     return row;
 }
 
@@ -202,7 +203,7 @@ void TaskFormDialog::prefill(const Task &task)
     m_parent->setCurrentIndex(std::max(0, m_parent->findData(task.parentTaskUid)));
     m_due->setValue(task.dueDate, task.dueIsDateOnly);
     m_start->setValue(task.startDate, task.startIsDateOnly);
-    m_repeat->setRule(RuleEnd::asDay(task.recurrenceRule));
+    m_repeat->setRule(RuleEnd::asDay(task.recurrenceRule, task.dueIsDateOnly));
     m_repeatMode->setCurrentIndex(std::max(0, m_repeatMode->findData(task.repeatMode)));
     QList<int> minutes;
     for (const Reminder &reminder : task.reminders)
@@ -289,7 +290,7 @@ Task TaskFormDialog::edited() const
     task.startDate = m_start->value();
     task.startIsDateOnly = m_start->isDateOnly();
     const QString rule = m_repeat->rule();
-    if (rule != RuleEnd::asDay(m_shown.recurrenceRule))
+    if (rule != RuleEnd::asDay(m_shown.recurrenceRule, m_shown.dueIsDateOnly))
         task.recurrenceRule = task.dueIsDateOnly ? rule : RuleEnd::asInstant(rule);
     task.repeatMode = m_repeatMode->currentData().toString();
     task.reminders = ReminderList::withMinutes(m_shown.reminders, m_reminders->minutes());

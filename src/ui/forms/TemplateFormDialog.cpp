@@ -5,6 +5,7 @@
 #include "storage/TemplateRepository.h"
 #include "ui/forms/CalendarCombo.h"
 #include "ui/forms/ColorField.h"
+#include "ui/forms/CompoundField.h"
 #include "ui/forms/RecurrenceButton.h"
 #include "ui/forms/RemindersEditor.h"
 
@@ -109,7 +110,7 @@ QWidget *TemplateFormDialog::buildLength()
     layout->addWidget(m_days);
     layout->addWidget(m_allDay);
     layout->addStretch();
-    row->setFocusProxy(m_hours);
+    setFirstControl(row, m_hours);
     return row;
 }
 

@@ -266,6 +266,18 @@ private slots:
         }
     }
 
+    void placesAmongWhatIsShown()
+    {
+        ScratchState state;
+        for (const QString &id : { u"a"_s, u"b"_s, u"c"_s })
+            add(state, id);
+        Task first = row(state, u"c"_s);
+        first.priority = 1;
+        update(state, first);
+        QVERIFY(TaskEdits::place(state.state(), u"b"_s, u"a"_s, DropZone::Above).ok);
+        QCOMPARE(outline(state), u"a:3 b:2 c:1"_s);
+    }
+
     void refuses()
     {
         ScratchState state;

@@ -26,7 +26,7 @@ QString outline(const QList<TaskListing::Section> &sections)
     QStringList rows;
     for (const TaskListing::Section &section : sections) {
         for (const TaskListing::Row &row : section.rows)
-            rows.append(QString(row.depth, u'-') + row.title + (row.isCutOff ? u"~" : u""));
+            rows.append(QString(row.depth, u'-') + row.title + QString(row.isCutOff ? 1 : 0, u'~'));
     }
     return rows.join(u' ');
 }

@@ -1,11 +1,9 @@
-#include "models/Account.h"
-#include "storage/AccountRepository.h"
-#include "storage/CalendarRepository.h"
 #include "support/ScratchState.h"
+#include "support/TestData.h"
 #include "ui/dialogs/CalendarFormDialog.h"
 
-#include <QLineEdit>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 class tst_CalendarFormDialog : public QObject {
     Q_OBJECT
@@ -13,11 +11,10 @@ class tst_CalendarFormDialog : public QObject {
 private slots:
     void createsALocalCalendar_data()
     {
-        QTest::addColumn<bool>("accountThere");
-        QTest::addColumn<bool>("tombstoneThere");
-        QTest::newRow("in the account that is there") << true << false;
-        QTest::newRow("with a new account") << false << false;
-        QTest::newRow("over a deleted account") << false << true;
+        columns<bool, bool>("accountThere", "tombstoneThere");
+        row("in the account that is there", true, false);
+        row("with a new account", false, false);
+        row("over a deleted account", false, true);
     }
 
     void createsALocalCalendar()
@@ -26,26 +23,21 @@ private slots:
         QFETCH(bool, tombstoneThere);
         ScratchState state;
         const QString accountId = LocalDefaults::LocalAccountId;
-        if (!accountThere)
-            QVERIFY(state->accounts()->remove(accountId));
-        if (!accountThere && !tombstoneThere)
-            QVERIFY(state->accounts()->reapTombstone(accountId));
+        QVERIFY(accountThere || state->accounts()->remove(accountId));
+        QVERIFY(accountThere || tombstoneThere || state->accounts()->reapTombstone(accountId));
 
         CalendarFormDialog form(state.state());
         form.accept();
         QVERIFY(!form.problemText().isEmpty()); // no name yet
-        form.findChild<QLineEdit *>()->setText(QStringLiteral("Allotment"));
+        form.findChild<QLineEdit *>()->setText(u"Allotment"_qs);
         form.accept();
         const auto stored = state->calendars()->getById(form.resultCalendarId());
         QVERIFY(stored);
-        QCOMPARE(stored->name, QStringLiteral("Allotment"));
+        QCOMPARE(stored->name, u"Allotment"_qs);
         QCOMPARE(stored->accountId, accountId);
-        QCOMPARE(stored->url, QStringLiteral("local://calendar/") + stored->id);
-        QVERIFY(stored->supportsTasks());
-        QVERIFY(stored->supportedComponents.contains(QStringLiteral("VEVENT")));
-        QVERIFY(stored->syncEnabled);
-        QVERIFY(stored->isVisible);
-        QVERIFY(stored->canonicalKey.isEmpty());
+        QCOMPARE(stored->url, u"local://calendar/"_qs + stored->id);
+        QVERIFY(stored->supportsTasks() && stored->supportedComponents.contains(u"VEVENT"));
+        QVERIFY(stored->syncEnabled && stored->isVisible);
         QCOMPARE(stored->isDefault, !accountThere); // the only calendar then
         QCOMPARE(state->accounts()->getById(accountId)->type, QString(AccountType::Quillon));
     }
@@ -54,18 +46,17 @@ private slots:
     {
         ScratchState state;
         Calendar calendar = state->calendars()->getById(ScratchState::calendarId()).value();
-        calendar.description = QStringLiteral("two\r\nlines");
+        calendar.description = u"two\r\nlines"_qs;
         QVERIFY(state->calendars()->update(calendar));
         CalendarFormDialog form(state.state(), calendar);
-        calendar.ctag = QStringLiteral("after the sync");
+        calendar.ctag = u"after the sync"_qs;
         QVERIFY(state->calendars()->update(calendar));
-        form.findChild<QLineEdit *>()->setText(QStringLiteral("Renamed"));
+        form.findChild<QLineEdit *>()->setText(u"Renamed"_qs);
         form.accept();
         const Calendar stored = state->calendars()->getById(calendar.id).value();
-        QCOMPARE(stored.name, QStringLiteral("Renamed"));
-        QCOMPARE(stored.ctag, QStringLiteral("after the sync"));
-        QCOMPARE(stored.description, QStringLiteral("two\r\nlines"));
-        QCOMPARE(form.resultCalendarId(), calendar.id);
+        QCOMPARE(stored.name, u"Renamed"_qs);
+        QCOMPARE(stored.ctag, u"after the sync"_qs);
+        QCOMPARE(stored.description, u"two\r\nlines"_qs);
     }
 };
 

@@ -1,7 +1,3 @@
-#include "models/FilterRule.h"
-#include "storage/CalendarRepository.h"
-#include "storage/FilterRuleRepository.h"
-#include "storage/ViewRepository.h"
 #include "support/ScratchState.h"
 #include "ui/dialogs/CalendarFormDialog.h"
 #include "ui/dialogs/FeedbackDialog.h"
@@ -13,13 +9,8 @@
 #include "ui/dialogs/ViewFormDialog.h"
 #include "ui/dialogs/WelcomeDialog.h"
 
-#include <QAbstractButton>
-#include <QAbstractScrollArea>
-#include <QComboBox>
-#include <QLabel>
-#include <QTabWidget>
-#include <QTest>
-#include <QToolButton>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -28,9 +19,6 @@ using MakeDialog = std::function<QDialog *(AppState *)>;
 FilterRule ruleWith(const QString &conditions)
 {
     FilterRule rule;
-    rule.id = QStringLiteral("r");
-    rule.name = QStringLiteral("A rule");
-    rule.type = FilterType::Pattern;
     rule.conditions = conditions;
     rule.calendarIds = QStringLiteral("[\"%1\"]").arg(ScratchState::calendarId());
     return rule;
@@ -132,9 +120,8 @@ private:
             const bool below = now.center().y() > before.center().y();
             const bool rightOf = now.left() >= before.right();
             const bool sideButton = i == stops.size() - 1 && now.left() < before.left(); // "Delete" comes last
-            if (!below && !rightOf && !sideButton)
-                QFAIL(
-                    qPrintable(QStringLiteral("%1 comes after %2").arg(nameOf(stops.at(i)), nameOf(stops.at(i - 1)))));
+            const QString problem = nameOf(stops.at(i)) + QStringLiteral(" after ") + nameOf(stops.at(i - 1));
+            QVERIFY2(below || rightOf || sideButton, qPrintable(problem));
         }
     }
 
@@ -151,19 +138,16 @@ private:
             bool fits = widget->width() >= wanted.width() && widget->height() >= wanted.height();
             if (label && label->wordWrap())
                 fits = widget->height() >= widget->heightForWidth(widget->width());
-            if (!fits)
-                QFAIL(qPrintable(QStringLiteral("%1 is cut").arg(nameOf(widget))));
+            QVERIFY2(fits, qPrintable(nameOf(widget) + QStringLiteral(" is cut")));
             const bool inside = widget->parentWidget()->rect().contains(widget->geometry());
-            if (!inside && !qobject_cast<QAbstractScrollArea *>(widget->parentWidget()->parentWidget()))
-                QFAIL(qPrintable(QStringLiteral("%1 reaches out of its parent").arg(nameOf(widget))));
+            const bool scrolls = qobject_cast<QAbstractScrollArea *>(widget->parentWidget()->parentWidget());
+            QVERIFY2(inside || scrolls, qPrintable(nameOf(widget) + QStringLiteral(" reaches out of its parent")));
         }
     }
 
     static QString nameOf(const QWidget *widget)
     {
-        const QString text = widget->property("text").toString();
-        return QStringLiteral("%1 \"%2\" %3")
-            .arg(QLatin1StringView(widget->metaObject()->className()), text, widget->accessibleName());
+        return QLatin1StringView(widget->metaObject()->className()) + u' ' + widget->property("text").toString();
     }
 
     QFont m_font;

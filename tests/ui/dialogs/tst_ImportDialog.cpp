@@ -1,83 +1,56 @@
 #include "app/state/DefaultCalendar.h"
-#include "storage/CalendarRepository.h"
-#include "storage/PreferencesRepository.h"
 #include "support/ScratchState.h"
+#include "support/TestData.h"
 #include "ui/dialogs/ImportDialog.h"
 
-#include <QComboBox>
-#include <QLabel>
-#include <QPushButton>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 class tst_ImportDialog : public QObject {
     Q_OBJECT
 
 private slots:
-    void saysHowManyEventsComeFromWhere_data()
-    {
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<int>("events");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("one") << QStringList{ QStringLiteral("a.ics") } << 1
-                             << QStringLiteral("Import 1 event from \"a.ics\" into:");
-        QTest::newRow("many") << QStringList{ QStringLiteral("a.ics") } << 12
-                              << QStringLiteral("Import 12 events from \"a.ics\" into:");
-        QTest::newRow("a name with marks") << QStringList{ QStringLiteral("<b>%1&%2.ics") } << 2
-                                           << QStringLiteral("Import 2 events from \"<b>%1&%2.ics\" into:");
-        QTest::newRow("files") << QStringList{ QStringLiteral("a.ics"), QStringLiteral("b.ics") } << 12
-                               << QStringLiteral("Import 12 events from 2 files into:");
-    }
-
     void saysHowManyEventsComeFromWhere()
     {
-        QFETCH(QStringList, files);
-        QFETCH(int, events);
         ScratchState state;
-        ImportDialog dialog(state.state(), files, events);
-        QCOMPARE(dialog.windowTitle(), QStringLiteral("Import events"));
-        QVERIFY(dialog.minimumWidth() >= 480);
-        QLabel *shown = nullptr;
-        const auto labels = dialog.findChildren<QLabel *>();
-        for (QLabel *label : labels) {
-            if (label->text().startsWith(QStringLiteral("Import ")))
-                shown = label;
+        const QList<std::tuple<QStringList, int, QString>> rows{
+            { { u"a.ics"_qs }, 1, u"Import 1 event from \"a.ics\" into:"_qs },
+            { { u"<b>%1&%2.ics"_qs }, 2, u"Import 2 events from \"<b>%1&%2.ics\" into:"_qs },
+            { { u"a.ics"_qs, u"b.ics"_qs }, 12, u"Import 12 events from 2 files into:"_qs },
+        };
+        for (const auto &[files, events, text] : rows) {
+            ImportDialog dialog(state.state(), files, events);
+            const auto labels = dialog.findChildren<QLabel *>();
+            const auto shown = std::find_if(labels.begin(), labels.end(),
+                                            [&text](const QLabel *label) { return label->text() == text; });
+            QVERIFY2(shown != labels.end(), qPrintable(text));
+            QCOMPARE((*shown)->textFormat(), Qt::PlainText);
         }
-        QVERIFY(shown);
-        QTEST(shown->text(), "text");
-        QCOMPARE(shown->textFormat(), Qt::PlainText);
     }
 
     void offersOnlyWritableCalendars()
     {
         ScratchState state;
-        const QString feed = state.addCalendar(QStringLiteral("A feed"));
-        Calendar readOnly = state->calendars()->getById(feed).value();
-        readOnly.isReadOnly = true;
-        QVERIFY(state->calendars()->update(readOnly));
-        const QString work = state.addCalendar(QStringLiteral("work"));
-        ImportDialog dialog(state.state(), { QStringLiteral("a.ics") }, 1);
+        const QString feed = state.addCalendar(u"A feed"_qs);
+        state.makeReadOnly(feed);
+        const QString art = state.addCalendar(u"art"_qs);
+        ImportDialog dialog(state.state(), { u"a.ics"_qs }, 1);
         auto *combo = dialog.findChild<QComboBox *>();
         QCOMPARE(combo->count(), 2);
-        QCOMPARE(combo->itemData(0).toString(), ScratchState::calendarId()); // "Personal" before "work"
-        QCOMPARE(combo->itemText(0), QStringLiteral("Personal — Quillon"));
-        QCOMPARE(combo->itemData(1).toString(), work);
-        QVERIFY(!combo->itemIcon(1).isNull());
+        QCOMPARE(combo->itemData(0).toString(), art);
+        QVERIFY(!combo->itemIcon(0).isNull());
+        QCOMPARE(combo->itemText(1), u"Personal — Quillon"_qs);
     }
 
     void picksTheTarget_data()
     {
-        QTest::addColumn<QString>("preferred"); // a calendar's name, or text of the setting
-        QTest::addColumn<QString>("flagged");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("the user's choice")
-            << QStringLiteral("Work") << QStringLiteral("Personal") << QStringLiteral("Work");
-        QTest::newRow("the one used last")
-            << QString(DefaultCalendar::sentinel()) << QStringLiteral("Personal") << QStringLiteral("Zoo");
-        QTest::newRow("no choice") << QString() << QStringLiteral("Work") << QStringLiteral("Work");
-        QTest::newRow("a choice that is gone")
-            << QStringLiteral("gone") << QStringLiteral("Work") << QStringLiteral("Work");
-        QTest::newRow("no flag") << QString() << QString() << QStringLiteral("Art");
-        QTest::newRow("the flagged one is read-only") << QString() << QStringLiteral("Feed") << QStringLiteral("Art");
+        // A calendar's name or text of the setting, and names.
+        columns<QString, QString, QString>("preferred", "flagged", "expected");
+        row("the user's choice", "Work", "Personal", "Work");
+        row("the one used last", QString(DefaultCalendar::sentinel()), "Personal", "Zoo");
+        row("a choice that is gone", "gone", "Work", "Work");
+        row("no flag", "", "", "Art");
+        row("the flagged one is read-only", "", "Feed", "Art");
     }
 
     void picksTheTarget()
@@ -86,20 +59,19 @@ private slots:
         QFETCH(QString, flagged);
         QFETCH(QString, expected);
         ScratchState state;
-        QHash<QString, QString> ids{ { QStringLiteral("Personal"), ScratchState::calendarId() } };
-        for (const char *name : { "Zoo", "Work", "Art", "Feed" })
-            ids.insert(QLatin1StringView(name), state.addCalendar(QLatin1StringView(name)));
+        QHash<QString, QString> ids{ { u"Personal"_qs, ScratchState::calendarId() } };
+        for (const QString &name : { u"Zoo"_qs, u"Work"_qs, u"Art"_qs, u"Feed"_qs })
+            ids.insert(name, state.addCalendar(name));
         for (auto it = ids.cbegin(); it != ids.cend(); ++it) {
             Calendar calendar = state->calendars()->getById(it.value()).value();
             calendar.isDefault = it.key() == flagged;
-            calendar.isReadOnly = it.key() == QStringLiteral("Feed");
+            calendar.isReadOnly = it.key() == u"Feed";
             QVERIFY(state->calendars()->update(calendar));
         }
         if (!preferred.isEmpty())
             state->preferences()->set(DefaultCalendar::defaultKey(false), ids.value(preferred, preferred));
-        state->preferences()->set(DefaultCalendar::lastUsedKey(false), ids.value(QStringLiteral("Zoo")));
-
-        ImportDialog dialog(state.state(), { QStringLiteral("a.ics") }, 1);
+        state->preferences()->set(DefaultCalendar::lastUsedKey(false), ids.value(u"Zoo"_qs));
+        ImportDialog dialog(state.state(), { u"a.ics"_qs }, 1);
         QCOMPARE(dialog.calendarId(), ids.value(expected));
     }
 };

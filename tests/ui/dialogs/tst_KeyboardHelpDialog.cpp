@@ -1,45 +1,34 @@
 #include "ui/dialogs/KeyboardHelpDialog.h"
 
-#include <QLineEdit>
-#include <QTest>
-#include <QTreeWidget>
+#include <QtTest>
+#include <QtWidgets>
 
 class tst_KeyboardHelpDialog : public QObject {
     Q_OBJECT
 
 private slots:
-    void filters_data()
-    {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QStringList>("shown");
-        const QString today = QStringLiteral("Today");
-        const QString find = QStringLiteral("Find");
-        const QString quit = QStringLiteral("Quit");
-        QTest::newRow("nothing typed") << QString() << QStringList{ today, quit, find };
-        QTest::newRow("by label") << QStringLiteral("  tod") << QStringList{ today };
-        QTest::newRow("by key") << QStringLiteral("ctrl+f") << QStringList{ find };
-        QTest::newRow("by group") << QStringLiteral("navig") << QStringList{ today };
-        QTest::newRow("no match") << QStringLiteral("xyz") << QStringList();
-    }
-
     void filters()
     {
-        QFETCH(QString, typed);
-        KeyboardHelpDialog dialog({
-            { QStringLiteral("Navigation"), QStringLiteral("Today"), { Qt::Key_T } },
-            { QStringLiteral("Program"), QStringLiteral("Quit"), { Qt::CTRL | Qt::Key_Q } },
-            { QStringLiteral("Program"), QStringLiteral("Find"), { Qt::CTRL | Qt::Key_F, Qt::Key_F3 } },
-        });
+        KeyboardHelpDialog dialog({ { u"Navigation"_qs, u"Today"_qs, { Qt::Key_T } },
+                                    { u"Program"_qs, u"Quit"_qs, { Qt::CTRL | Qt::Key_Q } },
+                                    { u"Program"_qs, u"Find"_qs, { Qt::CTRL | Qt::Key_F, Qt::Key_F3 } } });
         auto *table = dialog.findChild<QTreeWidget *>();
-        dialog.findChild<QLineEdit *>()->setText(typed);
-        QStringList shown;
-        for (QTreeWidgetItemIterator it(table); *it; ++it) {
-            const QTreeWidgetItem *group = (*it)->parent();
-            if (group && !(*it)->isHidden() && !group->isHidden())
-                shown.append((*it)->text(0));
-        }
-        QTEST(shown, "shown");
-        QCOMPARE(table->isHidden(), shown.isEmpty());
+        const auto shownFor = [&](const QString &typed) {
+            dialog.findChild<QLineEdit *>()->setText(typed);
+            QStringList shown;
+            for (QTreeWidgetItemIterator it(table, QTreeWidgetItemIterator::NotHidden); *it; ++it) {
+                if (const QTreeWidgetItem *group = (*it)->parent(); group && !group->isHidden())
+                    shown.append((*it)->text(0));
+            }
+            return shown.join(u' ');
+        };
+        QCOMPARE(shownFor({}), u"Today Quit Find"_qs);
+        QCOMPARE(shownFor(u"  tod"_qs), u"Today"_qs);
+        QCOMPARE(shownFor(u"ctrl+f"_qs), u"Find"_qs);
+        QCOMPARE(shownFor(u"navig"_qs), u"Today"_qs); // by its group
+        QVERIFY(!table->isHidden());
+        QCOMPARE(shownFor(u"xyz"_qs), QString());
+        QVERIFY(table->isHidden());
     }
 };
 

@@ -1,59 +1,34 @@
-#include "storage/FilterRuleRepository.h"
-#include "storage/ViewRepository.h"
 #include "support/ScratchState.h"
 #include "ui/dialogs/GroupName.h"
 #include "ui/dialogs/ManageFiltersDialog.h"
 #include "ui/dialogs/ManageViewsDialog.h"
 #include "ui/dialogs/Prompt.h"
 
-#include <QListWidget>
-#include <QPushButton>
-#include <QTest>
-#include <QTranslator>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
 QPushButton *button(QWidget &dialog, const QString &text)
 {
     const auto buttons = dialog.findChildren<QPushButton *>();
-    for (QPushButton *candidate : buttons) {
-        if (QString(candidate->text()).remove(u'&') == text)
-            return candidate;
-    }
-    return nullptr;
+    const auto found = std::find_if(buttons.begin(), buttons.end(), [&text](const QPushButton *candidate) {
+        return QString(candidate->text()).remove(u'&') == text;
+    });
+    return found == buttons.end() ? nullptr : *found;
 }
 
-QStringList titles(QWidget &dialog)
+QListWidget *list(const QWidget &dialog)
+{
+    return dialog.findChild<QListWidget *>();
+}
+
+QStringList titles(const QWidget &dialog)
 {
     QStringList texts;
-    const auto *list = dialog.findChild<QListWidget *>();
-    for (int row = 0; row < list->count(); ++row)
-        texts.append(list->item(row)->text());
+    for (int row = 0; row < list(dialog)->count(); ++row)
+        texts.append(list(dialog)->item(row)->text());
     return texts;
-}
-
-void addView(ScratchState &state, const QString &name, int position)
-{
-    ViewDef view;
-    view.id = name;
-    view.name = name;
-    view.sortOrder = position;
-    view.createdAt = QDateTime::currentDateTimeUtc();
-    view.updatedAt = view.createdAt;
-    QVERIFY(state->views()->insert(view));
-}
-
-void addRule(ScratchState &state, const QString &name, int priority)
-{
-    FilterRule rule;
-    rule.id = name;
-    rule.name = name;
-    rule.type = FilterType::AllDay;
-    rule.conditions = QStringLiteral(R"({"runtimeType":"allDay"})");
-    rule.priority = priority;
-    rule.createdAt = QDateTime::currentDateTimeUtc();
-    rule.updatedAt = rule.createdAt;
-    QVERIFY(state->filterRules()->insert(rule));
 }
 
 /// Translates the names of groups while it lives.
@@ -79,67 +54,42 @@ private slots:
     void movingAFilterChangesWhichOneDecides()
     {
         ScratchState state;
-        addRule(state, A, 50);
-        addRule(state, B, 90);
         ManageFiltersDialog dialog(state.state());
-        QCOMPARE(titles(dialog), QStringList({ A, B }));
-        dialog.findChild<QListWidget *>()->setCurrentRow(1);
-        QVERIFY(!button(dialog, QStringLiteral("Move Down"))->isEnabled());
-        button(dialog, QStringLiteral("Move Up"))->click();
+        QVERIFY(list(dialog)->isHidden()); // a text says what to do
+        QVERIFY(!button(dialog, u"Edit…"_qs)->isEnabled());
+        state.addFilter(A, A);
+        state.addFilter(B, B);
+        QTRY_COMPARE(titles(dialog), QStringList({ A, B }));
+        QVERIFY(!list(dialog)->isHidden());
+        list(dialog)->setCurrentRow(1);
+        QVERIFY(!button(dialog, u"Move Down"_qs)->isEnabled());
+        button(dialog, u"Move Up"_qs)->click();
         QTRY_COMPARE(titles(dialog), QStringList({ B, A }));
         QVERIFY(state->filterRules()->getById(B)->priority < state->filterRules()->getById(A)->priority);
-        QCOMPARE(dialog.findChild<QListWidget *>()->currentRow(), 0); // the moved one stays selected
-    }
+        QCOMPARE(list(dialog)->currentRow(), 0); // the moved one stays selected
 
-    void draggingARowStoresTheOrder()
-    {
-        ScratchState state;
-        addRule(state, A, 50);
-        addRule(state, B, 90);
-        ManageFiltersDialog dialog(state.state());
-        QAbstractItemModel *model = dialog.findChild<QListWidget *>()->model();
-        QVERIFY(model->moveRow({}, 1, {}, 0)); // as a drop inside the list does
-        QTRY_COMPARE(state->filterRules()->getAll().constFirst().id, B);
-        QTRY_COMPARE(titles(dialog), QStringList({ B, A }));
-    }
-
-    void theCheckBoxSwitchesAFilter()
-    {
-        ScratchState state;
-        addRule(state, A, 1);
-        ManageFiltersDialog dialog(state.state());
-        dialog.findChild<QListWidget *>()->item(0)->setCheckState(Qt::Unchecked);
+        QVERIFY(list(dialog)->model()->moveRow({}, 1, {}, 0)); // as a drop inside the list does
+        QTRY_COMPARE(state->filterRules()->getAll().constFirst().id, A);
+        QTRY_COMPARE(titles(dialog), QStringList({ A, B }));
+        list(dialog)->item(0)->setCheckState(Qt::Unchecked);
         QVERIFY(!state->filterRules()->getById(A)->enabled);
-    }
-
-    void saysWhatToDoWhenThereIsNothing()
-    {
-        ScratchState state;
-        ManageFiltersDialog dialog(state.state());
-        QVERIFY(dialog.findChild<QListWidget *>()->isHidden());
-        QVERIFY(!button(dialog, QStringLiteral("Edit…"))->isEnabled());
-        addRule(state, A, 1);
-        QTRY_COMPARE(titles(dialog), QStringList{ A });
-        QVERIFY(!dialog.findChild<QListWidget *>()->isHidden());
     }
 
     void theBuiltInGroupStaysOnTop()
     {
         ScratchState state;
-        addView(state, A, 1);
-        addView(state, B, 2);
+        state.addGroup(A);
+        state.addGroup(B);
         ManageViewsDialog dialog(state.state());
-        auto *list = dialog.findChild<QListWidget *>();
-        QCOMPARE(list->count(), 3);
-        list->setCurrentRow(0);
-        QVERIFY(!button(dialog, QStringLiteral("Delete"))->isEnabled());
-        QVERIFY(!button(dialog, QStringLiteral("Move Down"))->isEnabled());
-        list->setCurrentRow(1);
-        QVERIFY(!button(dialog, QStringLiteral("Move Up"))->isEnabled());
-        button(dialog, QStringLiteral("Move Down"))->click();
+        QCOMPARE(titles(dialog).size(), 3);
+        list(dialog)->setCurrentRow(0);
+        QVERIFY(!button(dialog, u"Delete"_qs)->isEnabled());
+        QVERIFY(!button(dialog, u"Move Down"_qs)->isEnabled());
+        list(dialog)->setCurrentRow(1);
+        QVERIFY(!button(dialog, u"Move Up"_qs)->isEnabled());
+        button(dialog, u"Move Down"_qs)->click();
         QTRY_COMPARE(titles(dialog).mid(1), QStringList({ B, A }));
-
-        QVERIFY(list->model()->moveRow({}, 2, {}, 0)); // dropped above it
+        QVERIFY(list(dialog)->model()->moveRow({}, 2, {}, 0)); // dropped above it
         QTRY_COMPARE(titles(dialog).mid(1), QStringList({ A, B }));
         QCOMPARE(state->views()->getAll().constFirst().id, QString(ViewDefaults::AllCalendarsId));
     }
@@ -147,33 +97,32 @@ private slots:
     void theBuiltInGroupsNameIsTranslated()
     {
         ScratchState state;
-        addView(state, QStringLiteral("All Calendars"), 1); // the user's own by that name
+        state.addGroup(u"All Calendars"_qs); // the user's own by that name
         const Upper translator;
         ManageViewsDialog dialog(state.state());
-        QCOMPARE(titles(dialog), QStringList({ QStringLiteral("ALL CALENDARS"), QStringLiteral("All Calendars") }));
+        QCOMPARE(titles(dialog), QStringList({ u"ALL CALENDARS"_qs, u"All Calendars"_qs }));
         ViewDef builtIn = *state->views()->getById(ViewDefaults::AllCalendarsId);
-        builtIn.name = QStringLiteral("Mine");
-        QCOMPARE(groupDisplayName(builtIn), QStringLiteral("Mine"));
+        builtIn.name = u"Mine"_qs;
+        QCOMPARE(groupDisplayName(builtIn), u"Mine"_qs);
     }
 
     void deletingTheActiveGroupFallsBack()
     {
         ScratchState state;
-        addView(state, A, 1);
-        addView(state, B, 2);
+        state.addGroup(A);
+        state.addGroup(B);
         state->setActiveViewId(A);
         ManageViewsDialog dialog(state.state());
-        auto *list = dialog.findChild<QListWidget *>();
         Prompt::ScopedAnswers answers;
-        list->setCurrentRow(2);
-        button(dialog, QStringLiteral("Delete"))->click();
+        list(dialog)->setCurrentRow(2);
+        button(dialog, u"Delete"_qs)->click();
         QTRY_COMPARE(titles(dialog).size(), 2);
         QCOMPARE(state->activeViewId(), A);
-        list->setCurrentRow(1);
-        button(dialog, QStringLiteral("Delete"))->click();
+        list(dialog)->setCurrentRow(1);
+        button(dialog, u"Delete"_qs)->click();
         QTRY_COMPARE(titles(dialog).size(), 1);
         QCOMPARE(state->activeViewId(), QString(ViewDefaults::AllCalendarsId));
-        QCOMPARE(answers.asked.constFirst().text, QStringLiteral("Delete \"B\"? You can recreate it later."));
+        QCOMPARE(answers.asked.constFirst().text, u"Delete \"B\"? You can recreate it later."_qs);
     }
 };
 

@@ -1,44 +1,40 @@
 #include "app/state/DefaultCalendar.h"
-#include "storage/PreferencesRepository.h"
 #include "support/ScratchState.h"
 #include "ui/dialogs/PreferencesDialog.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QFormLayout>
-#include <QLabel>
-#include <QSettings>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
-
-#include <algorithm>
-
-namespace {
-
-QComboBox *comboOf(QWidget &dialog, const QString &label)
-{
-    const auto labels = dialog.findChildren<QLabel *>();
-    for (QLabel *candidate : labels) {
-        if (QString(candidate->text()).remove(u'&') == label)
-            return qobject_cast<QComboBox *>(candidate->buddy());
-    }
-    return nullptr;
-}
-
-/// As the user does it: the program answers to activated, not to a change from code.
-void choose(QComboBox *combo, const QVariant &data)
-{
-    const int index = combo->findData(data);
-    QVERIFY(index >= 0);
-    combo->setCurrentIndex(index);
-    emit combo->activated(index);
-}
-
-}
+#include <QtTest>
+#include <QtWidgets>
 
 class tst_PreferencesDialog : public QObject {
     Q_OBJECT
+
+private:
+    QComboBox *comboOf(const QString &label)
+    {
+        const auto labels = m_dialog->findChildren<QLabel *>();
+        for (QLabel *candidate : labels) {
+            if (QString(candidate->text()).remove(u'&') == label)
+                return qobject_cast<QComboBox *>(candidate->buddy());
+        }
+        return nullptr;
+    }
+
+    /// As the user does it: the program answers to activated, not to a change from code.
+    void choose(const QString &label, const QVariant &data)
+    {
+        QComboBox *combo = comboOf(label);
+        const int index = combo->findData(data);
+        QVERIFY(index >= 0);
+        combo->setCurrentIndex(index);
+        emit combo->activated(index);
+    }
+
+    PreferencesRepository *preferences() { return (*m_state)->preferences(); }
+
+    QTemporaryDir m_settings;
+    std::unique_ptr<ScratchState> m_state;
+    std::unique_ptr<PreferencesDialog> m_dialog;
+    QString m_work;
 
 private slots:
     void initTestCase()
@@ -46,96 +42,61 @@ private slots:
         QVERIFY(m_settings.isValid());
         QSettings::setDefaultFormat(QSettings::IniFormat);
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
-        QCoreApplication::setOrganizationName(QStringLiteral("DialogTest"));
+        QCoreApplication::setOrganizationName(u"DialogTest"_qs);
+    }
+
+    void init()
+    {
+        m_dialog.reset();
+        m_state = std::make_unique<ScratchState>();
+        m_work = m_state->addCalendar(u"Work"_qs);
+        m_dialog = std::make_unique<PreferencesDialog>(m_state->state());
     }
 
     void theFirstDayOfTheWeekCountsAsTheUsersOwn()
     {
-        ScratchState state;
-        PreferencesDialog dialog(state.state());
-        QSignalSpy changed(state.state(), &AppState::firstDayOfWeekChanged);
-        choose(comboOf(dialog, QStringLiteral("First day of the week")), int(Qt::Saturday));
-        QCOMPARE(state->firstDayOfWeek(), Qt::Saturday);
+        QSignalSpy changed(m_state->state(), &AppState::firstDayOfWeekChanged);
+        choose(u"First day of the week"_qs, int(Qt::Saturday));
+        QCOMPARE(m_state->state()->firstDayOfWeek(), Qt::Saturday);
         QCOMPARE(changed.size(), 1);
-        QVERIFY(state->preferences()->getBool(QStringLiteral("ui/weekStartDay/customized"), false));
+        QVERIFY(preferences()->getBool(u"ui/weekStartDay/customized"_qs, false));
     }
 
     void theWorkdayHasAtLeastAnHour()
     {
-        ScratchState state;
-        PreferencesDialog dialog(state.state());
-        auto *start = comboOf(dialog, QStringLiteral("Workday"));
-        QCOMPARE(start->currentData().toInt(), 8);
-        choose(start, 23);
-        QCOMPARE(state->preferences()->getInt(QStringLiteral("ui/workdayStart"), -1), 23);
-        QCOMPARE(state->preferences()->getInt(QStringLiteral("ui/workdayEnd"), -1), 24);
-    }
-
-    void theTimeFormatShowsAtOnce()
-    {
-        ScratchState state;
-        PreferencesDialog dialog(state.state());
-        auto *format = comboOf(dialog, QStringLiteral("Time format"));
-        auto *start = comboOf(dialog, QStringLiteral("Workday"));
-        choose(format, QStringLiteral("24"));
-        QCOMPARE(state->preferences()->get(QStringLiteral("ui/timeFormat"), QString()), QStringLiteral("24"));
-        QCOMPARE(start->currentText(), QStringLiteral("08:00"));
-        choose(format, QStringLiteral("12"));
-        QCOMPARE(start->currentText(), QStringLiteral("8:00 AM"));
+        choose(u"Time format"_qs, u"24"_qs);
+        QCOMPARE(comboOf(u"Workday"_qs)->currentText(), u"08:00"_qs);
+        choose(u"Time format"_qs, u"12"_qs);
+        QCOMPARE(preferences()->get(u"ui/timeFormat"_qs, {}), u"12"_qs);
+        QCOMPARE(comboOf(u"Workday"_qs)->currentText(), u"8:00 AM"_qs);
+        choose(u"Workday"_qs, 23);
+        QCOMPARE(preferences()->getInt(u"ui/workdayStart"_qs, -1), 23);
+        QCOMPARE(preferences()->getInt(u"ui/workdayEnd"_qs, -1), 24);
     }
 
     void theDefaultCalendar()
     {
-        ScratchState state;
-        const QString work = state.addCalendar(QStringLiteral("Work"));
-        PreferencesDialog dialog(state.state());
-        auto *combo = comboOf(dialog, QStringLiteral("Calendar for new events"));
+        const QString label = u"Calendar for new events"_qs;
         const QString key = DefaultCalendar::defaultKey(false);
-        choose(combo, work);
-        QCOMPARE(DefaultCalendar::preferredCalendarId(state->preferences(), false), work);
-        choose(combo, DefaultCalendar::sentinel());
-        QCOMPARE(state->preferences()->get(key, QString()), DefaultCalendar::sentinel());
-        QSignalSpy changed(state->preferences(), &PreferencesRepository::changed);
-        choose(combo, QString());
-        QCOMPARE(DefaultCalendar::preferredCalendarId(state->preferences(), false), QString());
+        choose(label, m_work);
+        QCOMPARE(DefaultCalendar::preferredCalendarId(preferences(), false), m_work);
+        choose(label, DefaultCalendar::sentinel());
+        QCOMPARE(preferences()->get(key, {}), DefaultCalendar::sentinel());
+        QSignalSpy changed(preferences(), &PreferencesRepository::changed);
+        choose(label, QString());
+        QCOMPARE(DefaultCalendar::preferredCalendarId(preferences(), false), QString());
         QCOMPARE(changed, QList<QVariantList>{ { key } });
     }
 
     void theLanguageIsKeptOutsideTheDatabase()
     {
-        ScratchState state;
-        PreferencesDialog dialog(state.state());
-        auto *combo = comboOf(dialog, QStringLiteral("Language"));
-        QCOMPARE(combo->currentData().toString(), QStringLiteral("system"));
-        choose(combo, QStringLiteral("ja"));
-        QCOMPARE(QSettings().value(QStringLiteral("ui/language")).toString(), QStringLiteral("ja"));
-        QVERIFY(!state->preferences()->get(QStringLiteral("ui/language")));
+        QCOMPARE(comboOf(u"Language"_qs)->currentData().toString(), u"system"_qs);
+        choose(u"Language"_qs, u"ja"_qs);
+        QCOMPARE(QSettings().value(u"ui/language"_qs).toString(), u"ja"_qs);
+        QVERIFY(!preferences()->get(u"ui/language"_qs));
+        m_dialog->findChild<QCheckBox *>()->click();
+        QVERIFY(preferences()->getBool(u"ui/startMinimized"_qs, false));
     }
-
-    void switchesStore_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("key");
-        QTest::newRow("start minimized") << "Start minimized"
-                                         << "ui/startMinimized";
-        QTest::newRow("week numbers") << "Show week numbers"
-                                      << "ui/showWeekNumbers";
-    }
-    void switchesStore()
-    {
-        QFETCH(QString, text);
-        QFETCH(QString, key);
-        ScratchState state;
-        PreferencesDialog dialog(state.state());
-        const auto boxes = dialog.findChildren<QCheckBox *>();
-        const auto box = std::ranges::find_if(boxes, [&](QCheckBox *b) { return b->text().remove(u'&') == text; });
-        QVERIFY(box != boxes.end() && !(*box)->isChecked());
-        (*box)->click();
-        QVERIFY(state->preferences()->getBool(key, false));
-    }
-
-private:
-    QTemporaryDir m_settings;
 };
 
 QTEST_MAIN(tst_PreferencesDialog)

@@ -5,15 +5,8 @@
 #include "ui/surfaces/WeekTimelineWidget.h"
 #include "ui/theme/Theme.h"
 
-#include <QAccessible>
-#include <QContextMenuEvent>
-#include <QHelpEvent>
-#include <QLineEdit>
-#include <QSignalSpy>
-#include <QToolTip>
-#include <QVBoxLayout>
-#include <QWheelEvent>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace {
 
@@ -85,6 +78,7 @@ private:
 private slots:
     void init()
     {
+        m_window.reset();
         m_state = std::make_unique<ScratchState>();
         m_window = std::make_unique<QWidget>();
         auto *layout = new QVBoxLayout(m_window.get());
@@ -102,42 +96,28 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
 
-    void cleanup()
-    {
-        m_window.reset();
-        m_state.reset();
-    }
-
     void clickSelectsOrClears()
     {
         QSignalSpy selected(m_week, &EventCanvas::eventSelected);
+        QSignalSpy activated(m_week, &EventCanvas::eventActivated);
         const EventBlock block = m_week->blocks().at(1);
         click(middleOf(1));
         QCOMPARE(selected.size(), 1);
         QCOMPARE(selected.takeFirst(), (QVariantList{ block.eventId, block.occurrenceStart, globalRectOf(1) }));
         QVERIFY(m_week->isSelected(block));
         QVERIFY(!m_week->isSelected(m_week->blocks().at(0)));
+        QTest::mouseDClick(m_week, Qt::LeftButton, {}, middleOf(1));
+        QTest::mouseRelease(m_week, Qt::LeftButton, {}, middleOf(1));
+        QCOMPARE(QList<QVariantList>(activated), QList<QVariantList>{ { block.eventId } });
         for (const QPoint elsewhere : { middleOf(0), Beside }) {
             QTest::mousePress(m_week, Qt::LeftButton, {}, middleOf(2));
             QTest::mouseRelease(m_week, Qt::LeftButton, {}, elsewhere);
         }
-        QVERIFY(selected.isEmpty());
+        QVERIFY(selected.isEmpty()); // neither of these is a click
         click(Beside);
         QCOMPARE(selected.size(), 1);
         QCOMPARE(selected.at(0).at(0).toString(), QString());
         QVERIFY(m_week->selection().isEmpty());
-    }
-
-    void doubleClickActivatesOnce()
-    {
-        QSignalSpy selected(m_week, &EventCanvas::eventSelected);
-        QSignalSpy activated(m_week, &EventCanvas::eventActivated);
-        click(middleOf(0));
-        QTest::mouseDClick(m_week, Qt::LeftButton, {}, middleOf(0));
-        QTest::mouseRelease(m_week, Qt::LeftButton, {}, middleOf(0));
-        QCOMPARE(activated.size(), 1);
-        QCOMPARE(activated.at(0).at(0).toString(), m_week->blocks().at(0).eventId);
-        QCOMPARE(selected.size(), 1); // by the first click alone
     }
 
     void contextMenuComesFromMouseAndKeyboard()
@@ -149,7 +129,7 @@ private slots:
         };
         request(QContextMenuEvent::Keyboard, Beside); // nothing is selected
         request(QContextMenuEvent::Mouse, Beside);
-        QCOMPARE(requested.size(), 0);
+        QVERIFY(requested.isEmpty());
         request(QContextMenuEvent::Mouse, middleOf(2));
         request(QContextMenuEvent::Keyboard, Beside);
         QCOMPARE(requested.size(), 2);
@@ -188,14 +168,12 @@ private slots:
             const QPoint gutterEdge(m_week->metrics().columns.gutterPx - 1, m_week->yForTime(QTime(10, 30)));
             return m_week->grab().toImage().pixelColor(gutterEdge) == Theme::accent();
         };
-        m_week->setFocus();
-        QVERIFY(!isMarked());
-        QTest::keyClick(m_week, Qt::Key_Down);
+        m_before->setFocus();
+        QTest::keyClick(m_before, Qt::Key_Tab);
         QVERIFY(isMarked());
         click(Beside);
         QVERIFY(!isMarked());
-        m_before->setFocus();
-        QTest::keyClick(m_before, Qt::Key_Tab);
+        QTest::keyClick(m_week, Qt::Key_Down);
         QVERIFY(isMarked());
         m_before->setFocus();
         QVERIFY(!isMarked());
@@ -236,6 +214,7 @@ private slots:
         QCOMPARE(selectedDays(), QList<int>{ Qt::Tuesday });
         QTest::keyClick(m_week, Qt::Key_Down);
         QCOMPARE(selectedDays(), QList<int>{ Qt::Wednesday });
+        QCOMPARE(m_week->blockIndexOf(m_week->selection()), 2);
         m_week->setSelectedOccurrence({}, {});
         QCOMPARE(selectedDays(), QList<int>{});
     }
@@ -250,19 +229,18 @@ private slots:
             return event.isAccepted();
         };
         QVERIFY(!isTaken(120, Qt::NoModifier)); // left to the scroll area
-        for (int i = 0; i < 5; ++i)
-            QVERIFY(isTaken(30, Qt::ControlModifier));
         QVERIFY(isTaken(-240, Qt::ControlModifier));
-        QCOMPARE(QList<QVariantList>(zoomed), (QList<QVariantList>{ { 1, 300 }, { -2, 300 } }));
+        QCOMPARE(QList<QVariantList>(zoomed), (QList<QVariantList>{ { -2, 300 } }));
     }
 
     void cursorShowsWhatCanBeDragged()
     {
         setEvents({ timed(u"day"_qs, Monday, QTime(9, 0)), timed(u"night"_qs, Monday.addDays(1), QTime(20, 0), 480) });
-        const QList<std::pair<QPoint, Qt::CursorShape>> moves{ { middleOf(0), Qt::PointingHandCursor },
-                                                               { middleOf(1), Qt::ArrowCursor },
-                                                               { middleOf(0), Qt::PointingHandCursor },
-                                                               { Beside, Qt::ArrowCursor } };
+        using Move = std::pair<QPoint, Qt::CursorShape>;
+        const QList<Move> moves{ { middleOf(0), Qt::PointingHandCursor },
+                                 { middleOf(1), Qt::ArrowCursor },
+                                 { middleOf(0), Qt::PointingHandCursor },
+                                 { Beside, Qt::ArrowCursor } };
         for (const auto &[point, shape] : moves) {
             QTest::mouseMove(m_week, point);
             QTRY_COMPARE(m_week->cursor().shape(), shape);
@@ -297,10 +275,7 @@ private slots:
         QVERIFY2(name.startsWith(u"breakfast, Mon, Jun 15, 8:00 AM – 9:00 AM"), qPrintable(name));
         QCOMPARE(list->childAt(entry->rect().center().x(), entry->rect().center().y()), entry);
         QCOMPARE(list->indexOfChild(entry), 0);
-
-        QSignalSpy selected(m_week, &EventCanvas::eventSelected);
         entry->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-        QCOMPARE(selected.size(), 1);
         QVERIFY(entry->state().selected);
         m_week->setFocus();
         QCOMPARE(list->focusChild(), entry);
@@ -321,6 +296,7 @@ private slots:
             const Event hour = timed(u"x"_qs, Monday, QTime(9, 0));
             QVERIFY(!painter.fit(hour, { 500, day.neededHourHeight() }, false).time.text().isEmpty());
             QVERIFY(painter.fit(hour, { 500, day.neededHourHeight() - 1 }, false).time.text().isEmpty());
+            QVERIFY(painter.fit(hour, { 30, 200 }, false).time.text().isEmpty()); // half a time is another one
             day.setBaseHourHeight(180);
             QCOMPARE(day.neededHourHeight(), 180);
         }
@@ -345,14 +321,14 @@ private slots:
         QSignalSpy changed(&week, &EventCanvas::fontMetricsChanged);
         for (int i = 0; i < 20; ++i) {
             week.setData(Monday, 7, spanOf({ timed(u"x"_qs, Monday, QTime(9, 0)) }), {});
-            for (const QEvent::Type type : { QEvent::FontChange, QEvent::StyleChange, QEvent::PaletteChange }) {
-                QEvent event(type);
-                QCoreApplication::sendEvent(&week, &event);
-            }
+            QEvent event(QEvent::FontChange);
+            QCoreApplication::sendEvent(&week, &event);
         }
         QTRY_COMPARE(changed.size(), 1);
-        QCoreApplication::processEvents();
         QCOMPARE(week.layouts, 1);
+        week.setData(Monday, 7, {}, {});
+        QTRY_COMPARE(week.layouts, 2);
+        QCOMPARE(changed.size(), 1);
     }
 
     void smallestBlockFollowsDensityAndFont()
@@ -360,9 +336,8 @@ private slots:
         DayTimelineWidget day(m_state->state());
         day.resize(600, 2400);
         QCOMPARE(day.yForTime(QTime(1, 30)), 150); // the hours share a height beyond their need
-        day.resize(600, 1344);
         day.setRenderedDate(Monday);
-        day.setData(spanOf({ timed(u"short"_qs, Monday, QTime(9, 0), 5) }), {});
+        day.setData(spanOf({ timed(u"short"_qs, Monday, QTime(9, 0), 1) }), {});
         QFont bold = day.font();
         bold.setBold(true);
         QCOMPARE(day.blocks().at(0).rect.height(), QFontMetrics(bold).height() + 8);
@@ -398,10 +373,8 @@ private slots:
         const QPoint event = strip.blocks().at(1).rect.center();
         QSignalSpy selected(&strip, &EventCanvas::eventSelected);
         QSignalSpy activated(&strip, &EventCanvas::eventActivated);
-        QCOMPARE(strip.blocks().size(), 2);
         QVERIFY(strip.overflowChipRect(0).isEmpty());
         QCOMPARE(strip.hiddenTitles(1).join(u' '), u"2 3 4 5 6 7 8 9"_qs);
-
         for (const auto &[press, release] : { std::pair(chip, event), std::pair(event, chip) }) {
             QTest::mousePress(&strip, Qt::LeftButton, {}, press);
             QTest::mouseRelease(&strip, Qt::LeftButton, {}, release);
@@ -410,14 +383,12 @@ private slots:
         QTest::mouseClick(&strip, Qt::LeftButton, {}, chip);
         QTest::mouseDClick(&strip, Qt::LeftButton, {}, chip);
         QCOMPARE(strip.blocks().size(), 10);
-        QVERIFY(strip.overflowChipRect(1).isEmpty());
         strip.resize(800, strip.sizeHint().height());
         QTest::mouseClick(&strip, Qt::LeftButton, {}, strip.chevronRect().center());
         QCOMPARE(strip.sizeHint().height(), collapsed);
         QVERIFY(activated.isEmpty()); // although an event lay under the second press
         QVERIFY(selected.isEmpty());
         QTest::mouseClick(&strip, Qt::LeftButton, {}, event);
-        QCOMPARE(selected.size(), 1);
         QCOMPARE(selected.at(0).at(0).toString(), u"1"_qs);
     }
 

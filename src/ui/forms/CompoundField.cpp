@@ -1,6 +1,12 @@
-#include "ui/forms/RowButton.h"
+#include "ui/forms/CompoundField.h"
 
 #include <QToolButton>
+
+void setFirstControl(QWidget *field, QWidget *first)
+{
+    field->setFocusPolicy(first->focusPolicy());
+    field->setFocusProxy(first);
+}
 
 QToolButton *makeRemoveButton(const QString &name)
 {
