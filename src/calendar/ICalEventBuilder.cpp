@@ -9,7 +9,6 @@
 #include <QJsonDocument>
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 
 using namespace ICal;
@@ -57,11 +56,6 @@ QString answerFrom(QByteArrayView partStat)
     return isWord(partStat, "DELEGATED") ? QStringLiteral("delegated") : QStringLiteral("needs-action");
 }
 
-}
-
-EventBuilder::EventBuilder()
-{
-    begin();
 }
 
 void EventBuilder::begin()
@@ -243,17 +237,18 @@ void EventBuilder::readAttendee(const ContentLine &line)
     Attendee &attendee = m_record.attendees.emplaceBack();
     attendee.email = email;
     QByteArrayView rest = line.parameters();
-    while (const std::optional<Parameter> parameter = takeParameter(rest)) {
-        const QByteArrayView value = withoutQuotes(parameter->value);
-        if (isWord(parameter->name, "CN"))
+    Parameter parameter;
+    while (takeParameter(rest, parameter)) {
+        const QByteArrayView value = withoutQuotes(parameter.value);
+        if (isWord(parameter.name, "CN"))
             attendee.name = m_repeated.text(value);
-        else if (isWord(parameter->name, "ROLE"))
+        else if (isWord(parameter.name, "ROLE"))
             attendee.role = roleFrom(value);
-        else if (isWord(parameter->name, "PARTSTAT"))
+        else if (isWord(parameter.name, "PARTSTAT"))
             attendee.status = answerFrom(value);
-        else if (isWord(parameter->name, "CUTYPE"))
+        else if (isWord(parameter.name, "CUTYPE"))
             attendee.type = m_repeated.text(value);
-        else if (isWord(parameter->name, "RSVP"))
+        else if (isWord(parameter.name, "RSVP"))
             attendee.rsvp = isWord(value, "TRUE");
     }
 }

@@ -10,8 +10,6 @@ namespace ICal {
 /// Makes one event after the other out of the lines of their VEVENTs.
 class EventBuilder : private RecordBuilder<Event> {
 public:
-    EventBuilder();
-
     /// For BEGIN:VEVENT: starts afresh.
     void begin();
     /// Any line between BEGIN:VEVENT and END:VEVENT, unfolded.

@@ -109,15 +109,17 @@ ContentLine::ContentLine(QByteArrayView line)
     m_value = line.sliced(colon + 1);
 }
 
-std::optional<Parameter> ICal::takeParameter(QByteArrayView &rest)
+bool ICal::takeParameter(QByteArrayView &rest, Parameter &parameter)
 {
     if (rest.isEmpty())
-        return std::nullopt;
+        return false;
     const qsizetype end = endOfPart(rest, 0, ';');
     const QByteArrayView part = rest.first(end);
     rest = end < rest.size() ? rest.sliced(end + 1) : QByteArrayView();
     const qsizetype equals = part.indexOf('=');
-    return equals > 0 ? Parameter{ part.first(equals), part.sliced(equals + 1) } : Parameter{};
+    parameter.name = equals > 0 ? part.first(equals) : QByteArrayView();
+    parameter.value = part.sliced(equals + 1);
+    return true;
 }
 
 QByteArrayView ContentLine::parameter(QByteArrayView name) const
@@ -129,9 +131,10 @@ QByteArrayView ContentLine::parameterAsItStands(QByteArrayView name) const
 {
     QByteArrayView found;
     QByteArrayView rest = m_parameters;
-    while (const std::optional<Parameter> parameter = takeParameter(rest)) {
-        if (isWord(parameter->name, name))
-            found = parameter->value;
+    Parameter parameter;
+    while (takeParameter(rest, parameter)) {
+        if (isWord(parameter.name, name))
+            found = parameter.value;
     }
     return found;
 }

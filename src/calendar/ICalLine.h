@@ -2,7 +2,6 @@
 
 #include <QByteArrayView>
 
-#include <optional>
 #include <string>
 
 /// The content lines of iCalendar text, as bytes: nothing is decoded before it is known to be kept.
@@ -65,8 +64,9 @@ struct Parameter {
     QByteArrayView value; ///< with its quotes
 };
 
-/// The first of the parameters \p rest, which is taken off with the semicolon behind it.
-std::optional<Parameter> takeParameter(QByteArrayView &rest);
+/// Moves the first of the parameters \p rest into \p parameter, and takes it off with the semicolon behind it.
+/// False if there is none left.
+bool takeParameter(QByteArrayView &rest, Parameter &parameter);
 
 /// One unfolded line: name *(";" parameter) ":" value. A line without a colon is all name.
 class ContentLine {

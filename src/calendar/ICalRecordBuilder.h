@@ -66,7 +66,9 @@ protected:
     /// addAlarm() at the end of each.
     template <typename Builder> void addLine(QByteArrayView line, Builder &builder)
     {
-        m_raw.append(line.data(), size_t(line.size())).append("\r\n");
+        m_raw.append(line.data(), size_t(line.size()));
+        m_raw += '\r';
+        m_raw += '\n';
         if (line == "BEGIN:VALARM") {
             m_alarm.emplace();
         } else if (!m_alarm) {
@@ -117,7 +119,7 @@ protected:
     RepeatedTexts m_repeated; // of the whole file
 
 private:
-    const Record m_blank; // copied, as the default values of a new record would be texts of its own
+    const Record m_blank{}; // copied, as the default values of a new record would be texts of its own
     std::string m_raw; // kept for its capacity
     std::optional<Alarm> m_alarm; // set while within a VALARM
 };

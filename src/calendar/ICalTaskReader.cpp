@@ -126,7 +126,7 @@ QList<Task> ICalParser::parseTasks(const QByteArray &utf8)
     TaskBuilder builder;
     bool isInTask = false;
     LineReader lines(utf8);
-    for (lines.skipTo('B'); lines.next(utf8.size()); isInTask ? void() : lines.skipTo('B')) {
+    while (lines.next(utf8.size())) {
         const QByteArrayView line = lines.line();
         if (line == "BEGIN:VTODO") {
             isInTask = true;
@@ -134,15 +134,15 @@ QList<Task> ICalParser::parseTasks(const QByteArray &utf8)
         } else if (isInTask && line == "END:VTODO") {
             isInTask = false;
             Task &task = builder.finish();
-            if (task.uid.isEmpty())
-                continue;
             if (builder.isOverride())
                 overrides[task.uid] += task.rawIcalendar;
-            else
+            else if (!task.uid.isEmpty())
                 tasks.append(std::move(task));
         } else if (isInTask) {
             builder.addLine(line);
         }
+        if (!isInTask)
+            lines.skipTo('B'); // most of a file is events
     }
     if (!overrides.isEmpty()) {
         for (Task &task : tasks)

@@ -28,7 +28,7 @@ private:
         QString text;
     };
 
-    std::array<Entry, 256> m_entries; // each text has one place only
+    std::array<Entry, 128> m_entries; // each text has one place only
 };
 
 } // namespace ICal

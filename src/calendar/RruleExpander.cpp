@@ -7,7 +7,9 @@
 
 #include <QVarLengthArray>
 
+#include <algorithm>
 #include <bit>
+#include <iterator>
 
 namespace {
 
