@@ -17,7 +17,7 @@
 namespace {
 
 // A few surfaces, the statistics and the mini month, each with the spans around it; long ones count more.
-constexpr int KeptSpans = 12;
+constexpr int KeptSpans = 24;
 constexpr qsizetype EventsPerCost = 5'000;
 // The repository compares digits. Zones run from UTC-12 to UTC+14, so the digits of one instant can be
 // 26 hours apart.

@@ -208,28 +208,39 @@ void MiniMonthCalendar::reloadSoon()
 
 void MiniMonthCalendar::onReloadTimer()
 {
-    if (!m_isStale || !isVisible())
+    if (!isVisible()) {
+        m_isStale |= m_nextRow < MiniMonthGeometry::Rows; // begins anew when it is shown
         return;
+    }
     // The timeline's timer fires in the same turn; its load and this one together would be felt.
-    if (m_turnsToWait-- > 0)
+    if (m_isStale && m_turnsToWait-- > 0)
+        return m_reloadTimer.start(0);
+    if (std::exchange(m_isStale, false)) {
+        m_nextRow = 0;
+        const QDate first = gridStart();
+        m_busyDays.removeIf([first](QDate day) { return day < first || day >= first.addDays(GridDays); });
+    }
+    if (m_nextRow < MiniMonthGeometry::Rows)
+        loadRow(m_nextRow++);
+    if (m_nextRow < MiniMonthGeometry::Rows)
         m_reloadTimer.start(0);
-    else
-        reloadEvents();
 }
 
-void MiniMonthCalendar::reloadEvents()
+// A week in each turn of the event loop: with many events all of them at once would be felt. The week that a
+// timeline shows is there already.
+void MiniMonthCalendar::loadRow(int row)
 {
-    m_isStale = false;
-    m_busyDays.clear();
-    const QDate first = gridStart();
-    if (m_state && m_state->visibleEvents() && first.isValid()) {
-        const QDate last = first.addDays(GridDays - 1);
-        const auto span = m_state->visibleEvents()->inRange(first, GridDays);
-        for (const Event &event : span->events) {
-            const QDate end = std::min(last, EventDays::lastDay(event));
-            for (QDate day = std::max(first, EventDays::firstDay(event)); day <= end; day = day.addDays(1))
-                m_busyDays.insert(day);
-        }
+    const QDate first = gridStart().addDays(row * MiniMonthGeometry::Columns);
+    if (!m_state || !m_state->visibleEvents() || !first.isValid())
+        return;
+    const QDate last = first.addDays(MiniMonthGeometry::Columns - 1);
+    for (QDate day = first; day <= last; day = day.addDays(1))
+        m_busyDays.remove(day);
+    const auto span = m_state->visibleEvents()->inRange(first, MiniMonthGeometry::Columns);
+    for (const Event &event : span->events) {
+        const QDate end = std::min(last, EventDays::lastDay(event));
+        for (QDate day = std::max(first, EventDays::firstDay(event)); day <= end; day = day.addDays(1))
+            m_busyDays.insert(day);
     }
     update();
 }

@@ -50,7 +50,7 @@ private:
     void onCurrentDateChanged(QDate date);
     void reloadSoon(); // once for all that changes meanwhile, and in a turn of the event loop of its own
     void onReloadTimer();
-    void reloadEvents();
+    void loadRow(int row);
     void updateLayout();
     [[nodiscard]] static QString titlePattern();
     [[nodiscard]] static int widestShortTitle(const QFontMetrics &metrics);
@@ -75,6 +75,7 @@ private:
     QDate m_month;
     QPoint m_pointer{ -1, -1 }; // beside all days while the mouse is elsewhere
     QSet<QDate> m_busyDays;
+    int m_nextRow = MiniMonthGeometry::Rows; // of the grid, to be loaded next
     QElapsedTimer m_sinceWheelStep;
     QTimer m_reloadTimer;
     int m_turnsToWait = 0;
