@@ -420,7 +420,7 @@ std::optional<EventCanvas::DropPlace> AllDayStrip::dropPlaceAt(QPoint point) con
     if (column < 0 || !m_first.isValid())
         return std::nullopt;
     const QRect rect(m_columns.left(column) + 2, 2, m_columns.columnWidthPx() - 4, height() - 5);
-    return DropPlace{ QDateTime(m_first.addDays(column), QTime(0, 0)), true, rect };
+    return DropPlace{ m_first.addDays(column).startOfDay(), true, rect };
 }
 
 void AllDayStrip::mouseReleaseEvent(QMouseEvent *event)

@@ -48,6 +48,9 @@ public:
     [[nodiscard]] TimelineMetrics metrics() const;
     [[nodiscard]] QRect nowLineRect() const; ///< empty if today does not show
 
+    /// Valid also where a clock change leaves the time out.
+    static QDateTime localTime(QDate date, QTime time);
+
     [[nodiscard]] QSize sizeHint() const override;
 
 signals:

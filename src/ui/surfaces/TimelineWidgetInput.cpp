@@ -1,7 +1,10 @@
 #include "ui/surfaces/TimelineWidget.h"
 
+#include "calendar/WallClock.h"
+
 #include <QLocale>
 #include <QMouseEvent>
+#include <QTimeZone>
 
 #include <algorithm>
 
@@ -41,9 +44,14 @@ TimelineDrag::Grip TimelineWidget::gripOf(const EventBlock &block) const
     return grip;
 }
 
+QDateTime TimelineWidget::localTime(QDate date, QTime time)
+{
+    return WallClock(QTimeZone()).at(date, time);
+}
+
 QDateTime TimelineWidget::timeAt(int column, int minute) const
 {
-    return { m_firstDay.addDays(column), timeOfMinute(minute) };
+    return localTime(m_firstDay.addDays(column), timeOfMinute(minute));
 }
 
 TimelineDrag TimelineWidget::dragFrom(QPoint point) const

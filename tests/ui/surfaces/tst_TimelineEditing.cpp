@@ -218,6 +218,30 @@ private slots:
         QCOMPARE(marked.size(), 1);
     }
 
+    // Half past two is left out in California, where this test runs once more.
+    void timesThatAClockChangeLeavesOutAreMarked()
+    {
+        const QDate sunday(2026, 3, 8);
+        m_week->setData(sunday, 7, {}, {});
+        QSignalSpy marked(m_week.get(), &TimelineWidget::emptySpanMarked);
+        dragFromTo(at(0, QTime(2, 30)), at(0, QTime(4, 0)));
+        QCOMPARE(marked.size(), 1);
+        QVERIFY(marked.at(0).at(0).toDateTime().isValid());
+        QCOMPARE(marked.at(0).at(0).toDateTime().date(), sunday);
+    }
+
+    void secondClickOpensWhatLiesBelow()
+    {
+        QSignalSpy activated(m_week.get(), &EventCanvas::eventActivated);
+        m_week->setSelectedOccurrence(m_late.id, m_late.startTime);
+        const QPoint point = rectOf(m_noon.id).center(); // the first click went to a card above it
+        QMouseEvent second(QEvent::MouseButtonDblClick, point, m_week->mapToGlobal(point), Qt::LeftButton,
+                           Qt::LeftButton, {});
+        QCoreApplication::sendEvent(m_week.get(), &second);
+        QCOMPARE(activated.size(), 1);
+        QCOMPARE(m_week->selection().id, m_noon.id);
+    }
+
     void keysMoveStretchAndDelete()
     {
         QSignalSpy moved(m_week.get(), &EventCanvas::eventMoveRequested);
