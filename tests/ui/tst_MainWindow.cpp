@@ -1,3 +1,4 @@
+#include "calendar/services/EventEdits.h"
 #include "support/ScratchState.h"
 #include "support/TestData.h"
 #include "ui/ActionTable.h"
@@ -7,6 +8,7 @@
 #include "ui/PlainKeyGuard.h"
 #include "ui/Sidebar.h"
 #include "ui/ViewArea.h"
+#include "ui/actions/EventDetailsPopover.h"
 #include "ui/dialogs/CalendarFormDialog.h"
 #include "ui/dialogs/ImportDialog.h"
 #include "ui/dialogs/Prompt.h"
@@ -256,6 +258,51 @@ private slots:
         QVERIFY(drop.isAccepted());
         QTRY_VERIFY(m_window->findChild<ImportDialog *>());
         m_window->findChild<ImportDialog *>()->reject();
+    }
+
+    void undoIsToldInTheStatusBar()
+    {
+        const Event event = m_scratch->addEvent(QStringLiteral("Call"), QDateTime(Wednesday, QTime(9, 0)),
+                                                QDateTime(Wednesday, QTime(10, 0)));
+        open();
+        QVERIFY(!action("undo")->isEnabled());
+        QVERIFY(EventEdits::move(state(), event.id, event.startTime, 0, 30).ok);
+        action("undo")->trigger();
+        QCOMPARE(m_window->statusBar()->currentMessage(), u"Undid: Moved \"Call\""_qs);
+        QCOMPARE(state()->events()->getById(event.id)->startTime, event.startTime);
+    }
+
+    void focusedOccurrenceIsShownOnItsDay()
+    {
+        Event daily = m_scratch->addEvent(QStringLiteral("Call"), QDateTime(Tuesday, QTime(9, 0)),
+                                          QDateTime(Tuesday, QTime(10, 0)));
+        daily.recurrenceRule = QStringLiteral("FREQ=DAILY");
+        QVERIFY(state()->events()->update(daily));
+        open();
+        m_window->focusEvent(daily.id, QDate(2026, 1, 31));
+        QCOMPARE(state()->currentDate(), QDate(2026, 1, 31));
+        QCOMPARE(state()->selectedEventId(), daily.id);
+        QCOMPARE(state()->selectedOccurrence(), QDateTime(QDate(2026, 1, 31), QTime(9, 0)));
+        const auto *card = m_window->findChild<EventDetailsPopover *>();
+        QVERIFY(card && card->isVisible());
+        m_window->focusEvent(QStringLiteral("gone"), Tuesday);
+        QCOMPARE(state()->currentDate(), Tuesday);
+    }
+
+    void quickAddCommandAnswersInTheStatusBar()
+    {
+        open();
+        const auto answerTo = [this](const QString &text) {
+            m_window->quickAddFromCommand(text);
+            return m_window->statusBar()->currentMessage();
+        };
+        const Calendar calendar = *state()->calendars()->getById(ScratchState::calendarId());
+        QVERIFY(state()->calendars()->remove(calendar.id));
+        QCOMPARE(answerTo(u"Lunch"_qs), u"Quick-add ignored: no calendars configured."_qs);
+        QVERIFY(state()->calendars()->insert(calendar));
+        QCOMPARE(answerTo(u"Lunch Nov 20 1pm"_qs), u"Added: Lunch Nov 20 1pm"_qs);
+        m_scratch->makeReadOnly(calendar.id);
+        QCOMPARE(answerTo(u"Lunch"_qs), u"Quick-add couldn't parse: \"Lunch\""_qs);
     }
 
     void greetsOnce()

@@ -21,6 +21,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -66,6 +67,8 @@ DetailsPopover::DetailsPopover(QWidget *anchor)
 
 void DetailsPopover::clear()
 {
+    if (const QWidget *focused = QApplication::focusWidget(); focused && focused != this && isAncestorOf(focused))
+        setFocus(Qt::OtherFocusReason); // it goes now, and the keyboard stays here
     auto *content = new QWidget;
     content->setAutoFillBackground(false);
     m_column = new QVBoxLayout(content);
@@ -250,12 +253,24 @@ void DetailsPopover::keyPressEvent(QKeyEvent *event)
     QFrame::keyPressEvent(event);
 }
 
+bool DetailsPopover::onMousePress(QWidget *pressed, const QEvent &event)
+{
+    if (pressed != this && !isAncestorOf(pressed)) {
+        if (pressed->window() == window())
+            dismiss(); // and the press goes on to where it was meant for
+        return false;
+    }
+    if (std::exchange(m_wasPressed, true) || event.type() != QEvent::MouseButtonDblClick)
+        return false;
+    emit openingClickDoubled();
+    return true;
+}
+
 bool DetailsPopover::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
-        auto *widget = qobject_cast<QWidget *>(watched);
-        if (widget && widget->window() == window() && widget != this && !isAncestorOf(widget))
-            dismiss(); // and the press goes on to where it was meant for
+        if (auto *widget = qobject_cast<QWidget *>(watched); widget && onMousePress(widget, *event))
+            return true;
     } else if (event->type() == QEvent::Resize && watched == parentWidget()) {
         fitToContent();
     } else if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape

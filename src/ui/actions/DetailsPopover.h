@@ -32,6 +32,10 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+signals:
+    /// The click that opened the card was the first of two, and the card lay under the second.
+    void openingClickDoubled();
+
 protected:
     /// \p anchor is any widget of the window.
     explicit DetailsPopover(QWidget *anchor);
@@ -56,6 +60,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    bool onMousePress(QWidget *pressed, const QEvent &event);
     int addRow(char16_t glyph, QWidget *content, const QString &name);
     [[nodiscard]] QRect bounds() const; // of the window, in its coordinates
 
@@ -66,4 +71,5 @@ private:
     QHBoxLayout *m_buttons;
     QRect m_anchor; // in the window's coordinates
     QPointer<QWidget> m_focusBefore;
+    bool m_wasPressed = false; // since it opened
 };

@@ -43,6 +43,8 @@ void EventActions::open(const QString &id, const QDateTime &occurrenceStart, con
     auto *popover = new EventDetailsPopover(m_state, EventEdits::shownAt(*stored, occurrenceStart), m_window);
     connect(popover, &EventDetailsPopover::editRequested, this,
             [this, id, occurrenceStart] { edit(id, occurrenceStart); });
+    connect(popover, &DetailsPopover::openingClickDoubled, this,
+            [this, id, occurrenceStart] { edit(id, occurrenceStart); });
     connect(popover, &EventDetailsPopover::deleteRequested, this, [this, id] { remove(id); });
     if (m_tasks)
         connect(popover, &EventDetailsPopover::taskRequested, m_tasks, &TaskActions::openByUid);

@@ -36,6 +36,7 @@ void TaskActions::open(const QString &id, const QRect &globalRect)
         return;
     auto *popover = new TaskDetailsPopover(m_state, *task, m_window);
     connect(popover, &TaskDetailsPopover::editRequested, this, &TaskActions::edit);
+    connect(popover, &DetailsPopover::openingClickDoubled, this, [this, id] { edit(id); });
     connect(popover, &TaskDetailsPopover::deleteRequested, this, &TaskActions::remove);
     connect(popover, &TaskDetailsPopover::completeRequested, this, &TaskActions::setCompleted);
     connect(popover, &TaskDetailsPopover::eventRequested, this, &TaskActions::eventRequested);

@@ -1,5 +1,6 @@
 #include "ui/surfaces/AllDayStrip.h"
 
+#include "calendar/EventDays.h"
 #include "calendar/services/EventText.h"
 #include "ui/surfaces/EventColors.h"
 #include "ui/surfaces/SurfaceFonts.h"
@@ -8,6 +9,7 @@
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -33,7 +35,7 @@ constexpr QChar BeyondRight(u'›');
 }
 
 AllDayStrip::AllDayStrip(AppState *state, QWidget *parent)
-    : EventCanvas(state, parent)
+    : EventDragCanvas(state, parent)
     , m_scrollBar(new QScrollBar(Qt::Vertical, this))
 {
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -50,6 +52,8 @@ void AllDayStrip::setData(int gutterPx, QDate first, int days, const QList<Event
     std::copy_if(events.begin(), events.end(), std::back_inserter(allDay),
                  [](const Event &event) { return event.isAllDay; });
     setEvents(allDay, calendarColors, dimmedIds);
+    if (first != m_first || days != m_columns.count)
+        giveUpStaleDrag();
     m_columns.gutterPx = gutterPx;
     m_columns.count = std::max(1, days);
     m_first = first;
@@ -64,14 +68,18 @@ void AllDayStrip::setData(int gutterPx, QDate first, int days, const QList<Event
 
 void AllDayStrip::setGutterPx(int pixels)
 {
-    if (std::exchange(m_columns.gutterPx, pixels) != pixels)
-        relayout();
+    if (std::exchange(m_columns.gutterPx, pixels) == pixels)
+        return;
+    giveUpStaleDrag();
+    relayout();
 }
 
 void AllDayStrip::setContentWidth(int pixels)
 {
-    if (std::exchange(m_columns.widthPx, pixels) != pixels)
-        relayout();
+    if (std::exchange(m_columns.widthPx, pixels) == pixels)
+        return;
+    giveUpStaleDrag();
+    relayout();
 }
 
 void AllDayStrip::setHeightLimit(int pixels)
@@ -254,6 +262,7 @@ void AllDayStrip::paintEvent(QPaintEvent *)
     paintChips(painter);
     paintChevron(painter);
     paintFocusMark(painter, m_columns.gutterPx);
+    paintGhost(painter);
     paintDropPlace(painter);
 }
 
@@ -325,14 +334,14 @@ bool AllDayStrip::event(QEvent *event)
             return true;
         }
     }
-    return EventCanvas::event(event);
+    return EventDragCanvas::event(event);
 }
 
 void AllDayStrip::keyPressEvent(QKeyEvent *event)
 {
     const bool isPlain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
-    if (!isPlain || !metrics().overflows())
-        return EventCanvas::keyPressEvent(event);
+    if (!isPlain || isDragging() || !metrics().overflows())
+        return EventDragCanvas::keyPressEvent(event);
     switch (event->key()) {
     case Qt::Key_Plus:
         return setExpanded(true);
@@ -350,17 +359,17 @@ void AllDayStrip::keyPressEvent(QKeyEvent *event)
     default:
         break;
     }
-    EventCanvas::keyPressEvent(event);
+    EventDragCanvas::keyPressEvent(event);
 }
 
 void AllDayStrip::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
-        return EventCanvas::mousePressEvent(event);
+        return EventDragCanvas::mousePressEvent(event);
     m_pressedControl = controlAt(event->position().toPoint());
     m_lastPressOnControl = m_pressedControl != NoControl;
     if (!m_lastPressOnControl)
-        EventCanvas::mousePressEvent(event);
+        EventDragCanvas::mousePressEvent(event);
 }
 
 void AllDayStrip::mouseDoubleClickEvent(QMouseEvent *event)
@@ -370,9 +379,39 @@ void AllDayStrip::mouseDoubleClickEvent(QMouseEvent *event)
     if (event->button() == Qt::LeftButton && m_lastPressOnControl)
         m_pressedControl = controlAt(point);
     else if (event->button() != Qt::LeftButton || !eventIdAt(point).isEmpty())
-        EventCanvas::mouseDoubleClickEvent(event);
+        EventDragCanvas::mouseDoubleClickEvent(event);
     else if (const int column = m_columns.columnAt(point.x()); column >= 0 && m_first.isValid())
         emit emptyDayActivated(m_first.addDays(column));
+}
+
+TimelineDrag AllDayStrip::dragFrom(QPoint point) const
+{
+    const int index = blockIndexAt(blocks(), point);
+    const int column = m_columns.columnAt(point.x());
+    if (index < 0 || column < 0)
+        return {};
+    const EventBlock &block = blocks().at(index);
+    TimelineDrag::Grip grip;
+    grip.key = block.key();
+    grip.rect = block.rect;
+    grip.column = column;
+    grip.isFixed = isReadOnly(eventOf(block));
+    grip.isAllDay = true;
+    return TimelineDrag::onBlock(point, grip);
+}
+
+TimelineMetrics AllDayStrip::dragMetrics() const
+{
+    TimelineMetrics result;
+    result.columns = m_columns;
+    return result;
+}
+
+QString AllDayStrip::ghostLabel(const TimelineDrag &drag) const
+{
+    const Event *dragged = findEvent(drag.grip().key);
+    const QDate first = dragged ? EventDays::firstDay(*dragged) : QDate();
+    return QLocale().toString(first.addDays(drag.days()), tr("ddd, MMM d", "first day of a dragged event"));
 }
 
 std::optional<EventCanvas::DropPlace> AllDayStrip::dropPlaceAt(QPoint point) const
@@ -381,20 +420,20 @@ std::optional<EventCanvas::DropPlace> AllDayStrip::dropPlaceAt(QPoint point) con
     if (column < 0 || !m_first.isValid())
         return std::nullopt;
     const QRect rect(m_columns.left(column) + 2, 2, m_columns.columnWidthPx() - 4, height() - 5);
-    return DropPlace{ QDateTime(m_first.addDays(column), QTime(0, 0)), true, rect };
+    return DropPlace{ m_first.addDays(column).startOfDay(), true, rect };
 }
 
 void AllDayStrip::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton || m_pressedControl == NoControl)
-        return EventCanvas::mouseReleaseEvent(event);
+        return EventDragCanvas::mouseReleaseEvent(event);
     if (std::exchange(m_pressedControl, NoControl) == controlAt(event->position().toPoint()))
         setExpanded(!m_isExpanded);
 }
 
 Qt::CursorShape AllDayStrip::cursorAt(QPoint point) const
 {
-    return controlAt(point) != NoControl ? Qt::PointingHandCursor : EventCanvas::cursorAt(point);
+    return controlAt(point) != NoControl ? Qt::PointingHandCursor : EventDragCanvas::cursorAt(point);
 }
 
 void AllDayStrip::wheelEvent(QWheelEvent *event)

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "ui/surfaces/AllDayGeometry.h"
-#include "ui/surfaces/EventCanvas.h"
+#include "ui/surfaces/EventDragCanvas.h"
 
 class QScrollBar;
 
 /// The band above a timeline with all-day events as bars across its columns. More than three lanes collapse
 /// to three rows with chips that count the rest, until the user opens the strip: by a click, by the keys plus and
-/// minus, or by Return while no event is selected.
-class AllDayStrip : public EventCanvas {
+/// minus, or by Return while no event is selected. A bar can be dragged to other days.
+class AllDayStrip : public EventDragCanvas {
     Q_OBJECT
 
 public:
@@ -46,6 +46,9 @@ protected:
     void reveal(const EventKey &key) override;
     [[nodiscard]] std::optional<DropPlace> dropPlaceAt(QPoint point) const override;
     [[nodiscard]] Qt::CursorShape cursorAt(QPoint point) const override;
+    [[nodiscard]] TimelineDrag dragFrom(QPoint point) const override;
+    [[nodiscard]] TimelineMetrics dragMetrics() const override;
+    [[nodiscard]] QString ghostLabel(const TimelineDrag &drag) const override;
 
     bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;

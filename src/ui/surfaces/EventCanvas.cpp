@@ -160,6 +160,10 @@ void EventCanvas::settle()
     if (isVisible())
         layOutIfDirty();
     m_isSettling = false;
+    if (m_followsEdit && hasFocus() && findEvent(m_selection)) {
+        m_followsEdit = false;
+        showToKeyboard(m_selection);
+    }
 }
 
 void EventCanvas::setShowsFocus(bool shows)
@@ -221,14 +225,20 @@ bool EventCanvas::walk(int step, bool wrap)
     setSelection(key);
     m_isSelectedByMouse = false;
     setShowsFocus(true);
-    reveal(key);
-    if (const int block = blockIndexOf(key); block >= 0) {
-        QAccessibleEvent focused(this, QAccessible::Focus);
-        focused.setChild(block);
-        QAccessible::updateAccessibility(&focused);
-    }
+    showToKeyboard(key);
     emit eventFocused(key.id, key.occurrenceStart);
     return true;
+}
+
+void EventCanvas::showToKeyboard(const EventKey &key)
+{
+    reveal(key);
+    const int block = blockIndexOf(key);
+    if (block < 0)
+        return;
+    QAccessibleEvent focused(this, QAccessible::Focus);
+    focused.setChild(block);
+    QAccessible::updateAccessibility(&focused);
 }
 
 void EventCanvas::enterAtNearEnd(int step)
@@ -349,6 +359,7 @@ bool EventCanvas::handleEditKey(const QKeyEvent &event)
         return false;
     if (!checkWritable(*selected))
         return true;
+    m_followsEdit = true;
     if (resizes)
         emit eventResizeRequested(key.id, key.occurrenceStart, minutes);
     else
@@ -477,10 +488,12 @@ void EventCanvas::mouseReleaseEvent(QMouseEvent *event)
 void EventCanvas::mouseDoubleClickEvent(QMouseEvent *event)
 {
     // The second press came as this event, so its release is no click of its own.
-    const QString id = eventIdAt(event->position().toPoint());
-    if (event->button() != Qt::LeftButton || id.isEmpty())
+    const int index = blockIndexAt(blocks(), event->position().toPoint());
+    if (event->button() != Qt::LeftButton || index < 0)
         return QWidget::mouseDoubleClickEvent(event);
-    emit eventActivated(id);
+    const EventKey key = m_blocks.at(index).key();
+    setSelection(key); // the first click may have closed a card that lay above
+    emit eventActivated(key.id);
 }
 
 void EventCanvas::contextMenuEvent(QContextMenuEvent *event)

@@ -128,6 +128,7 @@ protected:
 private:
     bool walk(int step, bool wrap);
     void enterAtNearEnd(int step);
+    void showToKeyboard(const EventKey &key); ///< brings it into view and announces it
     void layOutIfDirty() const;
     void settleSoon();
     void settle();
@@ -152,6 +153,7 @@ private:
     bool m_showsFocus = false;
     bool m_isDirty = false;
     bool m_isSettling = false;
+    bool m_followsEdit = false; // the keyboard changed the selected event, which comes back with the next reload
     bool m_haveFontsChanged = false;
     std::optional<EventKey> m_pressed; // an empty key: beside all blocks
 };

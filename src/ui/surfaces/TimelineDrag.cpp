@@ -12,7 +12,8 @@ constexpr int MinGhostHeightPx = 8;
 TimelineDrag TimelineDrag::onBlock(QPoint point, const Grip &grip)
 {
     TimelineDrag drag;
-    drag.m_mode = isOnResizeHandle(grip.rect, point) && !grip.isFixed ? Mode::Resizing : Mode::Pressed;
+    const bool canResize = !grip.isFixed && !grip.isAllDay;
+    drag.m_mode = canResize && isOnResizeHandle(grip.rect, point) ? Mode::Resizing : Mode::Pressed;
     drag.m_grip = grip;
     drag.m_pressedAt = point;
     return drag;
@@ -27,20 +28,35 @@ TimelineDrag TimelineDrag::onEmpty(QPoint point, int column)
     return drag;
 }
 
+bool TimelineDrag::becomesMove(QPoint delta, const TimelineMetrics &metrics) const
+{
+    const bool isSideways = metrics.columns.count > 1 && std::abs(delta.x()) >= ThresholdPx;
+    return isSideways || (!m_grip.isAllDay && std::abs(delta.y()) >= ThresholdPx);
+}
+
+int TimelineDrag::withinDay(int minutes) const
+{
+    const int end = m_grip.startMin + m_grip.durationMin;
+    if (m_mode == Mode::Resizing)
+        return std::min(minutes, std::max(0, TimelineMetrics::MinutesPerDay - end));
+    const int lastStart = TimelineMetrics::MinutesPerDay - SlotMinutes;
+    return std::clamp(minutes, -m_grip.startMin, std::max(0, lastStart - m_grip.startMin));
+}
+
 void TimelineDrag::moveTo(QPoint point, const TimelineMetrics &metrics)
 {
     const QPoint delta = point - m_pressedAt;
-    const bool isEmpty = m_grip.key.isEmpty();
     if (m_mode == Mode::Pressed && !m_grip.isFixed) {
-        const bool movesSideways = !isEmpty && metrics.columns.count > 1 && std::abs(delta.x()) >= ThresholdPx;
-        if (std::abs(delta.y()) >= ThresholdPx || movesSideways)
-            m_mode = isEmpty ? Mode::Marking : Mode::Moving;
+        if (m_grip.key.isEmpty())
+            m_mode = std::abs(delta.y()) >= ThresholdPx ? Mode::Marking : Mode::Pressed;
+        else if (becomesMove(delta, metrics))
+            m_mode = Mode::Moving;
     }
     if (m_mode == Mode::Marking)
         return mark(point.y(), metrics);
     if (m_mode != Mode::Moving && m_mode != Mode::Resizing)
         return;
-    m_minutes = snapMinutes(delta.y(), metrics.hourHeightPx);
+    m_minutes = m_grip.isAllDay ? 0 : withinDay(snapMinutes(delta.y(), metrics.hourHeightPx));
     if (m_mode == Mode::Moving && metrics.columns.count > 1) {
         const int days = qRound(double(delta.x()) / metrics.columns.columnWidthPx());
         m_days = std::clamp(days, -m_grip.column, metrics.columns.count - 1 - m_grip.column);

@@ -6,8 +6,8 @@
 #include <QPoint>
 #include <QRect>
 
-/// What the left button does on a timeline from press to release: it moves an event, stretches it, or marks
-/// a span of empty time. A value without a window: the widget hands it points and draws the ghost.
+/// What the left button does on a timeline or an all-day strip from press to release: it moves an event, stretches
+/// it, or marks a span of empty time. A value without a window: the widget hands it points and draws the ghost.
 class TimelineDrag {
 public:
     enum class Mode { Idle, Pressed, Moving, Resizing, Marking };
@@ -16,10 +16,11 @@ public:
     struct Grip {
         EventKey key;
         QRect rect;
-        int column = 0;
+        int column = 0; ///< that follows the pointer and stays on show
         int startMin = 0;
         int durationMin = 0;
         bool isFixed = false; ///< may be clicked but not dragged
+        bool isAllDay = false; ///< moves by whole days alone
     };
 
     static constexpr int ThresholdPx = 4;
@@ -45,6 +46,9 @@ public:
     [[nodiscard]] QRect ghostRect(const TimelineMetrics &metrics) const;
 
 private:
+    [[nodiscard]] bool becomesMove(QPoint delta, const TimelineMetrics &metrics) const;
+    /// Within the day that shows: what lies beyond it could not be seen.
+    [[nodiscard]] int withinDay(int minutes) const;
     void mark(int y, const TimelineMetrics &metrics);
 
     Mode m_mode = Mode::Idle;

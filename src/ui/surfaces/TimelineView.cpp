@@ -153,8 +153,9 @@ void TimelineView::connectTimeline()
 {
     connect(m_timeline, &TimelineWidget::revealRequested, this, &TimelineView::reveal);
     connect(m_timeline, &TimelineWidget::emptySpanMarked, this, &TimelineView::createRequested);
-    connect(m_timeline, &TimelineWidget::emptySlotActivated, this,
-            [this](QDate date, QTime time) { emit createRequested(QDateTime(date, time), NewEventMinutes); });
+    connect(m_timeline, &TimelineWidget::emptySlotActivated, this, [this](QDate date, QTime time) {
+        emit createRequested(TimelineWidget::localTime(date, time), NewEventMinutes);
+    });
     connect(m_timeline, &TimelineWidget::zoomRequested, this,
             [this](int steps, int y) { zoomAt(steps, y - m_scroll->verticalScrollBar()->value()); });
 }
@@ -237,6 +238,10 @@ void TimelineView::onSelectionChanged()
 {
     m_timeline->setSelectedOccurrence(m_state->selectedEventId(), m_state->selectedOccurrence());
     m_strip->setSelectedOccurrence(m_state->selectedEventId(), m_state->selectedOccurrence());
+    // It may have just been written. The signal of a write comes late, and the next key needs to find the event.
+    const auto lacks = [](const EventCanvas *canvas) { return !canvas->findEvent(canvas->selection()); };
+    if (isVisible() && !m_state->selectedEventId().isEmpty() && lacks(m_timeline) && lacks(m_strip))
+        reloadSoon();
 }
 
 void TimelineView::onWorkdayHoursChanged(int start, int end)

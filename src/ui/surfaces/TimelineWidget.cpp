@@ -39,7 +39,7 @@ bool startsEarlier(const Event &a, const Event &b)
 }
 
 TimelineWidget::TimelineWidget(AppState *state, const Look &look, QWidget *parent)
-    : EventCanvas(state, parent)
+    : EventDragCanvas(state, parent)
     , m_look(look)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -87,6 +87,8 @@ void TimelineWidget::setNow(const QDateTime &now)
 
 void TimelineWidget::setDays(QDate firstDay, int columnCount)
 {
+    if (firstDay != m_firstDay || columnCount != m_columnCount)
+        giveUpStaleDrag();
     m_firstDay = firstDay;
     m_columnCount = std::max(1, columnCount);
     markDirty();
@@ -192,8 +194,10 @@ const TimelineBlockPainter &TimelineWidget::blockPainter() const
 
 void TimelineWidget::markDirtyIfMoved()
 {
-    if (metrics() != m_laidOutFor)
-        markDirty();
+    if (metrics() == m_laidOutFor)
+        return;
+    giveUpStaleDrag();
+    markDirty();
 }
 
 void TimelineWidget::resizeEvent(QResizeEvent *)
@@ -207,7 +211,7 @@ void TimelineWidget::changeEvent(QEvent *event)
         readTimeFormat();
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         m_blockPainter.reset();
-    EventCanvas::changeEvent(event);
+    EventDragCanvas::changeEvent(event);
 }
 
 QString TimelineWidget::hourLabel(int hour) const

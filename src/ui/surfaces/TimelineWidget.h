@@ -1,9 +1,8 @@
 #pragma once
 
-#include "ui/surfaces/EventCanvas.h"
 #include "ui/surfaces/EventColors.h"
+#include "ui/surfaces/EventDragCanvas.h"
 #include "ui/surfaces/TimelineBlockPainter.h"
-#include "ui/surfaces/TimelineDrag.h"
 #include "ui/surfaces/TimelineGeometry.h"
 
 #include <QDate>
@@ -17,7 +16,7 @@ class QPainter;
 /// Timed events on a vertical axis of 24 hours, one column for each day. A drag moves an event or its end, or
 /// marks empty time; nothing is stored here. It is as tall as its hours need, and
 /// sits in a scroll area. DayTimelineWidget and WeekTimelineWidget only differ in their Look.
-class TimelineWidget : public EventCanvas {
+class TimelineWidget : public EventDragCanvas {
     Q_OBJECT
 
 public:
@@ -49,6 +48,9 @@ public:
     [[nodiscard]] TimelineMetrics metrics() const;
     [[nodiscard]] QRect nowLineRect() const; ///< empty if today does not show
 
+    /// Valid also where a clock change leaves the time out.
+    static QDateTime localTime(QDate date, QTime time);
+
     [[nodiscard]] QSize sizeHint() const override;
 
 signals:
@@ -73,17 +75,17 @@ protected:
     [[nodiscard]] virtual QColor nowLineColor() const = 0;
     [[nodiscard]] Qt::CursorShape cursorAt(QPoint point) const override;
     [[nodiscard]] std::optional<DropPlace> dropPlaceAt(QPoint point) const override;
+    [[nodiscard]] TimelineDrag dragFrom(QPoint point) const override;
+    [[nodiscard]] TimelineMetrics dragMetrics() const override { return metrics(); }
+    [[nodiscard]] QString ghostLabel(const TimelineDrag &drag) const override;
+    void carryOut(const TimelineDrag &drag) override;
 
     void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
 
 private:
     /// How a block looks, made when it is first painted.
@@ -102,14 +104,9 @@ private:
     void paintHours(QPainter &painter, const QRect &exposed) const;
     void paintNowLine(QPainter &painter) const;
     void paintBlock(QPainter &painter, int index);
-    void paintGhost(QPainter &painter) const;
-    [[nodiscard]] QString ghostLabel() const;
     [[nodiscard]] TimelineDrag::Grip gripOf(const EventBlock &block) const;
     [[nodiscard]] bool spansDates(const Event &event) const;
     [[nodiscard]] QDateTime timeAt(int column, int minute) const; ///< local
-    void dragTo(QPoint point);
-    void carryOut(const TimelineDrag &drag);
-    void endDrag();
 
     Look m_look;
     QDate m_firstDay;
@@ -126,6 +123,5 @@ private:
     mutable std::optional<TimelineBlockPainter> m_blockPainter; // made anew when the font has changed
     TimelineMetrics m_laidOutFor;
     WheelNotches m_zoomNotches;
-    TimelineDrag m_drag;
     QList<std::optional<Painted>> m_painted; // beside blocks()
 };

@@ -1,27 +1,15 @@
 #include "ui/surfaces/TimelineWidget.h"
 
-#include "ui/surfaces/EventColors.h"
-#include "ui/surfaces/SurfaceFonts.h"
-#include "ui/theme/Theme.h"
+#include "calendar/WallClock.h"
 
-#include <QApplication>
-#include <QFontMetrics>
-#include <QKeyEvent>
 #include <QLocale>
 #include <QMouseEvent>
-#include <QPainter>
+#include <QTimeZone>
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
-constexpr int GhostAlpha = 40;
-constexpr int GhostLabelAlpha = 220; // what lies below must not mix with it
-constexpr int GhostRadiusPx = 4;
-constexpr double GhostPenPx = 1.6;
-constexpr int GhostLabelHeightPx = 18;
-constexpr int GhostLabelInsetPx = 4;
 constexpr int DropMinutes = 60;
 
 int minuteOf(const QDateTime &local)
@@ -56,110 +44,49 @@ TimelineDrag::Grip TimelineWidget::gripOf(const EventBlock &block) const
     return grip;
 }
 
-QDateTime TimelineWidget::timeAt(int column, int minute) const
+QDateTime TimelineWidget::localTime(QDate date, QTime time)
 {
-    return { m_firstDay.addDays(column), timeOfMinute(minute) };
+    return WallClock(QTimeZone()).at(date, time);
 }
 
-void TimelineWidget::mousePressEvent(QMouseEvent *event)
+QDateTime TimelineWidget::timeAt(int column, int minute) const
 {
-    EventCanvas::mousePressEvent(event);
-    endDrag();
-    if (event->button() != Qt::LeftButton || !m_firstDay.isValid())
-        return;
-    const QPoint point = event->position().toPoint();
+    return localTime(m_firstDay.addDays(column), timeOfMinute(minute));
+}
+
+TimelineDrag TimelineWidget::dragFrom(QPoint point) const
+{
+    if (!m_firstDay.isValid())
+        return {};
     if (const int index = blockIndexAt(blocks(), point); index >= 0)
-        m_drag = TimelineDrag::onBlock(point, gripOf(blocks().at(index)));
-    else if (const int column = metrics().columns.columnAt(point.x()); column >= 0)
-        m_drag = TimelineDrag::onEmpty(point, column);
+        return TimelineDrag::onBlock(point, gripOf(blocks().at(index)));
+    const int column = metrics().columns.columnAt(point.x());
+    return column < 0 ? TimelineDrag() : TimelineDrag::onEmpty(point, column);
 }
 
 void TimelineWidget::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!event->buttons().testFlag(Qt::LeftButton) || m_drag.mode() == TimelineDrag::Mode::Idle)
-        return EventCanvas::mouseMoveEvent(event);
-    dragTo(event->position().toPoint());
-}
-
-void TimelineWidget::dragTo(QPoint point)
-{
-    const bool wasUnderWay = m_drag.isUnderWay();
-    m_drag.moveTo(point, metrics());
-    if (!m_drag.isUnderWay()) {
-        const Event *pressed = findEvent(m_drag.grip().key);
-        const bool isFarEnough = (point - m_drag.pressedAt()).manhattanLength() >= QApplication::startDragDistance();
-        if (pressed && isReadOnly(*pressed) && isFarEnough && !checkWritable(*pressed))
-            m_drag = {}; // said once
-        return;
-    }
-    if (!wasUnderWay && m_drag.mode() == TimelineDrag::Mode::Moving)
-        setCursor(Qt::ClosedHandCursor);
-    emit revealRequested(QRect(point, QSize(1, 1)));
-    update();
-}
-
-void TimelineWidget::mouseReleaseEvent(QMouseEvent *event)
-{
-    const TimelineDrag drag = m_drag;
-    if (event->button() == Qt::LeftButton)
-        endDrag();
-    if (event->button() != Qt::LeftButton || !drag.changesTimes())
-        return EventCanvas::mouseReleaseEvent(event);
-    forgetPress();
-    carryOut(drag);
+    EventDragCanvas::mouseMoveEvent(event);
+    if (isDragging())
+        emit revealRequested(QRect(event->position().toPoint(), QSize(1, 1)));
 }
 
 void TimelineWidget::carryOut(const TimelineDrag &drag)
 {
-    const EventKey &key = drag.grip().key;
-    switch (drag.mode()) {
-    case TimelineDrag::Mode::Moving:
-        emit eventMoveRequested(key.id, key.occurrenceStart, drag.days(), drag.minutes());
-        break;
-    case TimelineDrag::Mode::Resizing:
-        emit eventResizeRequested(key.id, key.occurrenceStart, drag.minutes());
-        break;
-    case TimelineDrag::Mode::Marking:
+    if (drag.mode() == TimelineDrag::Mode::Marking)
         emit emptySpanMarked(timeAt(drag.grip().column, drag.markedStartMin()), drag.markedMinutes());
-        break;
-    case TimelineDrag::Mode::Idle:
-    case TimelineDrag::Mode::Pressed:
-        break;
-    }
-}
-
-void TimelineWidget::endDrag()
-{
-    if (std::exchange(m_drag, {}).mode() == TimelineDrag::Mode::Idle)
-        return;
-    setCursor(Qt::ArrowCursor);
-    update();
+    else
+        EventDragCanvas::carryOut(drag);
 }
 
 void TimelineWidget::mouseDoubleClickEvent(QMouseEvent *event)
 {
     const QPoint point = event->position().toPoint();
     if (event->button() != Qt::LeftButton || blockIndexAt(blocks(), point) >= 0)
-        return EventCanvas::mouseDoubleClickEvent(event);
+        return EventDragCanvas::mouseDoubleClickEvent(event);
     const int column = metrics().columns.columnAt(point.x());
     if (column >= 0 && m_firstDay.isValid())
         emit emptySlotActivated(m_firstDay.addDays(column), timeOfMinute(slotMinute(point.y(), hourHeight())));
-}
-
-void TimelineWidget::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_Escape && m_drag.isUnderWay()) {
-        forgetPress();
-        return endDrag();
-    }
-    EventCanvas::keyPressEvent(event);
-}
-
-void TimelineWidget::hideEvent(QHideEvent *event)
-{
-    forgetPress();
-    endDrag();
-    EventCanvas::hideEvent(event);
 }
 
 Qt::CursorShape TimelineWidget::cursorAt(QPoint point) const
@@ -189,46 +116,19 @@ std::optional<EventCanvas::DropPlace> TimelineWidget::dropPlaceAt(QPoint point) 
     return DropPlace{ timeAt(column, minute), false, rect };
 }
 
-void TimelineWidget::paintGhost(QPainter &painter) const
-{
-    const QRect ghost = m_drag.ghostRect(metrics());
-    if (ghost.isEmpty())
-        return;
-    painter.setPen(QPen(Theme::accent(), GhostPenPx, Qt::DashLine));
-    painter.setBrush(EventColors::withAlpha(Theme::accent(), GhostAlpha));
-    painter.drawRoundedRect(ghost, GhostRadiusPx, GhostRadiusPx);
-    const QFont labelFont = SurfaceFonts::bold(SurfaceFonts::resized(font(), -1, 8));
-    const QFontMetrics fontMetrics(labelFont);
-    const int height = std::max(GhostLabelHeightPx, fontMetrics.height());
-    // Above the ghost; inside it where there is no room above. A narrow column cuts nothing off.
-    const QString text = ghostLabel();
-    const int y = ghost.top() >= height ? ghost.top() - height : ghost.top();
-    const int textWidth = fontMetrics.horizontalAdvance(text);
-    const int x = std::max(m_gutterPx, std::min(ghost.left(), width() - textWidth - 2 * GhostLabelInsetPx));
-    const QRect label(x, y, textWidth + 2 * GhostLabelInsetPx, height);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(EventColors::withAlpha(palette().color(QPalette::Base), GhostLabelAlpha));
-    painter.drawRoundedRect(label, GhostRadiusPx, GhostRadiusPx);
-    painter.setFont(labelFont);
-    painter.setPen(Theme::textPrimary());
-    painter.drawText(label, Qt::AlignCenter, text);
-}
-
-QString TimelineWidget::ghostLabel() const
+QString TimelineWidget::ghostLabel(const TimelineDrag &drag) const
 {
     const auto clock = [this](int minute) { return QLocale().toString(timeOfMinute(minute), m_timePattern); };
-    const TimelineDrag::Grip &grip = m_drag.grip();
-    if (m_drag.mode() == TimelineDrag::Mode::Resizing)
-        return tr("%1 min").arg(std::max(0, grip.durationMin + m_drag.minutes()));
-    if (m_drag.mode() == TimelineDrag::Mode::Marking) {
-        const int end = m_drag.markedStartMin() + m_drag.markedMinutes();
-        return tr("%1 – %2", "from, to")
-            .arg(clock(m_drag.markedStartMin()), clock(end % TimelineMetrics::MinutesPerDay));
+    const TimelineDrag::Grip &grip = drag.grip();
+    if (drag.mode() == TimelineDrag::Mode::Resizing)
+        return tr("%1 min").arg(std::max(0, grip.durationMin + drag.minutes()));
+    if (drag.mode() == TimelineDrag::Mode::Marking) {
+        const int end = drag.markedStartMin() + drag.markedMinutes();
+        return tr("%1 – %2", "from, to").arg(clock(drag.markedStartMin()), clock(end % TimelineMetrics::MinutesPerDay));
     }
-    const QString start =
-        clock(std::min(grip.startMin + m_drag.minutes(), TimelineMetrics::MinutesPerDay - SlotMinutes));
+    const QString start = clock(std::min(grip.startMin + drag.minutes(), TimelineMetrics::MinutesPerDay - SlotMinutes));
     if (m_columnCount == 1)
         return start;
-    const QDate day = m_firstDay.addDays(grip.column + m_drag.days());
+    const QDate day = m_firstDay.addDays(grip.column + drag.days());
     return tr("%1 %2", "weekday, time").arg(QLocale().toString(day, QStringLiteral("ddd")), start);
 }

@@ -87,6 +87,28 @@ private slots:
         QTRY_VERIFY(!card());
     }
 
+    void cardKeepsTheFocusOverNewContent()
+    {
+        m_actions->open(m_event.id, m_event.startTime, {});
+        QTest::keyClick(card(), Qt::Key_Tab);
+        QVERIFY(QApplication::focusWidget() != card());
+        m_event.title = QStringLiteral("Retrospective");
+        QVERIFY((*m_state)->events()->update(m_event));
+        QTRY_COMPARE(card()->accessibleName(), m_event.title);
+        QCOMPARE(QApplication::focusWidget(), card());
+    }
+
+    void secondClickOnTheCardEdits()
+    {
+        const QRect wide(m_window->mapToGlobal(QPoint(0, 0)), m_window->size()); // no room beside it
+        m_actions->open(m_event.id, m_event.startTime, wide);
+        QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(40, 40), card()->mapToGlobal(QPointF(40, 40)),
+                           Qt::LeftButton, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(card(), &second);
+        QTRY_VERIFY(m_window->findChild<EventFormDialog *>());
+        QTRY_VERIFY(!card());
+    }
+
     void deletingAsksAndCanBeUndone()
     {
         Prompt::ScopedAnswers answers;

@@ -15,7 +15,7 @@ TimelineMetrics weekOf(int hourHeightPx)
 /// An hour from 9:00 in the third column, where an hour has 56 pixels.
 TimelineDrag::Grip nineOClock()
 {
-    return { { QStringLiteral("e"), {} }, QRect(268, 504, 92, 56), 2, 540, 60, false };
+    return { { QStringLiteral("e"), {} }, QRect(268, 504, 92, 56), 2, 540, 60, false, false };
 }
 
 }
@@ -36,6 +36,8 @@ private slots:
         QTest::newRow("less is not") << QPoint(49, 0) << 0 << 0;
         QTest::newRow("not left of the first column") << QPoint(-900, 0) << -2 << 0;
         QTest::newRow("not right of the last") << QPoint(900, 56) << 4 << 60;
+        QTest::newRow("not before midnight") << QPoint(0, -900) << 0 << -540;
+        QTest::newRow("not beyond the last slot") << QPoint(0, 1500) << 0 << 885;
     }
     void moves()
     {
@@ -63,6 +65,8 @@ private slots:
         QCOMPARE(drag.ghostRect(weekOf(56)), QRect(268, 504, 92, 84));
         drag.moveTo(press - QPoint(0, 500), weekOf(56));
         QCOMPARE(drag.ghostRect(weekOf(56)).height(), 8);
+        drag.moveTo(press + QPoint(0, 2000), weekOf(56));
+        QCOMPARE(drag.minutes(), 14 * 60); // to midnight
     }
 
     void fixedBlocksStay()
@@ -72,6 +76,20 @@ private slots:
         TimelineDrag drag = TimelineDrag::onBlock(QPoint(300, 558), grip);
         drag.moveTo(QPoint(500, 900), weekOf(56));
         QVERIFY(!drag.isUnderWay() && !drag.changesTimes());
+    }
+
+    void allDayBarsMoveByDays()
+    {
+        TimelineDrag::Grip bar{ { QStringLiteral("e"), {} }, QRect(166, 4, 296, 20), 3, 0, 0, false, true };
+        const QPoint press(400, 22); // where a block would be stretched
+        TimelineDrag drag = TimelineDrag::onBlock(press, bar);
+        drag.moveTo(press + QPoint(0, 60), weekOf(56));
+        QVERIFY(!drag.isUnderWay());
+        drag.moveTo(press + QPoint(-120, 60), weekOf(56));
+        QCOMPARE(drag.ghostRect(weekOf(56)), QRect(66, 4, 296, 20));
+        QCOMPARE(drag.minutes(), 0);
+        drag.moveTo(press + QPoint(-900, 0), weekOf(56));
+        QCOMPARE(drag.days(), -3); // the day that was gripped stays on show
     }
 
     void marksEmptyTime_data()

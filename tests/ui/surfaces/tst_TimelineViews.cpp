@@ -1,3 +1,4 @@
+#include "calendar/services/EventEdits.h"
 #include "calendar/services/EventText.h"
 #include "calendar/services/VisibleEvents.h"
 #include "support/ScratchState.h"
@@ -289,6 +290,30 @@ private slots:
         QTest::keyClick(day->timeline(), Qt::Key_Tab);
         QVERIFY(after->hasFocus());
         QCOMPARE(bar(*day)->value(), scrolled); // leaving moves nothing
+    }
+
+    void movedEventTakesTheNextKeyAndStaysInSight()
+    {
+        const Event event = add(QStringLiteral("Call"), Wednesday, QTime(9, 0));
+        WeekView view(state(), WeekView::Form::Week);
+        connect(&view, &TimelineView::moveRequested, this,
+                [this](const QString &id, const QDateTime &occurrence, int days, int minutes) {
+                    QVERIFY(EventEdits::move(state(), id, occurrence, days, minutes).ok);
+                    state()->setSelectedOccurrence(id, state()->events()->getById(id)->startTime);
+                });
+        show(view);
+        TimelineWidget *timeline = view.timeline();
+        timeline->setFocus();
+        state()->setSelectedOccurrence(event.id, event.startTime);
+        for (int i = 1; i <= 40; ++i) {
+            QTest::keyClick(timeline, Qt::Key_Down, Qt::ShiftModifier);
+            QCoreApplication::processEvents(); // much shorter than the delay of the stored change's signal
+            QCoreApplication::processEvents();
+        }
+        QCOMPARE(state()->events()->getById(event.id)->startTime, event.startTime.addSecs(40 * 15 * 60));
+        const QRect shown = timeline->blocks().at(timeline->blockIndexOf({ event.id, {} })).rect;
+        const int top = bar(view)->value();
+        QVERIFY(top <= shown.top() && shown.bottom() < top + view.scrollArea()->viewport()->height());
     }
 
     void largeFontKeepsTheHoursOnShow()
