@@ -47,6 +47,11 @@
         <extracomment>the short form of &quot;+%1 more&quot;</extracomment>
         <translation>+%1</translation>
     </message>
+    <message>
+        <source>ddd, MMM d</source>
+        <comment>first day of a dragged event</comment>
+        <translation>ddd, d MMM</translation>
+    </message>
 </context>
 <context>
     <name>Application</name>
