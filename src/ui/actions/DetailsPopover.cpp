@@ -6,6 +6,8 @@
 #include "ui/surfaces/SurfaceFonts.h"
 #include "ui/theme/Theme.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QGraphicsDropShadowEffect>
@@ -33,6 +35,13 @@ constexpr int StripePx = 4;
 constexpr double HeightShare = 0.8; // of the window; what does not fit scrolls
 const QString ObjectName = QStringLiteral("detailsPopover");
 
+/// A plain frame would not be announced when it takes the focus.
+QAccessibleInterface *makeAccessible(const QString &, QObject *object)
+{
+    auto *card = qobject_cast<DetailsPopover *>(object);
+    return card ? new QAccessibleWidget(card, QAccessible::Dialog) : nullptr;
+}
+
 }
 
 DetailsPopover::DetailsPopover(QWidget *anchor)
@@ -40,6 +49,7 @@ DetailsPopover::DetailsPopover(QWidget *anchor)
     , m_scroll(new QScrollArea(this))
     , m_buttons(new QHBoxLayout)
 {
+    QAccessible::installFactory(makeAccessible);
     setObjectName(ObjectName);
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);

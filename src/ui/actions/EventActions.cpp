@@ -1,6 +1,7 @@
 #include "ui/actions/EventActions.h"
 
 #include "app/state/AppState.h"
+#include "calendar/WallClockShift.h"
 #include "storage/CalendarRepository.h"
 #include "storage/EventRepository.h"
 #include "ui/actions/EventContextMenu.h"
@@ -104,7 +105,8 @@ void EventActions::move(const QString &id, const QDateTime &occurrenceStart, int
 {
     if (days == 0 && minutes == 0)
         return;
-    changeTimes(id, [this, id, occurrenceStart, days, minutes](EventEdits::Scope scope) {
+    const WallClockShift shift{ .days = days, .seconds = minutes * 60 };
+    changeTimes(id, occurrenceStart, shift, [this, id, occurrenceStart, days, minutes](EventEdits::Scope scope) {
         return EventEdits::move(m_state, id, occurrenceStart, days, minutes, scope);
     });
 }
@@ -113,12 +115,13 @@ void EventActions::resize(const QString &id, const QDateTime &occurrenceStart, i
 {
     if (minutes == 0)
         return;
-    changeTimes(id, [this, id, occurrenceStart, minutes](EventEdits::Scope scope) {
+    changeTimes(id, occurrenceStart, {}, [this, id, occurrenceStart, minutes](EventEdits::Scope scope) {
         return EventEdits::resize(m_state, id, occurrenceStart, minutes, scope);
     });
 }
 
-void EventActions::changeTimes(const QString &id, std::function<EventEdits::Outcome(EventEdits::Scope)> write)
+void EventActions::changeTimes(const QString &id, const QDateTime &occurrenceStart, const WallClockShift &shift,
+                               std::function<EventEdits::Outcome(EventEdits::Scope)> write)
 {
     const auto stored = liveEvent(m_state, id);
     if (!stored)
@@ -127,24 +130,26 @@ void EventActions::changeTimes(const QString &id, std::function<EventEdits::Outc
         emit message(EventEdits::readOnlyText(m_state, *stored));
         return;
     }
+    const QDateTime newStart = shift.applied(stored->isAllDay ? occurrenceStart : occurrenceStart.toLocalTime());
     if (!stored->isRecurring() || stored->isOverride()) {
-        onTimesChanged(write(EventEdits::Scope::All));
+        onTimesChanged(write(EventEdits::Scope::All), newStart);
         return;
     }
-    later(this, [this, title = stored->title, write = std::move(write)]() mutable {
-        RecurringEditScopeDialog::ask(title, m_window, this, [this, write = std::move(write)](EventEdits::Scope scope) {
-            onTimesChanged(write(scope));
-        });
+    later(this, [this, title = stored->title, newStart, write = std::move(write)]() mutable {
+        RecurringEditScopeDialog::ask(title, m_window, this,
+                                      [this, newStart, write = std::move(write)](EventEdits::Scope scope) {
+                                          onTimesChanged(write(scope), newStart);
+                                      });
     });
 }
 
-// The selection goes along. Of a series, which of its instances was moved is not known any more.
-void EventActions::onTimesChanged(const EventEdits::Outcome &outcome)
+// The selection goes along, also to the series that a scope has split off.
+void EventActions::onTimesChanged(const EventEdits::Outcome &outcome, const QDateTime &newStart)
 {
     report(outcome);
     const auto stored = outcome.ok ? liveEvent(m_state, outcome.id) : std::nullopt;
-    if (stored && !stored->isRecurring())
-        m_state->setSelectedOccurrence(stored->id, stored->startTime);
+    if (stored)
+        m_state->setSelectedOccurrence(stored->id, stored->isRecurring() ? newStart : stored->startTime);
 }
 
 void EventActions::remove(const QString &id)

@@ -16,6 +16,7 @@
 class AppState;
 class QWidget;
 class TaskActions;
+struct WallClockShift;
 
 /// What a person can do with an event, whichever surface it is on: open, edit, create, move, stretch, delete,
 /// the context menu. One for each window. Dialogs open from the event loop, never inside a mouse or drop handler.
@@ -44,9 +45,10 @@ signals:
     void filterFromEventRequested(const Event &event);
 
 private:
-    /// Asks for the scope where it matters.
-    void changeTimes(const QString &id, std::function<EventEdits::Outcome(EventEdits::Scope)> write);
-    void onTimesChanged(const EventEdits::Outcome &outcome);
+    /// Asks for the scope where it matters. Afterwards what \p shift made of the occurrence is selected.
+    void changeTimes(const QString &id, const QDateTime &occurrenceStart, const WallClockShift &shift,
+                     std::function<EventEdits::Outcome(EventEdits::Scope)> write);
+    void onTimesChanged(const EventEdits::Outcome &outcome, const QDateTime &newStart);
     void report(const EventEdits::Outcome &outcome);
 
     AppState *m_state;

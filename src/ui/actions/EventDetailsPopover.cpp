@@ -87,6 +87,7 @@ void EventDetailsPopover::populate()
     if (isCancelled)
         when = tr("%1 (cancelled)", "date and time").arg(when);
     addLine(DetailGlyphs::Clock, tr("When"), when);
+    setAccessibleDescription(when);
     if (m_event.isRecurring())
         addLine(DetailGlyphs::Repeat, tr("Repeats"),
                 RruleFormat::humanReadable(RuleEnd::asDay(m_event.recurrenceRule, m_event.isAllDay)));

@@ -186,6 +186,7 @@ void TimelineView::reload()
     m_timeline->setWorkdayHours(workdayStart(m_state), workdayEnd(m_state));
     m_strip->setData(m_timeline->metrics().columns.gutterPx, firstDay(), columnCount(), span->events,
                      span->calendarColors, span->dimmedIds);
+    followSelection();
 }
 
 void TimelineView::relandOnStartHour()
@@ -239,9 +240,25 @@ void TimelineView::onSelectionChanged()
     m_timeline->setSelectedOccurrence(m_state->selectedEventId(), m_state->selectedOccurrence());
     m_strip->setSelectedOccurrence(m_state->selectedEventId(), m_state->selectedOccurrence());
     // It may have just been written. The signal of a write comes late, and the next key needs to find the event.
-    const auto lacks = [](const EventCanvas *canvas) { return !canvas->findEvent(canvas->selection()); };
-    if (isVisible() && !m_state->selectedEventId().isEmpty() && lacks(m_timeline) && lacks(m_strip))
+    if (isVisible() && !m_state->selectedEventId().isEmpty() && !showsSelection())
         reloadSoon();
+}
+
+bool TimelineView::showsSelection() const
+{
+    return m_timeline->findEvent(m_timeline->selection()) || m_strip->findEvent(m_strip->selection());
+}
+
+// An event that an undo, a form or a sync has moved stays selected. Of a series that could be another occurrence.
+void TimelineView::followSelection()
+{
+    const EventKey anyTime{ m_state->selectedEventId(), {} };
+    if (anyTime.isEmpty() || showsSelection())
+        return;
+    const Event *inHours = m_timeline->findEvent(anyTime);
+    const Event *moved = inHours ? inHours : m_strip->findEvent(anyTime);
+    if (moved && !moved->isRecurring())
+        m_state->setSelectedOccurrence(anyTime.id, QDateTime(moved->startTime));
 }
 
 void TimelineView::onWorkdayHoursChanged(int start, int end)

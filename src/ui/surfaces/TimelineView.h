@@ -78,6 +78,8 @@ private:
     void onEventSelected(const QString &id, const QDateTime &occurrenceStart, const QRect &globalRect);
     void onContextRequested(const EventCanvas *canvas, const QPoint &globalPos);
     void onSelectionChanged();
+    [[nodiscard]] bool showsSelection() const;
+    void followSelection();
     void zoomAt(int steps, int viewportY);
     void onFontMetricsChanged();
     void reveal(const QRect &rect);

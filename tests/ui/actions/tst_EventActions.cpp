@@ -6,6 +6,7 @@
 #include "ui/dialogs/Prompt.h"
 #include "ui/forms/EventFormDialog.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -63,6 +64,7 @@ private slots:
         m_actions->open(m_event.id, m_event.startTime, {});
         QVERIFY(card() && card()->isVisible());
         QVERIFY(m_window->rect().contains(card()->geometry()));
+        QCOMPARE(QAccessible::queryAccessibleInterface(card())->role(), QAccessible::Dialog); // it is announced
         const QString html = card()->findChild<QTextBrowser *>()->toHtml();
         QVERIFY(html.contains(u"https://a.example"_qs) && !html.contains(u"javascript"_qs)
                 && !html.contains(u"alert"_qs));
@@ -133,10 +135,13 @@ private slots:
         answers.choice = 0;
         m_actions->move(m_event.id, third, 0, 30);
         QTRY_COMPARE((*m_state)->events()->getSeries(m_event.uid, m_event.calendarId).size(), 2);
+        QVERIFY((*m_state)->selectedEventId() != m_event.id);
         QCOMPARE(stored(m_event.id).startTime.toLocalTime().time(), QTime(9, 0));
         answers.choice = 2;
         m_actions->move(m_event.id, third.addDays(1), 0, -60);
         QTRY_COMPARE(stored(m_event.id).startTime.toLocalTime().time(), QTime(8, 0));
+        QCOMPARE((*m_state)->selectedEventId(), m_event.id);
+        QCOMPARE((*m_state)->selectedOccurrence(), third.addDays(1).addSecs(-3600));
     }
 
     void readOnlyEventsAreRefusedWithAMessage()

@@ -1,3 +1,4 @@
+#include "app/state/UndoStack.h"
 #include "calendar/services/EventEdits.h"
 #include "calendar/services/EventText.h"
 #include "calendar/services/VisibleEvents.h"
@@ -314,6 +315,18 @@ private slots:
         const QRect shown = timeline->blocks().at(timeline->blockIndexOf({ event.id, {} })).rect;
         const int top = bar(view)->value();
         QVERIFY(top <= shown.top() && shown.bottom() < top + view.scrollArea()->viewport()->height());
+    }
+
+    void eventThatWasMovedElsewhereStaysSelected()
+    {
+        Event event = add(QStringLiteral("Call"), Wednesday, QTime(9, 0));
+        WeekView view(state(), WeekView::Form::Week);
+        show(view);
+        state()->setSelectedOccurrence(event.id, event.startTime);
+        QVERIFY(EventEdits::move(state(), event.id, event.startTime, 1, 0).ok);
+        QTRY_COMPARE(state()->selectedOccurrence(), event.startTime.addDays(1));
+        state()->undoStack()->undo();
+        QTRY_COMPARE(state()->selectedOccurrence(), event.startTime);
     }
 
     void largeFontKeepsTheHoursOnShow()
