@@ -15,12 +15,17 @@ class EventRepository;
 class FilterRuleRepository;
 class PreferencesRepository;
 class QTimer;
+class SyncScheduler;
 class TaskRepository;
 class TemplateRepository;
 class ThemeManager;
 class UndoStack;
 class ViewRepository;
 class VisibleEvents;
+
+namespace Sync {
+class ConflictResolutionService;
+}
 
 /// The one object that every surface and service holds: the database and its repositories, the
 /// long-lived services, and the shared view state. Setters keep the value and signal a change; what
@@ -70,6 +75,14 @@ public:
     /// The display pipeline with its cache; there from initialize() or setVisibleEvents() on.
     [[nodiscard]] VisibleEvents *visibleEvents() const { return m_visibleEvents; }
     void setVisibleEvents(VisibleEvents *service) { m_visibleEvents = service; }
+    /// There from initialize() or the setters on.
+    [[nodiscard]] SyncScheduler *syncScheduler() const { return m_syncScheduler; }
+    [[nodiscard]] Sync::ConflictResolutionService *conflicts() const { return m_conflicts; }
+    void setSyncServices(SyncScheduler *scheduler, Sync::ConflictResolutionService *conflicts)
+    {
+        m_syncScheduler = scheduler;
+        m_conflicts = conflicts;
+    }
 
     [[nodiscard]] QString activeViewId() const { return m_activeViewId; }
     [[nodiscard]] QString selectedEventId() const { return m_selectedEventId; }
@@ -166,6 +179,8 @@ private:
     ThemeManager *m_theme = nullptr;
     UndoStack *m_undoStack;
     VisibleEvents *m_visibleEvents = nullptr;
+    SyncScheduler *m_syncScheduler = nullptr;
+    Sync::ConflictResolutionService *m_conflicts = nullptr;
     QString m_activeViewId;
     QString m_selectedEventId;
     QDateTime m_selectedOccurrence;
