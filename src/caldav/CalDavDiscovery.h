@@ -9,6 +9,7 @@
 #include <optional>
 
 class CalDavClient;
+class SilenceGuard;
 
 /// Finds the calendars of an account from whatever address its owner typed: principal, home set, enumeration.
 /// RFC 4791 §6.2, RFC 6764 §5. One request at a time; every run ends in exactly one of the two signals, also when
@@ -36,10 +37,11 @@ private:
     void onHomeSetReply(int status, const QByteArray &body, const QString &error);
     void onCalendarsReply(int status, const QByteArray &body, const QString &error);
     void emitFail(const QString &message);
-    void propfind(const QUrl &url, const QByteArray &body, int depth,
-                  void (CalDavDiscovery::*onReply)(int, const QByteArray &, const QString &));
+    using Handler = void (CalDavDiscovery::*)(int status, const QByteArray &body, const QString &error);
+    void propfind(const QUrl &url, const QByteArray &body, int depth, Handler onReply);
 
     CalDavClient *m_client;
+    SilenceGuard *m_guard;
     QUrl m_baseUrl;
     QUrl m_currentUrl;
     QList<QUrl> m_candidates;

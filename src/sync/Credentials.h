@@ -5,6 +5,9 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
+
+class QThread;
 
 /// Passwords of CalDAV accounts: from the secure store, without ever holding the event loop for it, and remembered
 /// while the program runs. Where there is no store a password lives until the program ends.
@@ -28,5 +31,10 @@ public:
     void removeCaldavPassword(const QString &accountId);
 
 private:
+    /// \p work runs on the thread, \p done with its result here.
+    template <typename Work, typename Done> void inBackground(QObject *context, Work work, Done done);
+
+    std::unique_ptr<QThread> m_thread;
+    QObject *m_worker; // lives on the thread
     QHash<QString, QString> m_known; // token store key to secret
 };
