@@ -2,12 +2,10 @@
 
 #include "models/Calendar.h"
 
-#include <QHash>
 #include <QObject>
 #include <QString>
 
 class AppState;
-class CalDavSyncRun;
 
 /// Brings calendars of a CalDAV server and the local tables into step: for each a complete listing, then the pending
 /// rows, one request at a time. Runs of several calendars go side by side; a second run of a calendar waits for the first,
@@ -30,6 +28,9 @@ signals:
     void calendarSyncCompleted(const QString &calendarId, int count);
     /// The end of a run, except for the notice that a task was rejected: then calendarSyncCompleted follows.
     void calendarSyncFailed(const QString &calendarId, const QString &message);
+
+    /// Behind the last of these, when the run is over.
+    void calendarSyncEnded(const QString &calendarId);
 
 private:
     AppState *m_state;

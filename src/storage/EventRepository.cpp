@@ -244,6 +244,16 @@ bool EventRepository::markPushed(const QString &id, const PushedResource &pushed
     return touch(id, SyncRows::markPushed(m_database, TableName, id, pushed));
 }
 
+int EventRepository::discardEdits(const QString &calendarId)
+{
+    const int count = SyncRows::discardEdits(m_database, TableName, calendarId);
+    if (count > 0) {
+        m_database->eventsPurged(calendarId);
+        notifyChanged(calendarId);
+    }
+    return count;
+}
+
 bool EventRepository::clearEtags(const QString &calendarId)
 {
     return SyncRows::clearEtags(m_database, TableName, calendarId);

@@ -83,6 +83,8 @@ public:
     bool markSynced(const QString &id, const QString &href, const QString &etag);
     bool setAddress(const QString &id, const QString &href, const QString &etag); ///< whether or not it is pending
     bool markPushed(const QString &id, const PushedResource &pushed); ///< and synced
+    /// Gives up edits of rows that the server knows; it has to send them again. Returns how many; -1 on an error.
+    int discardEdits(const QString &calendarId);
     /// The next sync reads the synced rows of the calendar anew.
     bool clearEtags(const QString &calendarId);
     /// Brings a deleted event back for undo, also after a sync purged the row.

@@ -94,6 +94,18 @@ bool SyncRows::markPushed(Database *database, const char *table, const QString &
                           pushed.sequence, id });
 }
 
+int SyncRows::discardEdits(Database *database, const char *table, const QString &calendarId)
+{
+    if (!runStatement(database, "Discarding edits failed:",
+                      forTable("UPDATE %1 SET sync_status = 'synced', etag = NULL WHERE calendar_id = ?"
+                               " AND sync_status = 'pending' AND deleted_at IS NULL AND href IS NOT NULL",
+                               table),
+                      { calendarId }))
+        return -1;
+    Statement changes(database, QStringLiteral("SELECT changes()"));
+    return changes.run("Reading failed:") && changes.next() ? changes.value(0).toInt() : -1;
+}
+
 bool SyncRows::clearEtags(Database *database, const char *table, const QString &calendarId)
 {
     return runStatement(database, "Clearing etags failed:",

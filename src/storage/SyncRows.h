@@ -35,6 +35,8 @@ QStringList pendingCalendarIds(Database *database, const char *table);
 bool setAddress(Database *database, const char *table, const QString &id, const QString &href, const QString &etag);
 bool setSynced(Database *database, const char *table, const QString &id, const QString &href, const QString &etag);
 bool markPushed(Database *database, const char *table, const QString &id, const PushedResource &pushed);
+/// Pending rows that the server knows become synced ones that are to be read anew. Returns how many; -1 on an error.
+int discardEdits(Database *database, const char *table, const QString &calendarId);
 bool clearEtags(Database *database, const char *table, const QString &calendarId);
 
 } // namespace SyncRows

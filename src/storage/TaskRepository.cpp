@@ -279,6 +279,14 @@ bool TaskRepository::markPushed(const QString &id, const PushedResource &pushed)
     return touch(id, SyncRows::markPushed(m_database, TableName, id, pushed));
 }
 
+int TaskRepository::discardEdits(const QString &calendarId)
+{
+    const int count = SyncRows::discardEdits(m_database, TableName, calendarId);
+    if (count > 0)
+        notifyChanged(calendarId);
+    return count;
+}
+
 bool TaskRepository::clearEtags(const QString &calendarId)
 {
     return SyncRows::clearEtags(m_database, TableName, calendarId);

@@ -8,6 +8,9 @@
 #include <QSet>
 #include <QString>
 
+#include <functional>
+#include <utility>
+
 class AccountRepository;
 class CalendarRepository;
 class Database;
@@ -124,6 +127,9 @@ public:
     /// The week of \p date: the first day of it.
     [[nodiscard]] QDate weekStart(QDate date) const;
 
+    /// Who knows whether a calendar's pending rows can reach their server now; without it, they can.
+    void setPushable(std::function<bool(const QString &calendarId)> isPushable) { m_isPushable = std::move(isPushable); }
+
     void syncOpBegan();
     void syncOpEnded(bool failed);
     void recordSyncError(const QString &calendar, const QString &message);
@@ -154,6 +160,7 @@ signals:
     void todayChanged(QDate today);
 
 private:
+    void requestSyncOfEdits();
     void onPreferenceChanged(const QString &key);
     void recordNavigation();
     void applyNavigation(const NavState &target);
@@ -193,6 +200,7 @@ private:
     QList<NavState> m_backHistory;
     QList<NavState> m_forwardHistory;
     bool m_restoringNav = false;
+    std::function<bool(const QString &)> m_isPushable;
     int m_syncBusyCount = 0;
     bool m_cycleErrored = false;
     bool m_lastSyncErrored = false;
