@@ -39,7 +39,8 @@ void CalendarPush::start()
 {
     m_queue = m_table->pendingResources();
     if (!m_queue.isEmpty())
-        qCDebug(caldavLog).noquote() << "[CalDav] Push for" << m_session->calendarName() << "pending=" << m_queue.size();
+        qCDebug(caldavLog).noquote() << "[CalDav] Push for" << m_session->calendarName()
+                                     << "pending=" << m_queue.size();
     pushNextSoon();
 }
 
@@ -84,9 +85,8 @@ void CalendarPush::prepare()
 
 void CalendarPush::fetchText()
 {
-    m_session->client()->get(
-        CalDavPath::resourceUrl(m_session->calendarUrl(), m_current->href),
-        m_session->watched(SilenceGuard::SilenceMs, std::bind_front(&CalendarPush::onText, this)));
+    m_session->client()->get(CalDavPath::resourceUrl(m_session->calendarUrl(), m_current->href),
+                             m_session->watched(SilenceGuard::SilenceMs, std::bind_front(&CalendarPush::onText, this)));
 }
 
 void CalendarPush::onText(const CalDavClient::Response &response)
@@ -108,12 +108,11 @@ void CalendarPush::onText(const CalDavClient::Response &response)
 void CalendarPush::send(const CalDavParse::EventResource &newest)
 {
     m_kind = newest.href.isEmpty() ? Kind::Create : Kind::Update;
-    m_href = newest.href.isEmpty() ? CalDavPath::newResourcePath(m_session->calendarUrl(), m_current->uid)
-                                   : newest.href;
+    m_href =
+        newest.href.isEmpty() ? CalDavPath::newResourcePath(m_session->calendarUrl(), m_current->uid) : newest.href;
     m_etag = newest.etag;
-    const ResourceComposer::Composed composed =
-        m_current->compose(newest.calendarData.toUtf8(),
-                           { .now = QDateTime::currentDateTimeUtc(), .ownAddresses = m_ownAddresses });
+    const ResourceComposer::Composed composed = m_current->compose(
+        newest.calendarData.toUtf8(), { .now = QDateTime::currentDateTimeUtc(), .ownAddresses = m_ownAddresses });
     if (composed.text.isEmpty()) {
         m_kind = Kind::Delete;
         return sendDeletion(m_etag);

@@ -61,8 +61,8 @@ struct Tasks {
         const auto task = repository->getByUid(uid, calendarId);
         return task ? QList<Task>{ *task } : QList<Task>();
     }
-    static ResourceComposer::Composed compose(const QByteArray &newest, const QList<Task> &changed,
-                                              const QList<Task> &, const ResourceComposer::Context &context)
+    static ResourceComposer::Composed compose(const QByteArray &newest, const QList<Task> &changed, const QList<Task> &,
+                                              const ResourceComposer::Context &context)
     {
         // A task has its resource for itself: a deletion leaves nothing.
         return changed.isEmpty() ? ResourceComposer::Composed{ .text = {}, .isChanged = true }

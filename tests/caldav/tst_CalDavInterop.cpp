@@ -96,8 +96,7 @@ private:
             QTRY_VERIFY_WITH_TIMEOUT(completed.size() + failed.size() == 1, 30000);
             QVERIFY2(failed.isEmpty(), qPrintable(failed.value(0).value(0).toString()));
             const auto list = completed.first().first().value<QList<CalDavParse::DiscoveredCalendar>>();
-            const auto found =
-                std::ranges::find(list, calendar.toString(), &CalDavParse::DiscoveredCalendar::url);
+            const auto found = std::ranges::find(list, calendar.toString(), &CalDavParse::DiscoveredCalendar::url);
             QVERIFY(found != list.end());
             QCOMPARE(found->displayName, u"Team & <friends>"_s);
             QCOMPARE(found->color.toUpper(), u"#AA5500"_s);

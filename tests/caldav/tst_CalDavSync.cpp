@@ -184,7 +184,8 @@ private slots:
     {
         m_server->store("s.ics", series("Review", "Late review"));
         QCOMPARE(m_phone->sync(), QString());
-        m_phone->edit(u"weekly"_s, [](Event &event) { event.title = u"Moved again"_s; }, SecondWeek);
+        m_phone->edit(
+            u"weekly"_s, [](Event &event) { event.title = u"Moved again"_s; }, SecondWeek);
         QCOMPARE(m_phone->sync(), QString());
         QCOMPARE(m_server->objects().size(), 1);
         QVERIFY(m_server->text("s.ics").contains("SUMMARY:Review"));
@@ -288,8 +289,7 @@ private slots:
     void aRemovedAccountEndsTheRunQuietly()
     {
         m_server->store("a.ics", calendarText(eventText("a", "Standup")));
-        m_server->whenAsked("REPORT",
-                            [this] { m_phone->state()->accounts()->remove(u"caldav-account"_s); });
+        m_server->whenAsked("REPORT", [this] { m_phone->state()->accounts()->remove(u"caldav-account"_s); });
         QCOMPARE(m_phone->sync(), QString());
         QVERIFY(!m_phone->hasEvent(u"a"_s));
     }

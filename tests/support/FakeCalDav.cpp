@@ -84,6 +84,9 @@ HttpServer::Reply FakeCalDav::answer(const HttpServer::Request &request)
         return reply;
     case Fault::ForeignXml:
         return { .status = 200, .body = "<html><body>Please sign in<br></body></html>", .headers = {} };
+    case Fault::SilenceAfter:
+        act(request);
+        [[fallthrough]];
     case Fault::Silence:
         reply.fault = HttpServer::Fault::Hang;
         return reply;
@@ -124,17 +127,17 @@ HttpServer::Reply FakeCalDav::propfind(const HttpServer::Request &request) const
     const QByteArray collection = QString::fromUtf16(CalendarPath).toUtf8();
     QByteArray body;
     if (request.body.contains("current-user-principal"))
-        body = response(request.target, "<D:current-user-principal><D:href>/alice/</D:href></D:current-user-principal>");
+        body =
+            response(request.target, "<D:current-user-principal><D:href>/alice/</D:href></D:current-user-principal>");
     else if (request.body.contains("calendar-home-set"))
         body = response(Home, "<C:calendar-home-set><D:href>/alice/</D:href></C:calendar-home-set>");
     else
-        body = response(collection,
-                        "<D:resourcetype><D:collection/><C:calendar/></D:resourcetype><D:displayname>Work</D:displayname>"
-                        "<CS:getctag>"
-                            + ctag()
-                            + "</CS:getctag><C:supported-calendar-component-set><C:comp name=\"VEVENT\"/>"
-                            + (takesTasks ? "<C:comp name=\"VTODO\"/>" : "")
-                            + "</C:supported-calendar-component-set>");
+        body =
+            response(collection,
+                     "<D:resourcetype><D:collection/><C:calendar/></D:resourcetype><D:displayname>Work</D:displayname>"
+                     "<CS:getctag>"
+                         + ctag() + "</CS:getctag><C:supported-calendar-component-set><C:comp name=\"VEVENT\"/>"
+                         + (takesTasks ? "<C:comp name=\"VTODO\"/>" : "") + "</C:supported-calendar-component-set>");
     return { .status = 207, .body = multistatus(body), .headers = {} };
 }
 

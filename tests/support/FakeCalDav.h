@@ -24,7 +24,8 @@ public:
             CutBody, ///< the answer ends in the middle
             TruncatedXml, ///< a whole answer, but half of the body
             ForeignXml, ///< a page of somebody else
-            Silence,
+            Silence, ///< no answer, and nothing done
+            SilenceAfter, ///< ... but done
             DropBefore, ///< the connection goes before the request was acted on
             DropAfter, ///< ... and after
         };
