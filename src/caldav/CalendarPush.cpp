@@ -3,6 +3,7 @@
 #include "caldav/CalDavLog.h"
 #include "caldav/CalDavPath.h"
 #include "caldav/CalDavSession.h"
+#include "caldav/PushVerdict.h"
 #include "caldav/SilenceGuard.h"
 #include "calendar/ResourceComposer.h"
 
@@ -150,8 +151,13 @@ void CalendarPush::onAnswer(const CalDavClient::Response &response)
                                        << response.error;
         return emit failed(m_policy.networkMessage(response.error));
     }
-    if (response.isSuccess() || (m_kind == Kind::Delete && isMissing(response.status)))
-        return onAccepted(response);
+    const auto verdict = m_kind == Kind::Delete ? PushVerdict::ofDelete(response, m_texts.contains(m_href))
+                                                : PushVerdict::ofPut(response);
+    m_newEtag = CalDavPath::etagFromHeader(response.header("ETag"));
+    if (verdict == PushVerdict::Accepted)
+        return onAccepted();
+    if (verdict == PushVerdict::Doubtful)
+        return lookAgain(response.status);
     if (response.status == PreconditionFailed && m_policy.retriesWithoutIfMatch && !m_hasRetried
         && m_kind != Kind::Create) {
         qCInfo(caldavLog).noquote() << "[CalDav] Task push 412 for" << m_current->title
@@ -167,10 +173,39 @@ void CalendarPush::onAnswer(const CalDavClient::Response &response)
     refuse(response.status);
 }
 
-void CalendarPush::onAccepted(const CalDavClient::Response &response)
+void CalendarPush::lookAgain(int status)
+{
+    m_session->client()->get(
+        resourceUrl(),
+        m_session->watched(SilenceGuard::SilenceMs, std::bind_front(&CalendarPush::onLookedAgain, this, status)));
+}
+
+void CalendarPush::onLookedAgain(int status, const CalDavClient::Response &response)
+{
+    if (!response.error.isEmpty())
+        return emit failed(m_policy.networkMessage(response.error));
+    const bool isDone = m_kind == Kind::Delete ? isMissing(response.status) : isStored(response);
+    if (isDone)
+        onAccepted();
+    else
+        refuse(status);
+}
+
+/// The resource is of our UID, and no longer what it was. Its text may differ from what was sent: a server that
+/// gives no etag may have changed it.
+bool CalendarPush::isStored(const CalDavClient::Response &response) const
+{
+    if (!response.isSuccess() || !response.isWhole || !m_current->isIn(response.body))
+        return false;
+    const QString etag = CalDavPath::etagFromHeader(response.header("ETag"));
+    return m_kind == Kind::Create || response.body == m_body
+        || (!m_etag.isEmpty() && !etag.isEmpty() && etag != m_etag);
+}
+
+void CalendarPush::onAccepted()
 {
     if (m_kind != Kind::Delete)
-        m_current->accepted(m_href, CalDavPath::etagFromHeader(response.header("ETag")));
+        m_current->accepted(m_href, m_newEtag);
     else if (!m_current->deleted())
         qCWarning(caldavLog).noquote() << "[CalDav] hardDelete failed for" << m_current->title
                                        << "id=" << m_current->id;

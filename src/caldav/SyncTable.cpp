@@ -138,6 +138,12 @@ public:
         return composed;
     }
 
+    [[nodiscard]] bool isIn(const QByteArray &text) const override
+    {
+        const QList<Record> records = Kind::parse(QString::fromUtf8(text));
+        return std::ranges::find(records, uid, &Record::uid) != records.end();
+    }
+
     void accepted(const QString &newHref, const QString &newEtag) override
     {
         const SyncWrites origin(m_database);

@@ -41,7 +41,7 @@ private slots:
     void nothingIsLost()
     {
         QFETCH(const bool, isStored);
-        const int requests = requestsOfARun();
+        const int requests = SyncWorld::requestsOfASync();
         QVERIFY(requests >= 10);
         for (int index = 0; index < requests; ++index) {
             SyncWorld world;
@@ -61,14 +61,6 @@ private slots:
     }
 
 private:
-    static int requestsOfARun()
-    {
-        SyncWorld world;
-        const int before = world.server.requestCount();
-        world.device.sync();
-        return world.server.requestCount() - before;
-    }
-
     static void killAtRequest(SyncWorld &world, int count)
     {
         QProcess program;

@@ -103,7 +103,7 @@ HttpServer::Reply FakeCalDav::answer(const HttpServer::Request &request)
 HttpServer::Reply FakeCalDav::act(const HttpServer::Request &request)
 {
     const QByteArray path = QByteArray::fromPercentEncoding(request.target);
-    const QByteArray collection = QString::fromUtf16(CalendarPath).toUtf8();
+    const QByteArray collection = QByteArray(CalendarPath);
     if (request.method == "PROPFIND")
         return propfind(request);
     if (request.method == "REPORT")
@@ -124,7 +124,7 @@ HttpServer::Reply FakeCalDav::act(const HttpServer::Request &request)
 
 HttpServer::Reply FakeCalDav::propfind(const HttpServer::Request &request) const
 {
-    const QByteArray collection = QString::fromUtf16(CalendarPath).toUtf8();
+    const QByteArray collection = QByteArray(CalendarPath);
     QByteArray body;
     if (request.body.contains("current-user-principal"))
         body =
@@ -143,7 +143,7 @@ HttpServer::Reply FakeCalDav::propfind(const HttpServer::Request &request) const
 
 HttpServer::Reply FakeCalDav::report(const HttpServer::Request &request) const
 {
-    const QByteArray collection = QString::fromUtf16(CalendarPath).toUtf8();
+    const QByteArray collection = QByteArray(CalendarPath);
     QByteArray body;
     if (request.body.contains("calendar-multiget")) {
         static const QRegularExpression href(QStringLiteral("<d:href>(.*?)</d:href>"));
@@ -170,7 +170,7 @@ QByteArray FakeCalDav::listed(const QByteArray &name, bool withText) const
     QByteArray properties = "<D:getetag>\"" + QByteArray::number(object.version) + "\"</D:getetag>";
     if (withText)
         properties += "<C:calendar-data>" + xmlEscaped(object.text) + "</C:calendar-data>";
-    return response(QString::fromUtf16(CalendarPath).toUtf8() + name.toPercentEncoding("/:@"), properties);
+    return response(QByteArray(CalendarPath) + name.toPercentEncoding("/:@"), properties);
 }
 
 bool FakeCalDav::matches(const HttpServer::Request &request, const QByteArray &name) const

@@ -46,6 +46,14 @@ SyncWorld::SyncWorld()
     server.remove("gone-there.ics");
 }
 
+int SyncWorld::requestsOfASync()
+{
+    SyncWorld world;
+    const int before = world.server.requestCount();
+    world.device.sync();
+    return world.server.requestCount() - before;
+}
+
 bool SyncWorld::serverSays(const QByteArray &name, const QByteArray &line) const
 {
     return server.text(name + ".ics").contains(line);

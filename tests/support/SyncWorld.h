@@ -11,6 +11,8 @@ struct SyncWorld {
     SyncDevice device{ server.calendarUrl() };
 
     SyncWorld();
+    /// How many requests an undisturbed sync makes.
+    static int requestsOfASync();
 
     /// What the user wrote that is neither with the server nor still here and waiting.
     QStringList lost();
