@@ -41,7 +41,7 @@ DateTimePicker::DateTimePicker(Qt::DayOfWeek firstDayOfWeek, QWidget *parent)
     m_time->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_time->setMinimumContentsLength(TimeChars);
     m_time->setCompleter(nullptr); // "9" is a time, and not the beginning of "9:15 PM"
-    m_time->lineEdit()->installEventFilter(this);
+    m_time->installEventFilter(this); // it has the focus, and not its line edit
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_date, 3);
@@ -92,7 +92,7 @@ void DateTimePicker::setDateOnly(bool dateOnly)
     m_dateOnly = dateOnly;
     m_time->setVisible(!dateOnly);
     if (m_reference)
-        holdBehindReference();
+        onReferenceChanged();
 }
 
 void DateTimePicker::setUse24Hour(bool use24Hour)
@@ -191,16 +191,17 @@ void DateTimePicker::onTimeCommit()
 
 bool DateTimePicker::eventFilter(QObject *watched, QEvent *event)
 {
-    // Return takes over what was typed, and is not yet meant for the form's default button.
-    if (event->type() == QEvent::KeyPress && watched == m_time->lineEdit()) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        const bool isTyped = m_time->lineEdit()->isModified();
-        if ((key == Qt::Key_Return || key == Qt::Key_Enter) && isTyped) {
-            onTimeCommit();
-            return true;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+    if (!isKey || watched != m_time || !m_time->lineEdit()->isModified())
+        return QWidget::eventFilter(watched, event);
+    const auto *press = static_cast<QKeyEvent *>(event);
+    if (press->key() != Qt::Key_Return && press->key() != Qt::Key_Enter)
+        return QWidget::eventFilter(watched, event);
+    // Return takes over what was typed, and is not yet meant for the form's default button. With Ctrl it
+    // stores the form, which leaves the focus where it is: the shortcut finds the time taken over.
+    if (event->type() == QEvent::KeyPress || (press->modifiers() & Qt::ControlModifier))
+        onTimeCommit();
+    return event->type() == QEvent::KeyPress;
 }
 
 std::optional<QTime> DateTimePicker::parseTimeText(const QString &text)

@@ -17,10 +17,10 @@ QComboBox *timeBox(const DateTimePicker &picker)
 
 void type(DateTimePicker &picker, const QString &text)
 {
-    QLineEdit *edit = timeBox(picker)->lineEdit();
-    edit->clear();
-    QTest::keyClicks(edit, text);
-    QTest::keyClick(edit, Qt::Key_Return);
+    QComboBox *box = timeBox(picker); // has the focus, and hands the keys on
+    box->lineEdit()->clear();
+    QTest::keyClicks(box, text);
+    QTest::keyClick(box, Qt::Key_Return);
 }
 
 }
