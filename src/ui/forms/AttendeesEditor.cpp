@@ -71,6 +71,7 @@ void AttendeesEditor::addRow(const Attendee &attendee)
     layout->addWidget(row.email, 3);
     layout->addWidget(remove);
     m_column->insertWidget(m_column->count() - 1, row.widget);
+    setTabStopsBefore(m_add, { row.name, row.email, remove });
     m_rows.append(row);
 }
 

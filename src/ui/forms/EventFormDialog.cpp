@@ -98,13 +98,16 @@ void EventFormDialog::buildLayout()
     if (!m_isReadOnly)
         body()->addWidget(makeHint(m_isNew ? tr("Fill in the basics. Start time and calendar are required.")
                                            : tr("Update the details below and save to apply.")));
-    if (!m_isNew && m_shown.isRecurring())
+    if (!m_isReadOnly && m_shown.isSeries())
         body()->addWidget(makeHint(tr("Changes apply to all events in the series.")));
+    if (m_shown.isOverride())
+        body()->addWidget(makeHint(tr("This is one event of a series, changed on its own.")));
 
     m_title = new QLineEdit;
     m_title->setPlaceholderText(tr("Lunch with Sarah, sprint planning…"));
     m_color = new ColorField(tr("Event color"));
     m_repeat = new RecurrenceButton(m_state->firstDayOfWeek());
+    m_repeat->setEnabled(!m_shown.isOverride()); // one event of a series does not repeat
     m_location = new QLineEdit;
     m_location->setPlaceholderText(tr("Address, room, or video link"));
     m_attendees = new AttendeesEditor;
@@ -198,8 +201,7 @@ void EventFormDialog::setInitialStart(const QDateTime &start, int minutes)
     m_start->setDateTime(start);
     m_end->setDateTime(start.addSecs(qint64(minutes) * 60));
     m_repeat->setStartDate(m_start->date());
-    m_lengthSecs = qint64(minutes) * 60;
-    m_lengthDays = m_start->date().daysTo(m_end->date());
+    rememberLength();
     m_baseline = edited();
 }
 
@@ -248,10 +250,7 @@ void EventFormDialog::prefillTimes(const Event &event)
     }
     m_allDay->setChecked(event.isAllDay);
     m_repeat->setStartDate(m_start->date());
-    m_lengthSecs = std::max<qint64>(0, m_start->dateTime().secsTo(m_end->dateTime()));
-    m_lengthDays = m_start->date().daysTo(m_end->date());
-    if (event.isAllDay)
-        m_lengthSecs = DefaultLengthSecs;
+    rememberLength();
 }
 
 void EventFormDialog::setReadOnly()
@@ -275,6 +274,15 @@ void EventFormDialog::onAllDayToggled(bool allDay)
     m_end->setDateOnly(allDay);
     if (!allDay && m_end->dateTime() <= m_start->dateTime())
         m_end->setDateTime(m_start->dateTime().addSecs(DefaultLengthSecs));
+    rememberLength();
+}
+
+// The days of a timed event and the hours of an all-day one wait for the other kind.
+void EventFormDialog::rememberLength()
+{
+    m_lengthDays = m_start->date().daysTo(m_end->date());
+    if (!m_allDay->isChecked())
+        m_lengthSecs = m_start->dateTime().secsTo(m_end->dateTime());
 }
 
 // The end goes along, so that the event keeps its length.
@@ -290,9 +298,7 @@ void EventFormDialog::onStartChanged()
 void EventFormDialog::onEndChanged()
 {
     m_isEndTouched = true;
-    m_lengthDays = m_start->date().daysTo(m_end->date());
-    if (!m_allDay->isChecked())
-        m_lengthSecs = m_start->dateTime().secsTo(m_end->dateTime());
+    rememberLength();
 }
 
 void EventFormDialog::openTemplatePicker()
@@ -335,7 +341,7 @@ void EventFormDialog::applyTemplate(const EventTemplate &eventTemplate)
     }
     if (!eventTemplate.reminders.isEmpty())
         m_reminders->setMinutes(eventTemplate.reminders);
-    if (!eventTemplate.recurrenceRule.isEmpty())
+    if (!eventTemplate.recurrenceRule.isEmpty() && m_repeat->isEnabled())
         m_repeat->setRule(RuleEnd::asDay(eventTemplate.recurrenceRule));
 }
 

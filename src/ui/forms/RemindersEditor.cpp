@@ -109,6 +109,7 @@ void RemindersEditor::addRow(int minutes)
     layout->addWidget(combo, 1);
     layout->addWidget(remove);
     m_column->insertWidget(m_column->count() - 1, row);
+    setTabStopsBefore(m_add, { combo, remove });
     m_rows.append(combo);
 }
 

@@ -11,6 +11,7 @@
 #include "ui/forms/RecurrenceButton.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QtTest>
 
@@ -153,6 +154,74 @@ private slots:
         QCOMPARE(form.edited().recurrenceRule, u"FREQ=DAILY;UNTIL="_qs + until);
         named<QCheckBox>(form, QStringLiteral("All day"))->setChecked(true);
         QCOMPARE(form.edited().recurrenceRule, u"FREQ=DAILY;UNTIL=20260510"_qs);
+    }
+
+    void returnTakesOverATypedTime_data()
+    {
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+        QTest::addColumn<bool>("stores");
+        QTest::newRow("Return") << Qt::KeyboardModifiers() << false;
+        QTest::newRow("Ctrl+Return") << Qt::KeyboardModifiers(Qt::ControlModifier) << true;
+    }
+    void returnTakesOverATypedTime()
+    {
+        QFETCH(Qt::KeyboardModifiers, modifiers);
+        EventFormDialog form(m_state->state(), nullptr);
+        form.setInitialStart(QDateTime(May1, QTime(9, 0)), 60);
+        title(form)->setText(QStringLiteral("Dentist"));
+        form.show();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        auto *time = picker(form, 0)->findChild<QComboBox *>();
+        time->setFocus();
+        time->lineEdit()->selectAll();
+        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("15:30"));
+        QTest::keyClick(form.windowHandle(), Qt::Key_Return, modifiers);
+        QTEST(!form.isVisible(), "stores");
+        const Event event = form.isVisible() ? form.edited() : stored(*m_state, form.eventId());
+        QCOMPARE(event.startTime, QDateTime(May1, QTime(15, 30)));
+    }
+
+    void tabVisitsRowsAsTheyStand()
+    {
+        Event event =
+            m_state->addEvent(QStringLiteral("Call"), QDateTime(May1, QTime(9, 0)), QDateTime(May1, QTime(10, 0)));
+        Attendee ann;
+        ann.email = QStringLiteral("ann@example.org");
+        event.attendees = { ann, ann };
+        event.reminders = { Reminder(), Reminder() };
+        EventFormDialog form(m_state->state(), event, nullptr);
+        form.show();
+        QList<int> tops;
+        for (QWidget *w = form.nextInFocusChain(); w != &form; w = w->nextInFocusChain()) {
+            if (w->isVisibleTo(&form) && (w->focusPolicy() & Qt::TabFocus) && !w->focusProxy())
+                tops.append(w->mapTo(&form, w->rect().center()).y() / 8); // of one row if a few pixels apart
+        }
+        QVERIFY(tops.size() > 20);
+        QVERIFY(std::is_sorted(tops.cbegin(), tops.cend()));
+    }
+
+    void hoursKeepTheDaysThatAWholeDayEventGot()
+    {
+        EventFormDialog form(m_state->state(), nullptr);
+        form.setInitialStart(QDateTime(May1, QTime(9, 0)), 60);
+        auto *allDay = named<QCheckBox>(form, QStringLiteral("All day"));
+        allDay->setChecked(true);
+        picker(form, 1)->setDate(May1.addDays(2));
+        emit picker(form, 1)->dateTimeChanged({});
+        allDay->setChecked(false);
+        picker(form, 0)->setDate(May1.addDays(1));
+        emit picker(form, 0)->dateTimeChanged({});
+        QCOMPARE(*form.edited().endTime, QDateTime(May1.addDays(3), QTime(10, 0)));
+    }
+
+    void oneEventOfASeriesDoesNotRepeat()
+    {
+        Event event =
+            m_state->addEvent(QStringLiteral("Call"), QDateTime(May1, QTime(9, 0)), QDateTime(May1, QTime(10, 0)));
+        event.masterEventUid = QStringLiteral("series");
+        event.recurrenceId = QStringLiteral("20260501T090000Z");
+        EventFormDialog form(m_state->state(), event, nullptr);
+        QVERIFY(!form.findChild<RecurrenceButton *>()->isEnabled());
     }
 
     void readOnlyEventsAreForReading()
