@@ -127,7 +127,7 @@ Outcome FormSave::run()
     const bool isRetimed = m_row.startTime != m_base.startTime || m_row.endTime != m_base.endTime;
     if (const QString why = EventTimes::problem(m_row); isRetimed && !why.isEmpty())
         return refused(why);
-    if (m_row == m_base && !moves())
+    if (m_stored && m_row == m_base && !moves())
         return done(m_row.id);
 
     EventUndo::Change change;
