@@ -105,7 +105,9 @@ void DateTimePicker::setReadOnly(bool readOnly)
 {
     m_date->setReadOnly(readOnly);
     m_date->setButtonSymbols(readOnly ? QAbstractSpinBox::NoButtons : QAbstractSpinBox::UpDownArrows);
-    m_time->setEnabled(!readOnly);
+    m_isReadOnly = readOnly;
+    m_time->lineEdit()->setReadOnly(readOnly);
+    populateTimeOptions();
 }
 
 void DateTimePicker::setAccessibleNames(const QString &date, const QString &time)
@@ -149,7 +151,7 @@ void DateTimePicker::populateTimeOptions()
     m_time->clear();
     const bool isSameDay = m_reference && m_reference->date() == m_date->date() && !m_reference->isDateOnly();
     const QTime from = isSameDay ? m_reference->dateTime().time() : QTime(0, 0);
-    for (int minute = 0; minute < MinutesPerDay; minute += StepMinutes) {
+    for (int minute = 0; minute < MinutesPerDay && !m_isReadOnly; minute += StepMinutes) {
         const QTime time = QTime(0, 0).addSecs(minute * 60);
         if (isSameDay && time < from)
             continue;
@@ -195,6 +197,10 @@ bool DateTimePicker::eventFilter(QObject *watched, QEvent *event)
     if (!isKey || watched != m_time || !m_time->lineEdit()->isModified())
         return QWidget::eventFilter(watched, event);
     const auto *press = static_cast<QKeyEvent *>(event);
+    if (press->key() == Qt::Key_Escape && event->type() == QEvent::KeyPress) {
+        showTime(); // takes back what was typed, and closes the form only the next time
+        return true;
+    }
     if (press->key() != Qt::Key_Return && press->key() != Qt::Key_Enter)
         return QWidget::eventFilter(watched, event);
     // Return takes over what was typed, and is not yet meant for the form's default button. With Ctrl it

@@ -9,6 +9,7 @@
 #include "models/EventTemplate.h"
 #include "storage/CalendarRepository.h"
 #include "storage/TemplateRepository.h"
+#include "ui/dialogs/PlainText.h"
 #include "ui/dialogs/Prompt.h"
 #include "ui/forms/AttendeesEditor.h"
 #include "ui/forms/CalendarCombo.h"
@@ -181,7 +182,7 @@ void EventFormDialog::populateCalendars()
     const QList<Calendar> calendars = m_state->calendars()->getAll();
     for (const Calendar &calendar : calendars) {
         const bool isOwn = !m_isNew && calendar.id == m_shown.calendarId;
-        if (!isOwn && (!calendar.isVisible || calendar.isReadOnly))
+        if (!isOwn && (!calendar.isVisible || calendar.isReadOnly || m_isReadOnly))
             continue;
         offered.append(calendar);
         if (calendar.isDefault && preferred.isEmpty())
@@ -229,9 +230,9 @@ void EventFormDialog::prefill(const Event &event)
     m_notes->document()->setModified(false);
     const QByteArray zone = event.timezone.toUtf8();
     if (!event.isAllDay && zone != "UTC" && zone != QTimeZone::systemTimeZoneId())
-        body()->insertWidget(
-            body()->count() - 1,
-            makeHint(tr("Times are shown as your clock has them. The event is planned in %1.").arg(event.timezone)));
+        body()->insertWidget(body()->count() - 1,
+                             makeHint(tr("Times are shown as your clock has them. The event is planned in %1.")
+                                          .arg(PlainText::breakLongWords(event.timezone))));
 }
 
 void EventFormDialog::prefillTimes(const Event &event)
@@ -259,8 +260,13 @@ void EventFormDialog::setReadOnly()
     m_title->setReadOnly(true);
     m_location->setReadOnly(true);
     m_notes->setReadOnly(true);
-    for (QWidget *widget : QList<QWidget *>{ m_calendar, m_templates, m_color, m_allDay, m_repeat })
+    for (QWidget *widget : QList<QWidget *>{ m_color, m_allDay })
         widget->setEnabled(false);
+    m_templates->hide();
+    // As a label: the text of a disabled button is hard to read.
+    auto *repeats = makeHint(m_repeat->text());
+    delete body()->replaceWidget(m_repeat, repeats);
+    m_repeat->hide();
     m_start->setReadOnly(true);
     m_end->setReadOnly(true);
     m_attendees->setReadOnly(true);

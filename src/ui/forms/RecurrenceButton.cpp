@@ -6,6 +6,12 @@
 
 #include <QMenu>
 
+namespace {
+
+constexpr int MaxChars = 90;
+
+}
+
 RecurrenceButton::RecurrenceButton(Qt::DayOfWeek firstDayOfWeek, QWidget *parent)
     : QPushButton(parent)
     , m_firstDayOfWeek(firstDayOfWeek)
@@ -48,6 +54,10 @@ void RecurrenceButton::change(const QString &rule)
 
 void RecurrenceButton::refresh()
 {
-    const QString text = RruleFormat::humanReadable(m_rule);
+    QString text = RruleFormat::humanReadable(m_rule);
+    const bool isLong = text.size() > MaxChars;
+    setToolTip(isLong ? Theme::plainToolTip(text) : QString());
+    if (isLong) // a foreign rule must not make the form wider than the screen
+        text = text.left(MaxChars) + u'…';
     setText(text.isEmpty() ? tr("Does not repeat") : Theme::plainLabel(text));
 }

@@ -5,6 +5,7 @@
 #include "storage/PreferencesRepository.h"
 #include "support/ScratchState.h"
 #include "ui/dialogs/Prompt.h"
+#include "ui/forms/AttendeesEditor.h"
 #include "ui/forms/CalendarCombo.h"
 #include "ui/forms/DateTimePicker.h"
 #include "ui/forms/EventFormDialog.h"
@@ -212,6 +213,20 @@ private slots:
         picker(form, 0)->setDate(May1.addDays(1));
         emit picker(form, 0)->dateTimeChanged({});
         QCOMPARE(*form.edited().endTime, QDateTime(May1.addDays(3), QTime(10, 0)));
+    }
+
+    void anAnswerBelongsToItsAddress()
+    {
+        AttendeesEditor editor;
+        Attendee ann;
+        ann.email = QStringLiteral("ann@example.org");
+        ann.status = QStringLiteral("accepted");
+        editor.setAttendees({ ann });
+        QLineEdit *address = editor.findChildren<QLineEdit *>().at(1);
+        address->setText(QStringLiteral("Ann@example.org"));
+        QCOMPARE(editor.attendees().at(0).status, ann.status);
+        address->setText(QStringLiteral("bob@example.org"));
+        QCOMPARE(editor.attendees().at(0).status, Attendee().status);
     }
 
     void oneEventOfASeriesDoesNotRepeat()
