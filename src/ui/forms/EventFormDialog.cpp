@@ -419,8 +419,7 @@ bool EventFormDialog::save()
     const EventEdits::Outcome outcome =
         m_isNew ? EventEdits::create(m_state, event) : EventEdits::save(m_state, m_baseline, event);
     if (!outcome.ok) {
-        Prompt::warning(this, tr("Database Error"),
-                        outcome.why.isEmpty() ? tr("Could not save the event.") : outcome.why);
+        Prompt::warning(this, outcome.isFailure ? tr("Database Error") : tr("Not saved"), outcome.why);
         return false;
     }
     if (m_isNew)

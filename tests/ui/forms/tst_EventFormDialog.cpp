@@ -91,6 +91,39 @@ private slots:
         QCOMPARE(answers.asked.last().text, u"Create a calendar first."_qs);
     }
 
+    void aSeriesHasAFirstEvent_data()
+    {
+        QTest::addColumn<bool>("isAllDay");
+        QTest::addColumn<QString>("until");
+        QTest::addColumn<bool>("isStored");
+        QTest::newRow("the day before") << false << u"20260430"_qs << false;
+        QTest::newRow("that day") << false << u"20260501"_qs << true;
+        QTest::newRow("all day, the day before") << true << u"20260430"_qs << false;
+        QTest::newRow("all day, that day") << true << u"20260501"_qs << true;
+    }
+    void aSeriesHasAFirstEvent()
+    {
+        QFETCH(bool, isAllDay);
+        QFETCH(QString, until);
+        QFETCH(bool, isStored);
+        Prompt::ScopedAnswers answers;
+        EventFormDialog form(m_state->state(), nullptr);
+        form.setInitialStart(QDateTime(May1, QTime(9, 0)), 60);
+        title(form)->setText(QStringLiteral("Standup"));
+        named<QCheckBox>(form, QStringLiteral("All day"))->setChecked(isAllDay);
+        form.findChild<RecurrenceButton *>()->setRule(u"FREQ=DAILY;UNTIL="_qs + until);
+        form.accept();
+        QCOMPARE(!form.eventId().isEmpty(), isStored);
+        QCOMPARE(answers.asked.size(), isStored ? 0 : 1);
+        const Event event =
+            m_state->addEvent(QStringLiteral("Call"), QDateTime(May1, QTime(9, 0)), QDateTime(May1, QTime(10, 0)));
+        EventFormDialog edit(m_state->state(), event, nullptr);
+        named<QCheckBox>(edit, QStringLiteral("All day"))->setChecked(isAllDay);
+        edit.findChild<RecurrenceButton *>()->setRule(u"FREQ=DAILY;UNTIL="_qs + until);
+        edit.accept();
+        QCOMPARE(!edit.eventId().isEmpty(), isStored);
+    }
+
     void aNewEventIsStoredAsAnInstant()
     {
         const QString other = m_state->addCalendar(QStringLiteral("Other"));
