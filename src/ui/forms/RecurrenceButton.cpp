@@ -5,10 +5,13 @@
 #include "ui/theme/Theme.h"
 
 #include <QMenu>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 
 namespace {
 
-constexpr int MaxChars = 90;
+constexpr int MaxChars = 90; // what it asks for at most, however long the rule
+constexpr int MinChars = 30;
 
 }
 
@@ -17,6 +20,7 @@ RecurrenceButton::RecurrenceButton(Qt::DayOfWeek firstDayOfWeek, QWidget *parent
     , m_firstDayOfWeek(firstDayOfWeek)
 {
     setAutoDefault(false);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setStyleSheet(QStringLiteral("text-align: left;"));
     connect(this, &QPushButton::clicked, this, &RecurrenceButton::onClicked);
     refresh();
@@ -26,6 +30,25 @@ void RecurrenceButton::setRule(const QString &rule)
 {
     m_rule = rule;
     refresh();
+}
+
+QSize RecurrenceButton::sizeHint() const
+{
+    return QPushButton::sizeHint().boundedTo({ fontMetrics().averageCharWidth() * MaxChars, QWIDGETSIZE_MAX });
+}
+
+QSize RecurrenceButton::minimumSizeHint() const
+{
+    return sizeHint().boundedTo({ fontMetrics().averageCharWidth() * MinChars, QWIDGETSIZE_MAX });
+}
+
+void RecurrenceButton::paintEvent(QPaintEvent *)
+{
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const int width = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this).width();
+    option.text = fontMetrics().elidedText(option.text, Qt::ElideRight, width, Qt::TextShowMnemonic);
+    QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
 }
 
 void RecurrenceButton::onClicked()
@@ -54,10 +77,7 @@ void RecurrenceButton::change(const QString &rule)
 
 void RecurrenceButton::refresh()
 {
-    QString text = RruleFormat::humanReadable(m_rule);
-    const bool isLong = text.size() > MaxChars;
-    setToolTip(isLong ? Theme::plainToolTip(text) : QString());
-    if (isLong) // a foreign rule must not make the form wider than the screen
-        text = text.left(MaxChars) + u'…';
+    const QString text = RruleFormat::humanReadable(m_rule);
     setText(text.isEmpty() ? tr("Does not repeat") : Theme::plainLabel(text));
+    setToolTip(Theme::plainToolTip(text));
 }

@@ -70,6 +70,7 @@ RecurrenceEditDialog::RecurrenceEditDialog(const QString &initialRule, QDate sta
 
     m_monthDay->setValue(startDate.isValid() ? startDate.day() : 1);
     m_nthDay->setCurrentIndex(startDate.isValid() ? startDate.dayOfWeek() - 1 : 0);
+    m_nth->setCurrentIndex(startDate.isValid() ? (startDate.day() - 1) / 7 : 0); // a fifth one is the last
     m_until->setDate((startDate.isValid() ? startDate : QDate::currentDate()).addMonths(DefaultSpanMonths));
     setupFromInitial(initialRule, startDate);
     followControls();

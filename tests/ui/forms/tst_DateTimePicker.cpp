@@ -66,6 +66,9 @@ private slots:
         type(picker, QStringLiteral("whenever"));
         QCOMPARE(picker.dateTime(), QDateTime(May1, QTime(16, 20)));
         QCOMPARE(timeBox(picker)->currentText(), QStringLiteral("4:20 PM"));
+        QTest::keyClicks(timeBox(picker), QStringLiteral("5"));
+        QTest::keyClick(timeBox(picker), Qt::Key_Escape);
+        QCOMPARE(timeBox(picker)->currentText(), QStringLiteral("4:20 PM"));
     }
 
     void staysBehindItsReference()
