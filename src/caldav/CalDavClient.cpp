@@ -19,6 +19,9 @@
 namespace {
 
 constexpr int MaxRedirects = 5;
+// Qt takes an answer above this size for a bomb if it was packed 40 times smaller. Events that repeat the rules of
+// their time zone are.
+constexpr qint64 MaxSuspectBytes = 256 * 1024 * 1024;
 
 using Headers = QList<std::pair<QByteArray, QByteArray>>;
 
@@ -180,17 +183,22 @@ CalDavClient::UntrustedCertInfo CalDavClient::pendingUntrustedCert() const
 
 void CalDavClient::propfind(const QUrl &url, const QByteArray &body, int depth, Callback callback)
 {
-    send({ .verb = "PROPFIND", .url = url, .body = body, .headers = depthHeader(depth), .callback = callback });
+    send({ .verb = "PROPFIND",
+           .url = url,
+           .body = body,
+           .headers = depthHeader(depth),
+           .callback = std::move(callback) });
 }
 
 void CalDavClient::report(const QUrl &url, const QByteArray &body, int depth, Callback callback)
 {
-    send({ .verb = "REPORT", .url = url, .body = body, .headers = depthHeader(depth), .callback = callback });
+    send(
+        { .verb = "REPORT", .url = url, .body = body, .headers = depthHeader(depth), .callback = std::move(callback) });
 }
 
 void CalDavClient::get(const QUrl &url, Callback callback)
 {
-    send({ .verb = "GET", .url = url, .body = {}, .headers = {}, .callback = callback });
+    send({ .verb = "GET", .url = url, .body = {}, .headers = {}, .callback = std::move(callback) });
 }
 
 void CalDavClient::put(const QUrl &url, const QByteArray &body, const QString &contentType, Callback callback,
@@ -199,22 +207,22 @@ void CalDavClient::put(const QUrl &url, const QByteArray &body, const QString &c
     Headers headers = ifMatchHeader(etag);
     if (!contentType.isEmpty())
         headers.append({ "Content-Type", contentType.toUtf8() });
-    send({ .verb = "PUT", .url = url, .body = body, .headers = headers, .callback = callback });
+    send({ .verb = "PUT", .url = url, .body = body, .headers = headers, .callback = std::move(callback) });
 }
 
 void CalDavClient::del(const QUrl &url, Callback callback, const std::optional<QString> &etag)
 {
-    send({ .verb = "DELETE", .url = url, .body = {}, .headers = ifMatchHeader(etag), .callback = callback });
+    send({ .verb = "DELETE", .url = url, .body = {}, .headers = ifMatchHeader(etag), .callback = std::move(callback) });
 }
 
 void CalDavClient::mkcalendar(const QUrl &url, const QByteArray &body, Callback callback)
 {
-    send({ .verb = "MKCALENDAR", .url = url, .body = body, .headers = {}, .callback = callback });
+    send({ .verb = "MKCALENDAR", .url = url, .body = body, .headers = {}, .callback = std::move(callback) });
 }
 
 void CalDavClient::proppatch(const QUrl &url, const QByteArray &body, Callback callback)
 {
-    send({ .verb = "PROPPATCH", .url = url, .body = body, .headers = {}, .callback = callback });
+    send({ .verb = "PROPPATCH", .url = url, .body = body, .headers = {}, .callback = std::move(callback) });
 }
 
 void CalDavClient::abort()
@@ -248,6 +256,7 @@ QNetworkReply *CalDavClient::sendRaw(const Request &request)
     // Its own policies turn a PUT into a GET and report success.
     raw.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     raw.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
+    raw.setDecompressedSafetyCheckThreshold(MaxSuspectBytes);
     if (!request.body.isEmpty()) {
         raw.setHeader(QNetworkRequest::ContentTypeHeader, QByteArrayLiteral("application/xml; charset=utf-8"));
         raw.setHeader(QNetworkRequest::ContentLengthHeader, request.body.size());
@@ -259,6 +268,7 @@ QNetworkReply *CalDavClient::sendRaw(const Request &request)
         raw.setRawHeader(name, value);
     if (request.verb == "GET")
         return m_manager->sendCustomRequest(raw, request.verb);
+    // What is only read may be asked for again.
     if (request.verb == "PROPFIND" || request.verb == "REPORT")
         return m_manager->sendCustomRequest(raw, request.verb, request.body);
     auto *body = new OneTimeBody(request.body, this);
