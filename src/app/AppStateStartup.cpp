@@ -6,6 +6,8 @@
 #include "app/state/Platform.h"
 #include "calendar/services/TimeFormat.h"
 #include "calendar/services/VisibleEvents.h"
+#include "sync/ConflictResolutionService.h"
+#include "sync/SyncScheduler.h"
 #include "ui/theme/ThemeManager.h"
 
 bool AppState::initialize()
@@ -19,6 +21,7 @@ bool AppState::initialize()
     m_theme->applyStoredMode();
 
     setVisibleEvents(new VisibleEvents(this, this));
+    setSyncServices(new SyncScheduler(this, this), new Sync::ConflictResolutionService(this, this));
     TimeFormat::initializeFromLocale(this);
     seedDefaultCalendarIfMissing();
     runOneOffRepairs();

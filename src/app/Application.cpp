@@ -8,6 +8,7 @@
 #include "app/state/Platform.h"
 #include "storage/EventRepository.h"
 #include "storage/PreferencesRepository.h"
+#include "sync/SyncScheduler.h"
 #include "ui/MainWindow.h"
 #include "ui/dialogs/FeedbackDialog.h"
 #include "ui/dialogs/ManualUpdateCheck.h"
@@ -165,6 +166,7 @@ int Application::run()
 void Application::begin()
 {
     showFirstWindow();
+    m_appState->syncScheduler()->start();
     if (hasInitialCommand())
         replayInitialCommand();
     else if (m_mainWindow->isVisible())

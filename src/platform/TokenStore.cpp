@@ -5,11 +5,11 @@
 
 #include <QDebug>
 
-#include <utility>
+#include <atomic>
 
 namespace QuillonAccount {
 
-std::unique_ptr<TokenStore> TokenStore::create(const QString &appId)
+std::unique_ptr<TokenStore> TokenStore::create(const QString &appId, Unlock unlock)
 {
     const QString choice = qEnvironmentVariable("CALENDAR_TOKEN_STORE");
     const QString filePrefix = QStringLiteral("file:");
@@ -19,9 +19,9 @@ std::unique_ptr<TokenStore> TokenStore::create(const QString &appId)
     std::unique_ptr<TokenStore> store;
     // A setting that cannot be read must not put secrets where the user did not ask for them.
     if (choice.isEmpty())
-        store = openSecretService(appId);
-    static bool warned = false;
-    if (!store && !std::exchange(warned, true)) {
+        store = openSecretService(appId, unlock);
+    static std::atomic_bool warned = false;
+    if (!store && !warned.exchange(true)) {
         qWarning().noquote() << "[TokenStore] no secret store can be reached; passwords and sign-ins are not kept"
                              << (choice.isEmpty() ? QString()
                                                   : QStringLiteral("(CALENDAR_TOKEN_STORE=%1)").arg(choice));

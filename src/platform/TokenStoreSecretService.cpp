@@ -12,6 +12,7 @@ namespace QuillonAccount {
 namespace {
 
 constexpr guint CallTimeoutMs = 3000;
+constexpr guint PromptTimeoutMs = 120'000;
 
 const SecretSchema *schema()
 {
@@ -46,11 +47,11 @@ public:
     ~PrivateContext() { g_main_context_unref(m_context); }
     Q_DISABLE_COPY_MOVE(PrivateContext)
 
-    /// Runs an asynchronous call to its end, or cancels it after CallTimeoutMs.
-    template <typename Start> ObjectPtr<GAsyncResult> run(Start start)
+    /// Runs an asynchronous call to its end, or cancels it.
+    template <typename Start> ObjectPtr<GAsyncResult> run(Start start, guint timeoutMs = CallTimeoutMs)
     {
         const ObjectPtr<GCancellable> cancellable(g_cancellable_new());
-        GSource *timeout = g_timeout_source_new(CallTimeoutMs);
+        GSource *timeout = g_timeout_source_new(timeoutMs);
         g_source_set_callback(timeout, &PrivateContext::onTimeout, cancellable.get(), nullptr);
         g_source_attach(timeout, m_context);
         g_main_context_push_thread_default(m_context);
@@ -80,8 +81,9 @@ private:
 
 class SecretServiceStore : public TokenStore {
 public:
-    explicit SecretServiceStore(const QString &appId)
+    SecretServiceStore(const QString &appId, Unlock unlock)
         : m_appId(appId.toUtf8())
+        , m_mayAsk(unlock == Unlock::Wait)
     {
     }
 
@@ -100,9 +102,11 @@ private:
     /// Calls \p visit with each item of this key, until it returns false. False if the service failed.
     template <typename Visit> bool search(const QByteArray &key, int flags, Visit visit);
     bool isDefaultCollectionOpen();
+    [[nodiscard]] guint timeoutMs() const { return m_mayAsk ? PromptTimeoutMs : CallTimeoutMs; }
 
     PrivateContext m_context;
     QByteArray m_appId;
+    bool m_mayAsk;
     ObjectPtr<SecretService> m_service;
 };
 
@@ -130,10 +134,13 @@ SecretServiceStore::Attributes SecretServiceStore::attributes(const QByteArray &
 template <typename Visit> bool SecretServiceStore::search(const QByteArray &key, int flags, Visit visit)
 {
     const Attributes wanted = attributes(key);
-    const auto result = m_context.run([&](GCancellable *cancellable, GAsyncReadyCallback done, gpointer data) {
-        secret_service_search(m_service.get(), schema(), wanted.get(), static_cast<SecretSearchFlags>(flags),
-                              cancellable, done, data);
-    });
+    const int unlocking = m_mayAsk ? SECRET_SEARCH_UNLOCK : SECRET_SEARCH_NONE;
+    const auto result = m_context.run(
+        [&](GCancellable *cancellable, GAsyncReadyCallback done, gpointer data) {
+            secret_service_search(m_service.get(), schema(), wanted.get(),
+                                  static_cast<SecretSearchFlags>(flags | unlocking), cancellable, done, data);
+        },
+        timeoutMs());
     ErrorHolder holder;
     GList *items = secret_service_search_finish(m_service.get(), result.get(), &holder.error);
     if (holder.error) {
@@ -145,27 +152,13 @@ template <typename Visit> bool SecretServiceStore::search(const QByteArray &key,
     return true;
 }
 
-/// Lets the desktop ask for its password, once in a run and without waiting: later calls find it open.
-void askToUnlock(const QByteArray &appId, const QByteArray &key)
-{
-    static bool asked = false;
-    if (std::exchange(asked, true))
-        return;
-    qWarning() << "[TokenStore] the secret store is locked";
-    secret_password_lookup(schema(), nullptr, nullptr, nullptr, "application", appId.constData(), "key",
-                           key.constData(), nullptr);
-}
-
 std::optional<QString> SecretServiceStore::value(const QString &key)
 {
     const QByteArray keyText = key.toUtf8();
     std::optional<QString> found;
-    bool isLocked = false;
     search(keyText, SECRET_SEARCH_ALL | SECRET_SEARCH_LOAD_SECRETS, [&](SecretItem *item) {
-        if (secret_item_get_locked(item)) {
-            isLocked = true;
+        if (secret_item_get_locked(item))
             return true;
-        }
         if (SecretValue *secret = secret_item_get_secret(item)) {
             gsize length = 0;
             const gchar *text = secret_value_get(secret, &length);
@@ -174,8 +167,6 @@ std::optional<QString> SecretServiceStore::value(const QString &key)
         }
         return !found.has_value();
     });
-    if (!found && isLocked)
-        askToUnlock(m_appId, keyText);
     return found;
 }
 
@@ -195,19 +186,18 @@ bool SecretServiceStore::set(const QString &key, const QString &value)
     const QByteArray keyText = key.toUtf8();
     const QByteArray valueText = value.toUtf8();
     const QByteArray label = "Quillon Calendar (" + keyText + ')';
-    if (!isDefaultCollectionOpen()) {
-        qWarning() << "[TokenStore] the secret store is locked or empty; storing waits for its prompt";
-        secret_password_store(schema(), SECRET_COLLECTION_DEFAULT, label.constData(), valueText.constData(), nullptr,
-                              nullptr, nullptr, "application", m_appId.constData(), "key", keyText.constData(),
-                              nullptr);
+    if (!m_mayAsk && !isDefaultCollectionOpen()) {
+        qWarning() << "[TokenStore] the secret store is locked or empty";
         return false;
     }
     const Attributes wanted = attributes(keyText);
     SecretValue *secret = secret_value_new(valueText.constData(), valueText.size(), "text/plain");
-    const auto result = m_context.run([&](GCancellable *cancellable, GAsyncReadyCallback done, gpointer data) {
-        secret_service_store(m_service.get(), schema(), wanted.get(), SECRET_COLLECTION_DEFAULT, label.constData(),
-                             secret, cancellable, done, data);
-    });
+    const auto result = m_context.run(
+        [&](GCancellable *cancellable, GAsyncReadyCallback done, gpointer data) {
+            secret_service_store(m_service.get(), schema(), wanted.get(), SECRET_COLLECTION_DEFAULT,
+                                 label.constData(), secret, cancellable, done, data);
+        },
+        timeoutMs());
     secret_value_unref(secret);
     ErrorHolder holder;
     const bool stored = secret_service_store_finish(m_service.get(), result.get(), &holder.error);
@@ -224,8 +214,6 @@ bool SecretServiceStore::remove(const QString &key)
         isLocked |= secret_item_get_locked(item) != 0;
         return true;
     });
-    if (isLocked)
-        askToUnlock(m_appId, keyText);
     if (!searched || isLocked)
         return false;
     const Attributes wanted = attributes(keyText);
@@ -241,9 +229,9 @@ bool SecretServiceStore::remove(const QString &key)
 
 }
 
-std::unique_ptr<TokenStore> openSecretService(const QString &appId)
+std::unique_ptr<TokenStore> openSecretService(const QString &appId, TokenStore::Unlock unlock)
 {
-    auto store = std::make_unique<SecretServiceStore>(appId);
+    auto store = std::make_unique<SecretServiceStore>(appId, unlock);
     if (!store->open())
         return nullptr;
     return store;
@@ -255,7 +243,7 @@ std::unique_ptr<TokenStore> openSecretService(const QString &appId)
 
 namespace QuillonAccount {
 
-std::unique_ptr<TokenStore> openSecretService(const QString &)
+std::unique_ptr<TokenStore> openSecretService(const QString &, TokenStore::Unlock)
 {
     return nullptr;
 }

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "storage/ChangeOrigin.h"
+
 #include <QObject>
 #include <QString>
 #include <QTimer>
 
-/// Gathers a burst of writes into one signal: 150 ms after the last one, with the last id.
+/// Gathers a burst of writes into one signal: 150 ms after the last one, with the last id. The user caused it if any
+/// of the writes was the user's.
 class ChangeNotifier : public QObject {
     Q_OBJECT
 
@@ -13,12 +16,13 @@ public:
 
     explicit ChangeNotifier(QObject *parent = nullptr);
 
-    void notify(const QString &calendarId);
+    void notify(const QString &calendarId, ChangeOrigin origin);
 
 signals:
-    void changed(const QString &calendarId);
+    void changed(const QString &calendarId, ChangeOrigin origin);
 
 private:
     QTimer m_timer;
     QString m_calendarId;
+    ChangeOrigin m_origin = ChangeOrigin::Sync;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "storage/ChangeOrigin.h"
+
 #include <QObject>
 #include <QSqlDatabase>
 #include <QStringList>
@@ -19,7 +21,8 @@ public:
     explicit Database(QObject *parent = nullptr);
     ~Database() override;
 
-    /// Opens (or creates) the file at \p path on Qt's default connection, with WAL and foreign keys on.
+    /// Opens (or creates) the file at \p path on Qt's default connection (on one of its
+    /// own if that is in use), with WAL and foreign keys on.
     /// False, with a critical log line, if SQLite refuses.
     bool open(const QString &path);
     [[nodiscard]] bool isOpen() const { return m_isOpen; }
@@ -54,6 +57,10 @@ public:
     /// Deletes calendars; those under removal are no longer there for any reader.
     [[nodiscard]] CalendarRemovals *removals() const { return m_removals; }
 
+    /// Who causes the writes of this moment; see SyncWrites.
+    [[nodiscard]] ChangeOrigin writeOrigin() const { return m_writeOrigin; }
+    void setWriteOrigin(ChangeOrigin origin) { m_writeOrigin = origin; }
+
     /// How many Savepoints are open.
     [[nodiscard]] int savepointDepth() const { return m_savepointDepth; }
 
@@ -86,6 +93,7 @@ private:
     bool m_isOpen = false;
     std::unordered_map<QString, std::unique_ptr<QSqlQuery>, TextHash> m_prepared;
     int m_savepointDepth = 0;
+    ChangeOrigin m_writeOrigin = ChangeOrigin::User;
     bool m_isTransactionLost = false; // SQLite ended it by itself while a Savepoint was open
     quint64 m_dataGeneration = 1;
     quint64 m_eventPurges = 1;

@@ -15,13 +15,9 @@
 
 namespace {
 
-constexpr int SliceMs = 8;
+constexpr auto TableName = "events";
 
-QString calendarOf(Database *database, const QString &eventId)
-{
-    Statement row(database, QStringLiteral("SELECT calendar_id FROM events WHERE id = ?"));
-    return row.bind(eventId).run("Reading failed:") && row.next() ? row.value(0).toString() : QString();
-}
+constexpr int SliceMs = 8;
 
 }
 
@@ -198,7 +194,7 @@ bool EventRepository::updateAll(const QList<Event> &events)
 
 bool EventRepository::remove(const QString &id)
 {
-    const QString calendarId = calendarOf(m_database, id);
+    const QString calendarId = SyncRows::calendarOf(m_database, TableName, id);
     const QVariant now = StoredTime::now();
     const QString sql =
         QStringLiteral("UPDATE events SET deleted_at = ?, sync_status = 'pending', last_modified = ? WHERE id = ?");
@@ -211,7 +207,7 @@ bool EventRepository::remove(const QString &id)
 
 bool EventRepository::hardDelete(const QString &id)
 {
-    const QString calendarId = calendarOf(m_database, id);
+    const QString calendarId = SyncRows::calendarOf(m_database, TableName, id);
     Savepoint savepoint(m_database);
     if (!savepoint.isActive())
         return false;
@@ -231,13 +227,46 @@ bool EventRepository::hardDelete(const QString &id)
 
 bool EventRepository::markSynced(const QString &id, const QString &href, const QString &etag)
 {
-    if (!runStatement(m_database, "EventRepository::markSynced failed:",
-                      QStringLiteral("UPDATE events SET href = ?, etag = ?, sync_status = 'synced' WHERE id = ?"),
-                      { StoredAs::NullableText::store(href), StoredAs::NullableText::store(etag), id }))
+    if (!SyncRows::setSynced(m_database, TableName, id, href, etag))
         return false;
     onTouched(id);
     m_database->dataWritten();
     return true;
+}
+
+bool EventRepository::setAddress(const QString &id, const QString &href, const QString &etag)
+{
+    return touch(id, SyncRows::setAddress(m_database, TableName, id, href, etag));
+}
+
+bool EventRepository::markPushed(const QString &id, const PushedResource &pushed)
+{
+    return touch(id, SyncRows::markPushed(m_database, TableName, id, pushed));
+}
+
+int EventRepository::discardEdits(const QString &calendarId)
+{
+    const int count = SyncRows::discardEdits(m_database, TableName, calendarId);
+    if (count > 0) {
+        m_database->eventsPurged(calendarId);
+        notifyChanged(calendarId);
+    }
+    return count;
+}
+
+bool EventRepository::clearEtags(const QString &calendarId)
+{
+    return SyncRows::clearEtags(m_database, TableName, calendarId);
+}
+
+QStringList EventRepository::pendingCalendarIds()
+{
+    return SyncRows::pendingCalendarIds(m_database, TableName);
+}
+
+QList<SyncRow> EventRepository::syncRows(const QString &calendarId, qint64 afterRowid, int limit)
+{
+    return SyncRows::list(m_database, TableName, calendarId, afterRowid, limit);
 }
 
 bool EventRepository::restoreDeleted(const Event &event)
@@ -293,6 +322,15 @@ void EventRepository::onWritten(const Event &event)
     notifyChanged(event.calendarId);
 }
 
+bool EventRepository::touch(const QString &id, bool isWritten)
+{
+    if (!isWritten)
+        return false;
+    onTouched(id);
+    notifyChanged(SyncRows::calendarOf(m_database, TableName, id));
+    return true;
+}
+
 void EventRepository::onTouched(const QString &id)
 {
     m_ranges->onTouched(id);
@@ -302,5 +340,5 @@ void EventRepository::onTouched(const QString &id)
 void EventRepository::notifyChanged(const QString &calendarId)
 {
     m_database->dataWritten();
-    m_notifier->notify(calendarId);
+    m_notifier->notify(calendarId, m_database->writeOrigin());
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "models/Event.h"
+#include "storage/ChangeOrigin.h"
 #include "storage/EventSelection.h"
+#include "storage/SyncRows.h"
 
 #include <QList>
 #include <QObject>
@@ -57,6 +59,10 @@ public:
                                                  const QString &recurrenceId); ///< a tombstone too
     QList<Event> getPending(const QString &calendarId); ///< tombstones included: deletions to push
     bool hasPending();
+    QStringList pendingCalendarIds(); ///< of every account
+
+    /// A page of the calendar's rows in order of rowid, tombstones included.
+    QList<SyncRow> syncRows(const QString &calendarId, qint64 afterRowid, int limit);
 
     /// The master of a series, or a single event, then its overrides; tombstones too.
     QList<Event> getSeries(const QString &uid, const QString &calendarId);
@@ -75,12 +81,18 @@ public:
     bool remove(const QString &id); ///< tombstone, pending
     bool hardDelete(const QString &id);
     bool markSynced(const QString &id, const QString &href, const QString &etag);
+    bool setAddress(const QString &id, const QString &href, const QString &etag); ///< whether or not it is pending
+    bool markPushed(const QString &id, const PushedResource &pushed); ///< and synced
+    /// Gives up edits of rows that the server knows; it has to send them again. Returns how many; -1 on an error.
+    int discardEdits(const QString &calendarId);
+    /// The next sync reads the synced rows of the calendar anew.
+    bool clearEtags(const QString &calendarId);
     /// Brings a deleted event back for undo, also after a sync purged the row.
     bool restoreDeleted(const Event &event);
 
 signals:
     /// 150 ms after the last write of a burst. \p calendarId is the last one touched, not the only one.
-    void eventsChanged(const QString &calendarId);
+    void eventsChanged(const QString &calendarId, ChangeOrigin origin);
     /// Range reads are fast now: after warmUp(), and after each catching up with writes.
     void warmedUp();
 
@@ -89,6 +101,7 @@ private:
     void catchUpSoon();
     void onWritten(const Event &event);
     void onTouched(const QString &id);
+    bool touch(const QString &id, bool isWritten); // signals a write that succeeded
     void notifyChanged(const QString &calendarId);
 
     Database *m_database;

@@ -15,6 +15,8 @@
 
 namespace {
 
+constexpr auto TableName = "tasks";
+
 QList<Task> listTasks(Database *database, const QString &tail, const QVariantList &values)
 {
     QList<Task> tasks = Tables::tasks().list(database, tail, values);
@@ -238,35 +240,66 @@ bool TaskRepository::update(const Task &task)
 
 bool TaskRepository::remove(const QString &id)
 {
-    const std::optional<Task> task = getById(id);
+    const QString calendarId = SyncRows::calendarOf(m_database, TableName, id);
     const QVariant now = StoredTime::now();
     const QString sql =
         QStringLiteral("UPDATE tasks SET deleted_at = ?, sync_status = 'pending', last_modified = ? WHERE id = ?");
     if (!runStatement(m_database, "TaskRepository::remove failed:", sql, { now, now, id }))
         return false;
-    notifyChanged(task ? task->calendarId : QString());
+    notifyChanged(calendarId);
     return true;
 }
 
 bool TaskRepository::hardDelete(const QString &id)
 {
-    const std::optional<Task> task = getById(id);
+    const QString calendarId = SyncRows::calendarOf(m_database, TableName, id);
     // The reminders go by the schema's cascade.
     if (!runStatement(m_database,
                       "TaskRepository::hardDelete failed:", QStringLiteral("DELETE FROM tasks WHERE id = ?"), { id }))
         return false;
-    notifyChanged(task ? task->calendarId : QString());
+    notifyChanged(calendarId);
     return true;
 }
 
 bool TaskRepository::markSynced(const QString &id, const QString &href, const QString &etag)
 {
-    if (!runStatement(m_database, "TaskRepository::markSynced failed:",
-                      QStringLiteral("UPDATE tasks SET href = ?, etag = ?, sync_status = 'synced' WHERE id = ?"),
-                      { StoredAs::NullableText::store(href), StoredAs::NullableText::store(etag), id }))
+    if (!SyncRows::setSynced(m_database, TableName, id, href, etag))
         return false;
     m_database->dataWritten();
     return true;
+}
+
+bool TaskRepository::setAddress(const QString &id, const QString &href, const QString &etag)
+{
+    return touch(id, SyncRows::setAddress(m_database, TableName, id, href, etag));
+}
+
+bool TaskRepository::markPushed(const QString &id, const PushedResource &pushed)
+{
+    return touch(id, SyncRows::markPushed(m_database, TableName, id, pushed));
+}
+
+int TaskRepository::discardEdits(const QString &calendarId)
+{
+    const int count = SyncRows::discardEdits(m_database, TableName, calendarId);
+    if (count > 0)
+        notifyChanged(calendarId);
+    return count;
+}
+
+bool TaskRepository::clearEtags(const QString &calendarId)
+{
+    return SyncRows::clearEtags(m_database, TableName, calendarId);
+}
+
+QStringList TaskRepository::pendingCalendarIds()
+{
+    return SyncRows::pendingCalendarIds(m_database, TableName);
+}
+
+QList<SyncRow> TaskRepository::syncRows(const QString &calendarId, qint64 afterRowid, int limit)
+{
+    return SyncRows::list(m_database, TableName, calendarId, afterRowid, limit);
 }
 
 bool TaskRepository::setCompleted(const QString &id, bool completed)
@@ -287,8 +320,15 @@ bool TaskRepository::setCompleted(const QString &id, bool completed)
     return update(*task);
 }
 
+bool TaskRepository::touch(const QString &id, bool isWritten)
+{
+    if (isWritten)
+        notifyChanged(SyncRows::calendarOf(m_database, TableName, id));
+    return isWritten;
+}
+
 void TaskRepository::notifyChanged(const QString &calendarId)
 {
     m_database->dataWritten();
-    m_notifier->notify(calendarId);
+    m_notifier->notify(calendarId, m_database->writeOrigin());
 }

@@ -59,6 +59,18 @@ void MainMenus::buildFileMenu()
              m_window->openNewCalendarDialog();
          } }));
     menu->addSeparator();
+    menu->addAction(m_table->add({ .id = QStringLiteral("syncNow"),
+                                   .group = group,
+                                   .text = tr("&Sync Now"),
+                                   .keys = { Qt::CTRL | Qt::Key_R },
+                                   .run = [this] { m_window->runSyncNow(); } }));
+    QAction *fullSync = m_table->add({ .id = QStringLiteral("forceFullSync"),
+                                       .group = group,
+                                       .text = tr("Force F&ull Sync…"),
+                                       .keys = { Qt::CTRL | Qt::SHIFT | Qt::Key_R },
+                                       .run = [this] { m_window->runForceFullSync(); } });
+    fullSync->setStatusTip(tr("Re-pull every event from every account, ignoring sync tokens"));
+    menu->addAction(fullSync);
     menu->addAction(m_table->add({ .id = QStringLiteral("importIcs"),
                                    .group = group,
                                    .text = tr("&Import ICS File…"),

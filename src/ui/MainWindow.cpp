@@ -10,6 +10,8 @@
 #include "storage/EventRepository.h"
 #include "storage/PreferencesRepository.h"
 #include "ui/ActionTable.h"
+#include "sync/SyncScheduler.h"
+#include "ui/AccountPill.h"
 #include "ui/FiltersPill.h"
 #include "ui/GroupButton.h"
 #include "ui/IcsImportFlow.h"
@@ -135,7 +137,35 @@ void MainWindow::buildStatusBar()
     auto *pill = new FiltersPill(m_state);
     connect(pill, &FiltersPill::addRequested, this, &MainWindow::openAddFilterDialog);
     connect(pill, &FiltersPill::manageRequested, this, &MainWindow::openManageFiltersDialog);
+    auto *accounts = new AccountPill(m_state);
+    connect(accounts, &QToolButton::clicked, this, &MainWindow::openCalendarAccounts);
+    statusBar()->addPermanentWidget(accounts);
     statusBar()->addPermanentWidget(pill);
+    if (SyncScheduler *scheduler = m_state->syncScheduler())
+        connect(scheduler, &SyncScheduler::statusMessage, statusBar(), &QStatusBar::showMessage);
+}
+
+void MainWindow::openCalendarAccounts()
+{
+}
+
+void MainWindow::runSyncNow()
+{
+    if (SyncScheduler *scheduler = m_state->syncScheduler())
+        scheduler->runSyncNow();
+}
+
+void MainWindow::runForceFullSync()
+{
+    Prompt::question(
+        this, tr("Force full sync?"),
+        tr("Re-fetch every event and task from every account, ignoring saved sync tokens. Useful when items look stale "
+           "or out of date.\n\nAny unsynced local edits will be discarded in favour of the server's copy. Pending "
+           "deletions are preserved.\n\nHeavy accounts may take a minute or two and use more bandwidth than usual."),
+        this, [this] {
+            if (SyncScheduler *scheduler = m_state->syncScheduler())
+                scheduler->runForceFullSync();
+        });
 }
 
 void MainWindow::refreshCenterPane()

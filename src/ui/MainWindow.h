@@ -48,6 +48,9 @@ public slots:
     void importIcsFiles(const QStringList &paths); ///< one dialog for all of them
     void chooseIcsFiles();
     void openNewCalendarDialog();
+    void openCalendarAccounts();
+    void runSyncNow();
+    void runForceFullSync();
     void openPreferencesDialog();
     void openAddFilterDialog();
     void openManageFiltersDialog();

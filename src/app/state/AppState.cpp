@@ -76,12 +76,13 @@ bool AppState::openStorage(const QString &databasePath)
     m_syncDebounce = new QTimer(this);
     m_syncDebounce->setSingleShot(true);
     m_syncDebounce->setInterval(SyncDelayMs);
-    connect(m_syncDebounce, &QTimer::timeout, this, [this] {
-        if (m_events->hasPending() || m_tasks->hasPending())
-            emit syncNowRequested();
-    });
-    connect(m_events, &EventRepository::eventsChanged, m_syncDebounce, qOverload<>(&QTimer::start));
-    connect(m_tasks, &TaskRepository::tasksChanged, m_syncDebounce, qOverload<>(&QTimer::start));
+    connect(m_syncDebounce, &QTimer::timeout, this, &AppState::requestSyncOfEdits);
+    const auto onChanged = [this](const QString &, ChangeOrigin origin) {
+        if (origin == ChangeOrigin::User)
+            m_syncDebounce->start();
+    };
+    connect(m_events, &EventRepository::eventsChanged, this, onChanged);
+    connect(m_tasks, &TaskRepository::tasksChanged, this, onChanged);
 
     m_views = new ViewRepository(m_database, this);
     m_filterRules = new FilterRuleRepository(m_database, this);

@@ -8,6 +8,9 @@
 #include <QSet>
 #include <QString>
 
+#include <functional>
+#include <utility>
+
 class AccountRepository;
 class CalendarRepository;
 class Database;
@@ -15,12 +18,17 @@ class EventRepository;
 class FilterRuleRepository;
 class PreferencesRepository;
 class QTimer;
+class SyncScheduler;
 class TaskRepository;
 class TemplateRepository;
 class ThemeManager;
 class UndoStack;
 class ViewRepository;
 class VisibleEvents;
+
+namespace Sync {
+class ConflictResolutionService;
+}
 
 /// The one object that every surface and service holds: the database and its repositories, the
 /// long-lived services, and the shared view state. Setters keep the value and signal a change; what
@@ -70,6 +78,14 @@ public:
     /// The display pipeline with its cache; there from initialize() or setVisibleEvents() on.
     [[nodiscard]] VisibleEvents *visibleEvents() const { return m_visibleEvents; }
     void setVisibleEvents(VisibleEvents *service) { m_visibleEvents = service; }
+    /// There from initialize() or the setters on.
+    [[nodiscard]] SyncScheduler *syncScheduler() const { return m_syncScheduler; }
+    [[nodiscard]] Sync::ConflictResolutionService *conflicts() const { return m_conflicts; }
+    void setSyncServices(SyncScheduler *scheduler, Sync::ConflictResolutionService *conflicts)
+    {
+        m_syncScheduler = scheduler;
+        m_conflicts = conflicts;
+    }
 
     [[nodiscard]] QString activeViewId() const { return m_activeViewId; }
     [[nodiscard]] QString selectedEventId() const { return m_selectedEventId; }
@@ -111,6 +127,9 @@ public:
     /// The week of \p date: the first day of it.
     [[nodiscard]] QDate weekStart(QDate date) const;
 
+    /// Who knows whether a calendar's pending rows can reach their server now; without it, they can.
+    void setPushable(std::function<bool(const QString &calendarId)> isPushable) { m_isPushable = std::move(isPushable); }
+
     void syncOpBegan();
     void syncOpEnded(bool failed);
     void recordSyncError(const QString &calendar, const QString &message);
@@ -141,6 +160,7 @@ signals:
     void todayChanged(QDate today);
 
 private:
+    void requestSyncOfEdits();
     void onPreferenceChanged(const QString &key);
     void recordNavigation();
     void applyNavigation(const NavState &target);
@@ -166,6 +186,8 @@ private:
     ThemeManager *m_theme = nullptr;
     UndoStack *m_undoStack;
     VisibleEvents *m_visibleEvents = nullptr;
+    SyncScheduler *m_syncScheduler = nullptr;
+    Sync::ConflictResolutionService *m_conflicts = nullptr;
     QString m_activeViewId;
     QString m_selectedEventId;
     QDateTime m_selectedOccurrence;
@@ -178,6 +200,7 @@ private:
     QList<NavState> m_backHistory;
     QList<NavState> m_forwardHistory;
     bool m_restoringNav = false;
+    std::function<bool(const QString &)> m_isPushable;
     int m_syncBusyCount = 0;
     bool m_cycleErrored = false;
     bool m_lastSyncErrored = false;

@@ -5,6 +5,10 @@
 #include "models/Constants.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
+#include "storage/EventRepository.h"
+#include "storage/TaskRepository.h"
+
+#include <QTimer>
 
 #include <array>
 
@@ -25,6 +29,18 @@ QSet<QString> AppState::syncableCalendarIds() const
             ids.insert(calendar.id);
     }
     return ids;
+}
+
+/// Only what waits in a calendar that can be pushed is a reason: rows of a local or failing one wait for ever.
+void AppState::requestSyncOfEdits()
+{
+    if (isSyncing())
+        return m_syncDebounce->start(); // what is at work now may take them along
+    const QSet<QString> syncable = syncableCalendarIds();
+    for (const QString &id : m_events->pendingCalendarIds() + m_tasks->pendingCalendarIds()) {
+        if (syncable.contains(id) && (!m_isPushable || m_isPushable(id)))
+            return emit syncNowRequested();
+    }
 }
 
 void AppState::syncOpBegan()

@@ -1,0 +1,145 @@
+#include "caldav/CalDavDiscovery.h"
+
+#include "caldav/CalDavClient.h"
+#include "caldav/CalDavXml.h"
+#include "caldav/SilenceGuard.h"
+
+#include <QDebug>
+#include <QPointer>
+
+namespace {
+
+bool isSuccess(int status)
+{
+    return status >= 200 && status <= 299;
+}
+
+QUrl withScheme(const QUrl &input)
+{
+    const bool isBare = input.scheme().isEmpty() && !input.toString().isEmpty();
+    if (isBare)
+        return QUrl(QStringLiteral("https://") + input.toString());
+    // "calendar.example.com:8443" reads as a scheme with a path of digits.
+    const bool isHostWithPort = input.host().isEmpty() && input.scheme().contains(u'.');
+    return isHostWithPort ? QUrl(QStringLiteral("https://") + input.toString()) : input;
+}
+
+}
+
+CalDavDiscovery::CalDavDiscovery(CalDavClient *client, QObject *parent)
+    : QObject(parent)
+    , m_client(client)
+    , m_guard(new SilenceGuard(client, this))
+{
+}
+
+void CalDavDiscovery::start(const QUrl &input)
+{
+    ++m_run;
+    m_guard->stop();
+    m_candidates.clear();
+    m_candidateIndex = 0;
+    m_fallbackHomeUrl.reset();
+    m_wasUnauthorized = false;
+    m_principal.clear();
+    m_homeSet.clear();
+
+    QUrl url = withScheme(input);
+    url.setUserInfo(QString()); // the client has the credentials, and addresses are stored
+    const bool isHttp = url.scheme() == u"http" || url.scheme() == u"https";
+    if (!url.isValid() || !isHttp || url.host(QUrl::FullyDecoded).isEmpty()) {
+        // Not before start() has returned.
+        const int run = m_run;
+        QMetaObject::invokeMethod(
+            this,
+            [this, run] {
+                if (run == m_run)
+                    emitFail(tr("Enter a CalDAV URL starting with http:// or https://"));
+            },
+            Qt::QueuedConnection);
+        return;
+    }
+    m_baseUrl = url;
+    m_baseUrl.setPath(QString());
+    m_baseUrl.setQuery(QString());
+    m_baseUrl.setFragment(QString());
+
+    const QString path = url.path(QUrl::FullyDecoded);
+    if (!path.isEmpty() && path != u"/")
+        m_candidates.append(url);
+    m_candidates.append(m_baseUrl.resolved(QUrl(QStringLiteral("/.well-known/caldav"))));
+    m_candidates.append(m_baseUrl.resolved(QUrl(QStringLiteral("/"))));
+    tryNextPrincipalCandidate();
+}
+
+void CalDavDiscovery::propfind(const QUrl &url, const QByteArray &body, int depth, Handler onReply)
+{
+    m_currentUrl = url;
+    const int run = m_run;
+    m_guard->watch(SilenceGuard::SilenceMs, [this, onReply] { (this->*onReply)(0, {}, SilenceGuard::message()); });
+    m_client->propfind(url, body, depth, [self = QPointer(this), run, onReply](const CalDavClient::Response &response) {
+        if (!self || run != self->m_run)
+            return;
+        self->m_guard->stop();
+        (self->*onReply)(response.status, response.body, response.error);
+    });
+}
+
+void CalDavDiscovery::tryNextPrincipalCandidate()
+{
+    if (m_candidateIndex < m_candidates.size())
+        return propfind(m_candidates.at(m_candidateIndex), CalDavXml::currentUserPrincipalBody(), 0,
+                        &CalDavDiscovery::onPrincipalReply);
+    if (m_fallbackHomeUrl)
+        return propfind(*m_fallbackHomeUrl, CalDavXml::calendarHomeSetBody(), 0, &CalDavDiscovery::onHomeSetReply);
+    if (m_wasUnauthorized)
+        return emitFail(tr("The server rejected the username or password."));
+    emitFail(tr("Could not find a CalDAV account on that server. Check the URL."));
+}
+
+void CalDavDiscovery::onPrincipalReply(int status, const QByteArray &body, const QString &error)
+{
+    // A refused connection or certificate is the same for every candidate.
+    if (!error.isEmpty())
+        return emitFail(tr("Could not reach the server: %1").arg(error));
+    if (isSuccess(status)) {
+        if (const auto principal = CalDavParse::parsePrincipalUrl(body, m_baseUrl)) {
+            m_principal = principal->toString();
+            return propfind(*principal, CalDavXml::calendarHomeSetBody(), 0, &CalDavDiscovery::onHomeSetReply);
+        }
+        if (!m_fallbackHomeUrl)
+            m_fallbackHomeUrl = m_currentUrl;
+    }
+    m_wasUnauthorized |= status == 401;
+    ++m_candidateIndex;
+    tryNextPrincipalCandidate();
+}
+
+void CalDavDiscovery::onHomeSetReply(int status, const QByteArray &body, const QString &error)
+{
+    if (!error.isEmpty())
+        return emitFail(tr("Lost connection during calendar-home-set discovery: %1").arg(error));
+    if (!isSuccess(status))
+        return emitFail(tr("Server returned HTTP %1 during home-set discovery.").arg(status));
+    const QUrl homeSet = CalDavParse::parseCalendarHomeSet(body, m_baseUrl).value_or(m_currentUrl);
+    m_homeSet = homeSet.toString(QUrl::RemoveUserInfo);
+    propfind(homeSet, CalDavXml::calendarEnumerationBody(), 1, &CalDavDiscovery::onCalendarsReply);
+}
+
+void CalDavDiscovery::onCalendarsReply(int status, const QByteArray &body, const QString &error)
+{
+    if (!error.isEmpty())
+        return emitFail(tr("Lost connection during calendar enumeration: %1").arg(error));
+    if (!isSuccess(status))
+        return emitFail(tr("Server returned HTTP %1 during calendar enumeration.").arg(status));
+    const QList<CalDavParse::DiscoveredCalendar> calendars = CalDavParse::parseCalendarList(body, m_baseUrl);
+    if (calendars.isEmpty())
+        return emitFail(tr("No calendars found at the discovered home set."));
+    emit completed(calendars);
+}
+
+void CalDavDiscovery::emitFail(const QString &message)
+{
+    qWarning().noquote() << "[CalDAV discovery]" << message;
+    emit failed(message);
+}

@@ -1,0 +1,187 @@
+#include "caldav/CalDavRediscover.h"
+
+#include "app/state/AppState.h"
+#include "calendar/CalendarKey.h"
+#include "models/Account.h"
+#include "models/Calendar.h"
+#include "storage/AccountRepository.h"
+#include "storage/CalendarRepository.h"
+#include "storage/PreferencesRepository.h"
+
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSet>
+#include <QUuid>
+
+namespace {
+
+QString componentsJson(const QList<QString> &components)
+{
+    return QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(components)).toJson(QJsonDocument::Compact));
+}
+
+QString keyOf(const QString &url)
+{
+    return Quillon::CalendarKey::compute(AccountType::CalDAV, url).value_or(QString());
+}
+
+// Made before the credentials were on this device: nothing but a name.
+bool isPlaceholder(const Calendar &calendar)
+{
+    return !calendar.syncEnabled && calendar.isReadOnly && !calendar.canonicalKey.isEmpty();
+}
+
+void fillPlaceholder(Calendar &calendar, const CalDavParse::DiscoveredCalendar &discovered)
+{
+    calendar.name = discovered.displayName;
+    calendar.description = discovered.description;
+    if (!discovered.color.isEmpty())
+        calendar.color = discovered.color;
+    calendar.supportedComponents = componentsJson(discovered.components);
+    calendar.isReadOnly = false;
+    calendar.syncEnabled = true;
+}
+
+class DeclinedAddresses {
+public:
+    DeclinedAddresses(AppState *state, const QString &accountId)
+        : m_preferences(state->preferences())
+        , m_settingsKey(QStringLiteral("caldav/declined/") + accountId)
+    {
+        const QString text = m_preferences->get(m_settingsKey, QString());
+        const QJsonArray keys = QJsonDocument::fromJson(text.toUtf8()).array();
+        for (const QJsonValue &key : keys)
+            m_keys.insert(key.toString());
+    }
+
+    [[nodiscard]] bool contains(const QString &url) const { return m_keys.contains(keyOf(url)); }
+    void insert(const QString &url) { m_keys.insert(keyOf(url)); }
+    void remove(const QString &url) { m_keys.remove(keyOf(url)); }
+
+    void store() const
+    {
+        QStringList keys(m_keys.cbegin(), m_keys.cend());
+        keys.sort();
+        if (keys.isEmpty())
+            m_preferences->remove(m_settingsKey);
+        else
+            m_preferences->set(m_settingsKey, componentsJson(keys));
+    }
+
+private:
+    PreferencesRepository *m_preferences;
+    QString m_settingsKey;
+    QSet<QString> m_keys;
+};
+
+// The account's calendars by address and by key.
+class KnownCalendars {
+public:
+    KnownCalendars(AppState *state, const QString &accountId)
+    {
+        for (const Calendar &calendar : state->calendars()->getByAccount(accountId))
+            add(calendar);
+    }
+
+    [[nodiscard]] const Calendar *find(const QString &url) const
+    {
+        if (const auto found = m_byUrl.constFind(url); found != m_byUrl.cend())
+            return &*found;
+        const auto found = m_byKey.constFind(keyOf(url));
+        return found != m_byKey.cend() ? &*found : nullptr;
+    }
+
+    void add(const Calendar &calendar)
+    {
+        m_byUrl.insert(calendar.url, calendar);
+        m_byKey.insert(calendar.canonicalKey.isEmpty() ? keyOf(calendar.url) : calendar.canonicalKey, calendar);
+    }
+
+private:
+    QHash<QString, Calendar> m_byUrl;
+    QHash<QString, Calendar> m_byKey;
+};
+
+void updateKnown(AppState *state, Calendar calendar, const CalDavParse::DiscoveredCalendar &discovered)
+{
+    const Calendar before = calendar;
+    if (isPlaceholder(calendar))
+        fillPlaceholder(calendar, discovered);
+    calendar.url = discovered.url;
+    if (calendar == before)
+        return;
+    calendar.updatedAt = QDateTime::currentDateTimeUtc();
+    state->calendars()->update(calendar);
+}
+
+}
+
+Calendar CalDavRediscover::newCalendar(const Account &account, const CalDavParse::DiscoveredCalendar &discovered)
+{
+    Calendar calendar;
+    calendar.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    calendar.accountId = account.id;
+    calendar.url = discovered.url;
+    calendar.name = discovered.displayName;
+    calendar.description = discovered.description;
+    if (!discovered.color.isEmpty())
+        calendar.color = discovered.color;
+    calendar.supportedComponents = componentsJson(discovered.components);
+    calendar.syncEnabled = true;
+    calendar.canonicalKey = Quillon::CalendarKey::compute(account.type, discovered.url).value_or(QString());
+    calendar.createdAt = QDateTime::currentDateTimeUtc();
+    calendar.updatedAt = calendar.createdAt;
+    return calendar;
+}
+
+int CalDavRediscover::upsertDiscoveredCalendars(AppState *state, const QString &accountId,
+                                                const QList<CalDavParse::DiscoveredCalendar> &discovered)
+{
+    if (!state || accountId.isEmpty())
+        return 0;
+    // Removed while the discovery was on its way: its calendars must not come back.
+    const std::optional<Account> account = state->accounts()->getById(accountId);
+    if (!account)
+        return 0;
+
+    KnownCalendars known(state, accountId);
+    const DeclinedAddresses declined(state, accountId);
+    int inserted = 0;
+    for (const CalDavParse::DiscoveredCalendar &found : discovered) {
+        if (const Calendar *calendar = known.find(found.url)) {
+            updateKnown(state, *calendar, found);
+            continue;
+        }
+        if (declined.contains(found.url))
+            continue;
+        Calendar calendar = newCalendar(*account, found);
+        calendar.isDefault = state->calendars()->getAll().isEmpty();
+        if (!state->calendars()->insert(calendar))
+            continue;
+        known.add(calendar);
+        ++inserted;
+    }
+    return inserted;
+}
+
+void CalDavRediscover::decline(AppState *state, const QString &accountId, const QStringList &urls)
+{
+    DeclinedAddresses declined(state, accountId);
+    for (const QString &url : urls)
+        declined.insert(url);
+    declined.store();
+}
+
+void CalDavRediscover::accept(AppState *state, const QString &accountId, const QStringList &urls)
+{
+    DeclinedAddresses declined(state, accountId);
+    for (const QString &url : urls)
+        declined.remove(url);
+    declined.store();
+}
+
+bool CalDavRediscover::isDeclined(AppState *state, const QString &accountId, const QString &url)
+{
+    return DeclinedAddresses(state, accountId).contains(url);
+}

@@ -1,0 +1,46 @@
+#include "caldav/CalDavSession.h"
+
+#include "app/state/AppState.h"
+#include "caldav/SilenceGuard.h"
+#include "models/Account.h"
+#include "storage/AccountRepository.h"
+#include "storage/CalendarRepository.h"
+
+CalDavSession::CalDavSession(AppState *state, const Calendar &calendar, QObject *parent)
+    : QObject(parent)
+    , m_state(state)
+    , m_calendarId(calendar.id)
+    , m_calendarName(calendar.name)
+    , m_accountId(calendar.accountId)
+    , m_calendarUrl(calendar.url)
+    , m_client(new CalDavClient(this))
+    , m_guard(new SilenceGuard(m_client, this))
+{
+}
+
+bool CalDavSession::isLive() const
+{
+    const auto account = m_state->accounts()->getById(m_accountId);
+    return account && account->enabled && m_state->calendars()->getById(m_calendarId);
+}
+
+CalDavClient::Callback CalDavSession::watched(int firstByteMs, CalDavClient::Callback next)
+{
+    m_guard->watch(firstByteMs, [this, next] {
+        CalDavClient::Response silence;
+        silence.error = SilenceGuard::message();
+        deliver(next, silence);
+    });
+    return [this, next](const CalDavClient::Response &response) {
+        m_guard->stop();
+        deliver(next, response);
+    };
+}
+
+void CalDavSession::deliver(const CalDavClient::Callback &next, const CalDavClient::Response &response)
+{
+    if (isLive())
+        next(response);
+    else
+        emit abandoned();
+}

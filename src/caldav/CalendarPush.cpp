@@ -1,0 +1,231 @@
+#include "caldav/CalendarPush.h"
+
+#include "caldav/CalDavLog.h"
+#include "caldav/CalDavPath.h"
+#include "caldav/CalDavSession.h"
+#include "caldav/PushVerdict.h"
+#include "caldav/SilenceGuard.h"
+#include "calendar/ResourceComposer.h"
+
+#include <QDateTime>
+
+#include <functional>
+#include <utility>
+
+namespace {
+
+constexpr int NotFound = 404;
+constexpr int Gone = 410;
+constexpr int PreconditionFailed = 412;
+
+bool isMissing(int status)
+{
+    return status == NotFound || status == Gone;
+}
+
+}
+
+CalendarPush::CalendarPush(CalDavSession *session, SyncTable *table, CalendarPull::Texts texts,
+                           const QStringList &ownAddresses, Policy policy, QObject *parent)
+    : QObject(parent)
+    , m_session(session)
+    , m_table(table)
+    , m_texts(std::move(texts))
+    , m_ownAddresses(ownAddresses)
+    , m_policy(std::move(policy))
+{
+}
+
+void CalendarPush::start()
+{
+    m_queue = m_table->pendingResources();
+    if (!m_queue.isEmpty())
+        qCDebug(caldavLog).noquote() << "[CalDav] Push for" << m_session->calendarName()
+                                     << "pending=" << m_queue.size();
+    pushNextSoon();
+}
+
+// From the event loop: a thousand rows that need no request must neither hold it nor fill the stack.
+void CalendarPush::pushNextSoon()
+{
+    QMetaObject::invokeMethod(this, &CalendarPush::pushNext, Qt::QueuedConnection);
+}
+
+void CalendarPush::pushNext()
+{
+    if (!m_session->isLive())
+        return emit m_session->abandoned();
+    m_current.reset();
+    if (m_queue.isEmpty())
+        return emit finished();
+    m_current = m_table->open(m_queue.takeFirst());
+    if (!m_current)
+        return pushNextSoon();
+    m_hasRetried = false;
+    prepare();
+}
+
+void CalendarPush::prepare()
+{
+    if (m_current->isDeletion && m_current->href.isEmpty()) {
+        qCDebug(caldavLog).noquote() << "[CalDav] Local-only delete skip-push for" << m_current->title;
+        m_current->deleted();
+        return pushNextSoon();
+    }
+    if (m_current->href.isEmpty())
+        return send({});
+    const auto text = m_texts.constFind(m_current->href);
+    if (text != m_texts.cend())
+        return send(*text);
+    if (!m_current->isDeletion)
+        return fetchText();
+    m_kind = Kind::Delete;
+    m_href = m_current->href;
+    sendDeletion(m_current->etag);
+}
+
+void CalendarPush::fetchText()
+{
+    m_session->client()->get(CalDavPath::resourceUrl(m_session->calendarUrl(), m_current->href),
+                             m_session->watched(SilenceGuard::SilenceMs, std::bind_front(&CalendarPush::onText, this)));
+}
+
+void CalendarPush::onText(const CalDavClient::Response &response)
+{
+    if (!response.error.isEmpty())
+        return emit failed(m_policy.networkMessage(response.error));
+    if (isMissing(response.status)) {
+        m_current->forgetAddress();
+        return send({});
+    }
+    if (!response.isSuccess() || !response.isWhole)
+        return refuse(response.status);
+    send({ .href = m_current->href,
+           .etag = CalDavPath::etagFromHeader(response.header("ETag")),
+           .calendarData = QString::fromUtf8(response.body) });
+}
+
+/// Over \p newest, the server's copy; without an address it is a new resource.
+void CalendarPush::send(const CalDavParse::EventResource &newest)
+{
+    m_kind = newest.href.isEmpty() ? Kind::Create : Kind::Update;
+    m_href =
+        newest.href.isEmpty() ? CalDavPath::newResourcePath(m_session->calendarUrl(), m_current->uid) : newest.href;
+    m_etag = newest.etag;
+    const ResourceComposer::Composed composed = m_current->compose(
+        newest.calendarData.toUtf8(), { .now = QDateTime::currentDateTimeUtc(), .ownAddresses = m_ownAddresses });
+    if (composed.text.isEmpty()) {
+        m_kind = Kind::Delete;
+        return sendDeletion(m_etag);
+    }
+    if (m_kind == Kind::Update && !composed.isChanged) {
+        // The server says already what we would.
+        m_current->accepted(m_href, m_etag);
+        return pushNextSoon();
+    }
+    m_body = composed.text;
+    if (m_kind == Kind::Create)
+        sendText(std::nullopt);
+    else
+        sendText(m_etag);
+}
+
+void CalendarPush::sendText(const std::optional<QString> &etag)
+{
+    m_session->client()->put(resourceUrl(), m_body, QStringLiteral("text/calendar; charset=utf-8"), answered(), etag);
+}
+
+void CalendarPush::sendDeletion(const std::optional<QString> &etag)
+{
+    m_session->client()->del(resourceUrl(), answered(), etag);
+}
+
+void CalendarPush::onAnswer(const CalDavClient::Response &response)
+{
+    static constexpr const char *kinds[] = { "(create)", "(update)", "(delete)" };
+    const char *kind = kinds[int(m_kind)];
+    qCDebug(caldavLog).noquote() << "[CalDav] Push response for" << m_current->title << "→ HTTP" << response.status
+                                 << "err=" << response.error << kind;
+    if (!response.error.isEmpty()) {
+        qCWarning(caldavLog).noquote() << "[CalDav] Push network error for" << m_current->title << ":"
+                                       << response.error;
+        return emit failed(m_policy.networkMessage(response.error));
+    }
+    const auto verdict = m_kind == Kind::Delete ? PushVerdict::ofDelete(response, m_texts.contains(m_href))
+                                                : PushVerdict::ofPut(response);
+    m_newEtag = CalDavPath::etagFromHeader(response.header("ETag"));
+    if (verdict == PushVerdict::Accepted)
+        return onAccepted();
+    if (verdict == PushVerdict::Doubtful)
+        return lookAgain(response.status);
+    if (response.status == PreconditionFailed && m_policy.retriesWithoutIfMatch && !m_hasRetried
+        && m_kind != Kind::Create) {
+        qCInfo(caldavLog).noquote() << "[CalDav] Task push 412 for" << m_current->title
+                                    << "- retrying without If-Match";
+        m_hasRetried = true;
+        if (m_kind == Kind::Delete)
+            sendDeletion(std::nullopt);
+        else
+            sendText(std::nullopt);
+        return;
+    }
+    qCWarning(caldavLog).noquote() << "[CalDav] Push HTTP" << response.status << "for" << m_current->title << kind;
+    refuse(response.status);
+}
+
+void CalendarPush::lookAgain(int status)
+{
+    m_session->client()->get(
+        resourceUrl(),
+        m_session->watched(SilenceGuard::SilenceMs, std::bind_front(&CalendarPush::onLookedAgain, this, status)));
+}
+
+void CalendarPush::onLookedAgain(int status, const CalDavClient::Response &response)
+{
+    if (!response.error.isEmpty())
+        return emit failed(m_policy.networkMessage(response.error));
+    const bool isDone = m_kind == Kind::Delete ? isMissing(response.status) : isStored(response);
+    if (isDone)
+        onAccepted();
+    else
+        refuse(status);
+}
+
+/// The resource is of our UID, and no longer what it was. Its text may differ from what was sent: a server that
+/// gives no etag may have changed it.
+bool CalendarPush::isStored(const CalDavClient::Response &response) const
+{
+    if (!response.isSuccess() || !response.isWhole || !m_current->isIn(response.body))
+        return false;
+    const QString etag = CalDavPath::etagFromHeader(response.header("ETag"));
+    return m_kind == Kind::Create || response.body == m_body
+        || (!m_etag.isEmpty() && !etag.isEmpty() && etag != m_etag);
+}
+
+void CalendarPush::onAccepted()
+{
+    if (m_kind != Kind::Delete)
+        m_current->accepted(m_href, m_newEtag);
+    else if (!m_current->deleted())
+        qCWarning(caldavLog).noquote() << "[CalDav] hardDelete failed for" << m_current->title
+                                       << "id=" << m_current->id;
+    pushNext();
+}
+
+void CalendarPush::refuse(int status)
+{
+    const bool isDealtWith = m_kind != Kind::Delete && m_policy.onRefusal && m_policy.onRefusal(*m_current, status);
+    if (!isDealtWith && m_firstRefusal.isEmpty())
+        m_firstRefusal = m_policy.statusMessage(status, m_current->title);
+    pushNextSoon();
+}
+
+QUrl CalendarPush::resourceUrl() const
+{
+    return CalDavPath::resourceUrl(m_session->calendarUrl(), m_href);
+}
+
+CalDavClient::Callback CalendarPush::answered()
+{
+    return m_session->watched(SilenceGuard::SilenceMs, std::bind_front(&CalendarPush::onAnswer, this));
+}

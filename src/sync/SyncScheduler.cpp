@@ -1,0 +1,378 @@
+#include "sync/SyncScheduler.h"
+
+#include "app/state/AppState.h"
+#include "app/state/Platform.h"
+#include "caldav/CalDavClient.h"
+#include "caldav/CalDavDiscovery.h"
+#include "caldav/CalDavRediscover.h"
+#include "caldav/CalDavSyncClient.h"
+#include "models/Constants.h"
+#include "storage/AccountRepository.h"
+#include "storage/CalendarRepository.h"
+#include "storage/EventRepository.h"
+#include "storage/PreferencesRepository.h"
+#include "storage/TaskRepository.h"
+
+#include <QDebug>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+namespace {
+
+constexpr int QueueMs = 300;
+constexpr int TickMs = 60'000;
+constexpr int StartUpMs = 3000;
+constexpr int RestSecs = 60;
+
+bool isCloudOrFeed(const Account &account)
+{
+    return account.type == AccountType::Quillon || account.type == AccountType::Webcal;
+}
+
+QDateTime now()
+{
+    return QDateTime::currentDateTimeUtc();
+}
+
+}
+
+SyncScheduler::SyncScheduler(AppState *state, QObject *parent)
+    : QObject(parent)
+    , m_state(state)
+    , m_credentials(new Credentials(this))
+{
+    m_queue.setSingleShot(true);
+    m_queue.setInterval(QueueMs);
+    connect(&m_queue, &QTimer::timeout, this, &SyncScheduler::runQueuedAutoSyncs);
+    m_tick.setInterval(TickMs);
+    connect(&m_tick, &QTimer::timeout, this, &SyncScheduler::runPeriodicSyncTick);
+}
+
+void SyncScheduler::start()
+{
+    const auto onChanged = [this](const QString &, ChangeOrigin origin) { this->onChanged(origin); };
+    connect(m_state->events(), &EventRepository::eventsChanged, this, onChanged);
+    connect(m_state->tasks(), &TaskRepository::tasksChanged, this, onChanged);
+    connect(m_state, &AppState::syncBusyChanged, this, &SyncScheduler::onBusyChanged);
+    connect(m_state, &AppState::syncNowRequested, this, [this] { runRound(Credentials::Unlock::Never); });
+    m_state->setPushable([this](const QString &calendarId) { return canPush(calendarId); });
+    m_tick.start();
+    QTimer::singleShot(StartUpMs, this, [this] { runRound(Credentials::Unlock::Never); });
+}
+
+bool SyncScheduler::isCalDavFamily(const Account &account)
+{
+    return account.type == AccountType::CalDAV || account.type == AccountType::ICloud
+        || account.type == AccountType::Zoho;
+}
+
+QString SyncScheduler::passwordMissing()
+{
+    return tr("Password missing");
+}
+
+bool SyncScheduler::canPush(const QString &calendarId) const
+{
+    const auto calendar = m_state->calendars()->getById(calendarId);
+    const auto account = calendar ? m_state->accounts()->getById(calendar->accountId) : std::nullopt;
+    return account && account->enabled && isCalDavFamily(*account) && account->lastSyncError != passwordMissing()
+        && !isResting(calendarId);
+}
+
+/// The signal names the calendar touched last; an edit may have touched several.
+void SyncScheduler::onChanged(ChangeOrigin origin)
+{
+    if (origin != ChangeOrigin::User)
+        return;
+    const QStringList waiting = m_state->events()->pendingCalendarIds() + m_state->tasks()->pendingCalendarIds();
+    for (const QString &calendarId : waiting)
+        scheduleCalendarSync(calendarId);
+}
+
+void SyncScheduler::scheduleCalendarSync(const QString &calendarId)
+{
+    const auto calendar = m_state->calendars()->getById(calendarId);
+    const auto account = calendar ? m_state->accounts()->getById(calendar->accountId) : std::nullopt;
+    // The product's cloud moves on a schedule of its own; a local calendar has nowhere to go.
+    if (!account || account->type == AccountType::Quillon || isResting(calendarId))
+        return;
+    m_pendingCalendars.insert(calendarId);
+    // What was edited during a run is pushed after it.
+    if (!m_state->isSyncing())
+        m_queue.start();
+}
+
+void SyncScheduler::onBusyChanged(bool busy)
+{
+    if (!busy && !m_pendingCalendars.isEmpty())
+        m_queue.start();
+}
+
+bool SyncScheduler::isResting(const QString &calendarId) const
+{
+    const auto stamp = m_failureStamps.constFind(calendarId);
+    if (stamp == m_failureStamps.cend())
+        return false;
+    const qint64 secs = stamp->secsTo(now());
+    return secs >= 0 && secs < RestSecs;
+}
+
+void SyncScheduler::runQueuedAutoSyncs()
+{
+    const QSet<QString> ids = std::exchange(m_pendingCalendars, {});
+    for (const QString &id : ids) {
+        const auto calendar = m_state->calendars()->getById(id);
+        const auto account = calendar ? m_state->accounts()->getById(calendar->accountId) : std::nullopt;
+        if (!account || !account->enabled || account->type != AccountType::CalDAV)
+            continue;
+        m_credentials->caldavPassword(account->id, Credentials::Unlock::Never, this,
+                                      [this, calendar = *calendar, account = *account](const QString &password) {
+                                          autoSync(calendar, account, password);
+                                      });
+    }
+}
+
+void SyncScheduler::autoSync(const Calendar &calendar, const Account &account, const QString &password)
+{
+    if (password.isEmpty()) {
+        qInfo().noquote() << "[AutoSync] skip — no password for account" << account.name << "(" << account.id << ")";
+        return setAccountError(account, passwordMissing());
+    }
+    CalDavSyncClient *client = makeClient();
+    connect(client, &CalDavSyncClient::calendarSyncCompleted, this, [this](const QString &, int count) {
+        if (count > 0)
+            say(tr("Synced %1 events").arg(count), 3000);
+    });
+    connect(client, &CalDavSyncClient::calendarSyncFailed, this,
+            [this](const QString &id, const QString &message) { onFailed(id, message, 5000); });
+    // A notice of a rejected task is no end: the run completes after it.
+    connect(client, &CalDavSyncClient::calendarSyncEnded, client, &QObject::deleteLater);
+    client->syncCalendar(calendar, account.serverUrl, account.username, password, account.trustedCertSha256);
+}
+
+void SyncScheduler::runPeriodicSyncTick()
+{
+    const QList<Account> accounts = m_state->accounts()->getAll();
+    const bool isDue = std::ranges::any_of(accounts, [](const Account &account) {
+        return account.enabled && account.syncIntervalMinutes > 0 && !isCloudOrFeed(account)
+            && (!account.lastSyncTime
+                || account.lastSyncTime->secsTo(now()) >= qint64(account.syncIntervalMinutes) * 60);
+    });
+    if (isDue)
+        runRound(Credentials::Unlock::Never);
+}
+
+void SyncScheduler::runSyncNow()
+{
+    runRound(Credentials::Unlock::MayAsk);
+}
+
+void SyncScheduler::runSyncForAccount(const Account &)
+{
+    runSyncNow();
+}
+
+void SyncScheduler::runRound(Credentials::Unlock unlock)
+{
+    m_syncedTotal = 0;
+    m_startedAccounts = 0;
+    QList<Account> accounts;
+    for (Account &account : m_state->accounts()->getAll()) {
+        if (!account.enabled || isCloudOrFeed(account))
+            continue;
+        account.lastSyncTime = now();
+        account.updatedAt = now();
+        m_state->accounts()->update(account);
+        if (isCalDavFamily(account))
+            accounts.append(account);
+    }
+    if (accounts.isEmpty())
+        return finishRound();
+    // The store answers in the order of the questions.
+    for (const Account &account : std::as_const(accounts)) {
+        const bool isLast = account.id == accounts.last().id;
+        m_credentials->caldavPassword(
+            account.id, unlock, this,
+            [this, id = account.id, isLast](const QString &password) { onRoundPassword(id, password, isLast); });
+    }
+}
+
+void SyncScheduler::onRoundPassword(const QString &accountId, const QString &password, bool isLast)
+{
+    const auto account = m_state->accounts()->getById(accountId);
+    if (account && account->enabled) {
+        if (password.isEmpty()) {
+            qInfo().noquote() << "[Sync] Skipping account" << account->name << "— no password in keyring for"
+                              << Platform::tokenStoreAppId();
+            setAccountError(*account, passwordMissing());
+        } else {
+            if (account->lastSyncError == passwordMissing())
+                setAccountError(*account, {});
+            ++m_startedAccounts;
+            discover(*account, password);
+        }
+    }
+    if (isLast)
+        finishRound();
+}
+
+void SyncScheduler::finishRound()
+{
+    if (m_startedAccounts > 0)
+        return say(tr("Syncing %1 account(s)…").arg(m_startedAccounts), 0);
+    const QList<Account> accounts = m_state->accounts()->getAll();
+    const bool hasAny = std::ranges::any_of(accounts, [](const Account &account) {
+        return account.enabled && account.type != AccountType::ICloud && account.type != AccountType::Zoho
+            && account.id != LocalDefaults::LocalAccountId && account.id != LocalDefaults::SampleAccountId;
+    });
+    say(hasAny ? tr("All caught up, nothing waiting to sync.")
+               : tr("No sync accounts configured. Add one in Calendar Accounts."),
+        5000);
+}
+
+void SyncScheduler::discover(const Account &account, const QString &password)
+{
+    auto *client = new CalDavClient(this);
+    client->setCredentials(account.username, password);
+    if (!account.trustedCertSha256.isEmpty())
+        client->setTrustedCertSha256(account.trustedCertSha256);
+    auto *discovery = new CalDavDiscovery(client, client);
+    const auto goOn = [this, client, account, password] {
+        client->deleteLater();
+        syncAccount(account, password);
+    };
+    connect(discovery, &CalDavDiscovery::completed, this,
+            [this, account, goOn](const QList<CalDavParse::DiscoveredCalendar> &calendars) {
+                const int inserted = CalDavRediscover::upsertDiscoveredCalendars(m_state, account.id, calendars);
+                if (inserted > 0)
+                    say(tr("Discovered %n new calendar(s).", nullptr, inserted), 4000);
+                goOn();
+            });
+    connect(discovery, &CalDavDiscovery::failed, this, [goOn](const QString &message) {
+        qWarning().noquote() << "[Sync] Rediscovery skipped:" << message;
+        goOn();
+    });
+    discovery->start(QUrl(account.serverUrl));
+}
+
+void SyncScheduler::syncAccount(const Account &account, const QString &password)
+{
+    const auto current = m_state->accounts()->getById(account.id);
+    const QList<Calendar> calendars = m_state->calendars()->getByAccount(account.id);
+    if (!current || !current->enabled || calendars.isEmpty())
+        return;
+    CalDavSyncClient *client = makeClient();
+    const auto remaining = std::make_shared<qsizetype>(calendars.size());
+    connect(client, &CalDavSyncClient::calendarSyncCompleted, this, [this](const QString &, int count) {
+        m_syncedTotal += count;
+        say(tr("Synced %1 events").arg(m_syncedTotal), 4000);
+    });
+    connect(client, &CalDavSyncClient::calendarSyncFailed, this,
+            [this](const QString &id, const QString &message) { onFailed(id, message, 6000); });
+    connect(client, &CalDavSyncClient::calendarSyncEnded, client, [client, remaining] {
+        if (--*remaining == 0)
+            client->deleteLater();
+    });
+    for (const Calendar &calendar : calendars)
+        client->syncCalendar(calendar, current->serverUrl, current->username, password, current->trustedCertSha256);
+}
+
+CalDavSyncClient *SyncScheduler::makeClient()
+{
+    auto *client = new CalDavSyncClient(m_state, this);
+    wire(client);
+    return client;
+}
+
+/// Counts the runs of \p client for AppState. A client that goes with runs open leaves nothing busy behind.
+void SyncScheduler::wire(CalDavSyncClient *client)
+{
+    const auto open = std::make_shared<int>(0);
+    connect(client, &CalDavSyncClient::calendarSyncStarted, m_state, [this, open] {
+        ++*open;
+        m_state->syncOpBegan();
+    });
+    const auto end = [this, open](bool failed) {
+        if (*open == 0)
+            return false;
+        --*open;
+        m_state->syncOpEnded(failed);
+        return true;
+    };
+    connect(client, &CalDavSyncClient::calendarSyncCompleted, m_state, [end] { end(false); });
+    connect(client, &CalDavSyncClient::calendarSyncFailed, m_state,
+            [this, open, end](const QString &calendarId, const QString &message) {
+                if (*open > 0)
+                    m_state->recordSyncError(calendarId, message);
+                end(true);
+            });
+    connect(client, &QObject::destroyed, m_state, [end] {
+        while (end(true)) { }
+    });
+}
+
+void SyncScheduler::onFailed(const QString &calendarId, const QString &message, int timeoutMs)
+{
+    m_failureStamps.insert(calendarId, now());
+    sayFailure(message, timeoutMs);
+}
+
+void SyncScheduler::setAccountError(Account account, const QString &error)
+{
+    if (account.lastSyncError == error)
+        return;
+    account.lastSyncError = error;
+    account.updatedAt = now();
+    m_state->accounts()->update(account);
+}
+
+void SyncScheduler::runForceFullSync()
+{
+    int discarded = 0;
+    int cleared = 0;
+    for (Calendar &calendar : m_state->calendars()->getAll()) {
+        const auto account = m_state->accounts()->getById(calendar.accountId);
+        const bool canSync =
+            account && account->enabled && isCalDavFamily(*account) && account->lastSyncError != passwordMissing();
+        if (canSync) {
+            discarded += std::max(m_state->events()->discardEdits(calendar.id), 0);
+            discarded += std::max(m_state->tasks()->discardEdits(calendar.id), 0);
+            m_state->events()->clearEtags(calendar.id);
+            m_state->tasks()->clearEtags(calendar.id);
+        }
+        if (calendar.ctag.isEmpty() && calendar.syncToken.isEmpty() && calendar.deltaSyncToken.isEmpty())
+            continue;
+        calendar.ctag.clear();
+        calendar.syncToken.clear();
+        calendar.deltaSyncToken.clear();
+        calendar.updatedAt = now();
+        cleared += m_state->calendars()->update(calendar);
+    }
+    if (discarded > 0)
+        qInfo() << "[ForceFullSync] Discarded" << discarded << "unsynced local edit(s) so the server's copy can win.";
+    for (Account &account : m_state->accounts()->getAll()) {
+        if (!account.lastSyncTime)
+            continue;
+        account.lastSyncTime.reset();
+        account.updatedAt = now();
+        m_state->accounts()->update(account);
+    }
+    m_state->preferences()->remove(QStringLiteral("config/sync/since"));
+    say(tr("Cleared %n calendar sync token(s), running full sync…", nullptr, cleared), 4000);
+    runSyncNow();
+}
+
+/// Good news does not hide bad news while that is to be read.
+void SyncScheduler::say(const QString &text, int timeoutMs)
+{
+    if (m_failureShown.hasExpired())
+        emit statusMessage(text, timeoutMs);
+}
+
+void SyncScheduler::sayFailure(const QString &text, int timeoutMs)
+{
+    m_failureShown.setRemainingTime(timeoutMs);
+    emit statusMessage(text, timeoutMs);
+}

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "models/Account.h"
+#include "models/Calendar.h"
+#include "storage/ChangeOrigin.h"
+#include "sync/Credentials.h"
+
+#include <QDateTime>
+#include <QDeadlineTimer>
+#include <QHash>
+#include <QObject>
+#include <QSet>
+#include <QString>
+#include <QTimer>
+
+#include <functional>
+
+class AppState;
+class CalDavSyncClient;
+
+/// When accounts sync: at the start, each at its interval, soon after an edit, and when asked. Counts what is in
+/// flight for AppState, and says what happened in words for the status bar. Nothing is tried again by itself: the
+/// next edit, interval or command is the next try.
+class SyncScheduler : public QObject {
+    Q_OBJECT
+
+public:
+    explicit SyncScheduler(AppState *state, QObject *parent = nullptr);
+
+    /// From here on edits, the clock and the start-up start runs.
+    void start();
+
+    [[nodiscard]] Credentials *credentials() const { return m_credentials; }
+    /// True if what waits in the calendar can go to its server now: an enabled account with its password, and no
+    /// failure within the last minute.
+    [[nodiscard]] bool canPush(const QString &calendarId) const;
+
+    static bool isCalDavFamily(const Account &account);
+    /// What Account::lastSyncError holds while there is no password.
+    static QString passwordMissing();
+
+public slots:
+    /// Every enabled account; those of the CalDAV family look for new calendars first. May ask for the keyring.
+    void runSyncNow();
+    /// The same: there is one round for all.
+    void runSyncForAccount(const Account &account);
+    /// Discards edits of what a server knows and reads everything anew. The caller has asked the user.
+    void runForceFullSync();
+    void runPeriodicSyncTick();
+    void runQueuedAutoSyncs();
+    void scheduleCalendarSync(const QString &calendarId);
+
+signals:
+    void statusMessage(const QString &text, int timeoutMs); ///< 0: until the next one
+
+private:
+    void onChanged(ChangeOrigin origin);
+    void onBusyChanged(bool busy);
+    void runRound(Credentials::Unlock unlock);
+    void onRoundPassword(const QString &accountId, const QString &password, bool isLast);
+    void finishRound();
+    void discover(const Account &account, const QString &password);
+    void syncAccount(const Account &account, const QString &password);
+    void autoSync(const Calendar &calendar, const Account &account, const QString &password);
+    CalDavSyncClient *makeClient();
+    void wire(CalDavSyncClient *client);
+    void onFailed(const QString &calendarId, const QString &message, int timeoutMs);
+    void setAccountError(Account account, const QString &error);
+    void say(const QString &text, int timeoutMs);
+    void sayFailure(const QString &text, int timeoutMs);
+    [[nodiscard]] bool isResting(const QString &calendarId) const;
+
+    AppState *m_state;
+    Credentials *m_credentials;
+    QTimer m_queue;
+    QTimer m_tick;
+    QSet<QString> m_pendingCalendars;
+    QHash<QString, QDateTime> m_failureStamps; // calendar to UTC
+    int m_syncedTotal = 0;
+    int m_startedAccounts = 0; // of the round that is being started
+    QDeadlineTimer m_failureShown;
+};
