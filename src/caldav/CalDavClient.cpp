@@ -8,6 +8,7 @@
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QRegularExpression>
 #include <QSslCertificate>
 #include <QSslConfiguration>
 #include <QSslError>
@@ -56,12 +57,29 @@ std::optional<QUrl> redirectTarget(const CalDavClient::Response &response, const
 }
 
 // QNetworkReply counts a status of 400 and above as an error too, which says nothing about the body.
-bool isWhole(const QNetworkReply &reply, int status)
+bool hasTransferError(const QNetworkReply &reply, int status)
 {
     const QNetworkReply::NetworkError error = reply.error();
     if (status >= 400)
-        return error > QNetworkReply::UnknownProxyError && error != QNetworkReply::ContentReSendError;
-    return status > 0 && error == QNetworkReply::NoError;
+        return error <= QNetworkReply::UnknownProxyError || error == QNetworkReply::ContentReSendError;
+    return status == 0 || error != QNetworkReply::NoError;
+}
+
+bool endsMultistatus(const QByteArray &body)
+{
+    static const QRegularExpression end(
+        QStringLiteral("</([\\w.-]+:)?multistatus\\s*>|<([\\w.-]+:)?multistatus(\\s[^<>]*)?/>"));
+    return QString::fromLatin1(body.last(std::min<qsizetype>(body.size(), 4096))).contains(end);
+}
+
+// QNetworkAccessManager does not always notice that a connection closed in the middle of an answer: where the close
+// arrives together with the last data, it takes what it has for the whole.
+bool isCut(const CalDavClient::Response &response)
+{
+    const QByteArray length = response.header("Content-Length");
+    if (!length.isEmpty() && response.header("Content-Encoding").isEmpty())
+        return response.body.size() != length.toLongLong();
+    return response.status == 207 && !endsMultistatus(response.body);
 }
 
 QString errorText(const QNetworkReply &reply)
@@ -80,7 +98,7 @@ CalDavClient::Response readResponse(QNetworkReply *reply)
         response.headers.insert(name, value);
     if (reply->error() != QNetworkReply::NoError && response.status == 0)
         response.error = errorText(*reply);
-    response.isWhole = isWhole(*reply, response.status);
+    response.isWhole = !hasTransferError(*reply, response.status) && !isCut(response);
     return response;
 }
 

@@ -40,7 +40,9 @@ public:
         QByteArray body;
         QHash<QByteArray, QByteArray> headers; ///< names as the server spells them
         QString error; ///< only if there is no status; for the user
-        bool isWhole = false; ///< the body arrived to its end
+        /// The body arrived to its end, as far as its length or the end of its multistatus tells. One that came in
+        /// chunks, and is no multistatus, may be cut all the same.
+        bool isWhole = false;
 
         [[nodiscard]] bool isSuccess() const { return error.isEmpty() && status >= 200 && status <= 299; }
         [[nodiscard]] QByteArray header(const QByteArray &name) const; ///< whatever its case; empty if there is none
