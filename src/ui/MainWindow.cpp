@@ -9,9 +9,9 @@
 #include "storage/CalendarRepository.h"
 #include "storage/EventRepository.h"
 #include "storage/PreferencesRepository.h"
-#include "ui/ActionTable.h"
 #include "sync/SyncScheduler.h"
 #include "ui/AccountPill.h"
+#include "ui/ActionTable.h"
 #include "ui/FiltersPill.h"
 #include "ui/GroupButton.h"
 #include "ui/IcsImportFlow.h"
@@ -137,7 +137,7 @@ void MainWindow::buildStatusBar()
     auto *pill = new FiltersPill(m_state);
     connect(pill, &FiltersPill::addRequested, this, &MainWindow::openAddFilterDialog);
     connect(pill, &FiltersPill::manageRequested, this, &MainWindow::openManageFiltersDialog);
-    auto *accounts = new AccountPill(m_state);
+    auto *accounts = new AccountPill(m_state, statusBar()); // it shows itself
     connect(accounts, &QToolButton::clicked, this, &MainWindow::openCalendarAccounts);
     statusBar()->addPermanentWidget(accounts);
     statusBar()->addPermanentWidget(pill);
@@ -145,9 +145,7 @@ void MainWindow::buildStatusBar()
         connect(scheduler, &SyncScheduler::statusMessage, statusBar(), &QStatusBar::showMessage);
 }
 
-void MainWindow::openCalendarAccounts()
-{
-}
+void MainWindow::openCalendarAccounts() { }
 
 void MainWindow::runSyncNow()
 {
