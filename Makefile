@@ -25,6 +25,7 @@ bench:
 	@cmake --preset bench
 	@cmake --build --preset bench --parallel $(JOBS)
 	@build/release/bin/quillon-bench
+	@bench/caldav.py
 
 # Pictures of the window in both themes, sizes and several languages, into build/screenshots.
 screenshots: build

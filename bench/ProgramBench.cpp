@@ -1,5 +1,6 @@
 #include "ProgramBench.h"
 
+#include "Heart.h"
 #include "SampleFile.h"
 #include "app/state/AppState.h"
 #include "calendar/FilterEngine.h"
@@ -45,35 +46,6 @@ void row(const QString &work, double figure, const char *unit, std::optional<dou
 QString withCount(const char *work, int events)
 {
     return QString::fromLatin1(work).arg(QLocale::c().toString(events));
-}
-
-/// Feels how long the event loop is not free.
-class Heart {
-public:
-    Heart()
-    {
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
-            m_longestMs = std::max(m_longestMs, m_sinceBeat.elapsedMs());
-            m_sinceBeat = {};
-        });
-        m_timer.start(0);
-    }
-
-    [[nodiscard]] double longestHoldMs() const { return m_longestMs; }
-
-private:
-    QTimer m_timer;
-    Report::Stopwatch m_sinceBeat;
-    double m_longestMs = 0;
-};
-
-/// The longest hold of the event loop until \p isDone.
-template <typename Condition> double longestHoldUntil(Condition isDone)
-{
-    Heart heart;
-    while (!isDone())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    return heart.longestHoldMs();
 }
 
 struct Import {

@@ -3,11 +3,13 @@
 // quillon-bench parse FILE                   one JSON line
 // quillon-bench expand FILE FROM TO REPEATS  a JSON line for each repeat; dates as yyyyMMdd, UTC
 // quillon-bench generate FILE EVENTS YEARS   writes the sample file
+// quillon-bench sync DB URL USER PW [edit]   one sync, one JSON line; see bench/caldav.py
 
 #include "CalendarBench.h"
 #include "Comparison.h"
 #include "ProgramBench.h"
 #include "SampleFile.h"
+#include "SyncBench.h"
 #include "platform/LocalTime.h"
 
 #include <QApplication>
@@ -37,7 +39,11 @@ bool dispatch(const QStringList &arguments)
         return CalendarBench::expand(arguments[2], arguments[3], arguments[4], arguments[5].toInt());
     if (command == u"generate" && arguments.size() == 5)
         return generate(arguments[2], arguments[3].toInt(), arguments[4].toInt());
-    std::fputs("usage: quillon-bench [program | parse FILE | expand FILE FROM TO REPEATS | generate FILE EVENTS YEARS]\n", stderr);
+    if (command == u"sync")
+        return SyncBench::run(arguments.mid(2));
+    std::fputs("usage: quillon-bench [program | parse FILE | expand FILE FROM TO REPEATS | generate FILE EVENTS YEARS |"
+               " sync DB URL USER PASSWORD [edit]]\n",
+               stderr);
     return false;
 }
 

@@ -15,12 +15,22 @@ class QNetworkAccessManager;
 class QNetworkReply;
 class QSslError;
 
-/// The one place that speaks HTTP to a CalDAV server, for one account and the length of one job. Credentials go out
-/// with every request (RFC 7617), and only to the host they are for. Redirects are followed here, for every verb and with verb and
-/// body kept, at most 5 in a row. No time-outs, no retries: those are the job's.
+/// The one place that speaks HTTP to a CalDAV server, for one account and the length of one job. No time-outs: those
+/// are the job's.
+///
+/// Credentials go out with every request (RFC 7617), without being asked for. User and password within a URL are
+/// not used.
+///
+/// Redirects are followed here, for every verb and with verb and body kept, at most 5 in a row. One that leads from
+/// https to http, or to another scheme, is not followed: the caller gets it as the answer. Credentials go along as far
+/// as CredentialScope says, to the same host and to others under the same registered domain; elsewhere the request
+/// goes without them.
+///
+/// What changes something on the server is sent once: if the connection closes before the answer, the caller gets an
+/// error and cannot know whether it happened. A PROPFIND, REPORT or GET may be sent again.
 ///
 /// A continuation runs from the event loop, never before the call has returned, and not at all once the client is
-/// gone or abort() was called.
+/// gone or abort() was called. It may delete the client.
 class CalDavClient : public QObject {
     Q_OBJECT
 
@@ -30,7 +40,9 @@ public:
         QByteArray body;
         QHash<QByteArray, QByteArray> headers; ///< names as the server spells them
         QString error; ///< only if there is no status; for the user
-        bool isWhole = false; ///< the body arrived to its end
+        /// The body arrived to its end, as far as its length or the end of its multistatus tells. One that came in
+        /// chunks, and is no multistatus, may be cut all the same.
+        bool isWhole = false;
 
         [[nodiscard]] bool isSuccess() const { return error.isEmpty() && status >= 200 && status <= 299; }
         [[nodiscard]] QByteArray header(const QByteArray &name) const; ///< whatever its case; empty if there is none
@@ -82,12 +94,13 @@ signals:
 
 private:
     struct Request;
-    void send(Request request);
+    void send(const Request &request);
     QNetworkReply *sendRaw(const Request &request);
-    void onFinished(QNetworkReply *reply, Request request);
+    void onFinished(QNetworkReply *reply, const Request &request);
     void onSslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
 
     QNetworkAccessManager *m_manager;
+    QList<QNetworkReply *> m_inFlight; ///< whose continuations are still to run
     QString m_username;
     QString m_password;
     QString m_trustedCertSha256;

@@ -2,5 +2,6 @@
 
 #include <QLoggingCategory>
 
-/// "calendar.caldav": what runs of sync do. Never credentials, never the text of an event.
+/// "calendar.caldav": what runs of sync do, with the titles of what they move when debug output is on. Never
+/// credentials.
 Q_DECLARE_LOGGING_CATEGORY(caldavLog)

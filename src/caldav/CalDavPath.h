@@ -6,7 +6,8 @@
 /// Addresses of resources on a CalDAV server. Paths are kept decoded and go out encoded.
 namespace CalDavPath {
 
-/// The URL of \p decodedPath on the server of \p calendarUrl; blanks, "#", "?" and "%" in the path stand for themselves.
+/// The URL of \p decodedPath on the server of \p calendarUrl; blanks, "#", "?" and "%" in the path stand for
+/// themselves.
 QUrl resourceUrl(const QUrl &calendarUrl, const QString &decodedPath);
 
 /// The decoded path of a new resource: that of the calendar, whether or not its URL ends in a slash, and

@@ -8,8 +8,8 @@
 class AppState;
 
 /// Brings calendars of a CalDAV server and the local tables into step: for each a complete listing, then the pending
-/// rows, one request at a time. Runs of several calendars go side by side; a second run of a calendar waits for the first,
-/// whichever client has it.
+/// rows, one request at a time. Runs of several calendars go side by side; a second run of a calendar waits for the
+/// first, whichever client has it.
 class CalDavSyncClient : public QObject {
     Q_OBJECT
 

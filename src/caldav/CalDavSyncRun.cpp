@@ -64,8 +64,8 @@ void CalDavSyncRun::onCtag(const CalDavClient::Response &response)
 
 void CalDavSyncRun::runPull()
 {
-    m_pull = new CalendarPull(m_session, m_events.get(), QStringLiteral("VEVENT"), CalendarPull::MissingText::Fetch,
-                              this);
+    m_pull =
+        new CalendarPull(m_session, m_events.get(), QStringLiteral("VEVENT"), CalendarPull::MissingText::Fetch, this);
     connect(m_pull, &CalendarPull::progressed, this, &CalDavSyncRun::progressed);
     connect(m_pull, &CalendarPull::refused, this, &CalDavSyncRun::onEventsRefused);
     connect(m_pull, &CalendarPull::finished, this, &CalDavSyncRun::onEventsPulled);
@@ -85,8 +85,8 @@ void CalDavSyncRun::onEventsPulled()
     m_count = m_pull->readCount();
     m_texts = m_pull->takeTexts();
     if (m_pull->removedCount() > 0)
-        qCInfo(caldavLog).noquote() << "[CalDav] Pull removed" << m_pull->removedCount() << "server-deleted event(s) for"
-                                    << m_calendar.name;
+        qCInfo(caldavLog).noquote() << "[CalDav] Pull removed" << m_pull->removedCount()
+                                    << "server-deleted event(s) for" << m_calendar.name;
     if (m_pull->shortfall().isEmpty())
         saveCalendar();
     else
@@ -154,10 +154,11 @@ void CalDavSyncRun::onTasksPulled()
         qInfo().noquote() << "[CalDav] Task pull removed" << m_pull->removedCount() << "server-deleted task(s) for"
                           << m_calendar.name;
     if (m_pull->missingCount() > 0)
-        qWarning().noquote() << "[CalDav]" << m_calendar.name << "task REPORT returned" << m_pull->resourceCount()
-                             << "resources without inline data for all of them; skipping deletion reconciliation rather "
-                                "than removing tasks the server never described. Tasks on this server need the "
-                                "calendar-multiget fallback the event pull has.";
+        qWarning().noquote()
+            << "[CalDav]" << m_calendar.name << "task REPORT returned" << m_pull->resourceCount()
+            << "resources without inline data for all of them; skipping deletion reconciliation rather "
+               "than removing tasks the server never described. Tasks on this server need the "
+               "calendar-multiget fallback the event pull has.";
     if (!m_pull->shortfall().isEmpty())
         noteFailure(tr("Network error during task pull: %1").arg(m_pull->shortfall()));
     std::exchange(m_pull, nullptr)->deleteLater();

@@ -3,6 +3,7 @@
 #include "caldav/CalDavLog.h"
 #include "caldav/CalDavPath.h"
 #include "caldav/CalDavSession.h"
+#include "caldav/PushVerdict.h"
 #include "caldav/SilenceGuard.h"
 #include "calendar/ResourceComposer.h"
 
@@ -39,7 +40,8 @@ void CalendarPush::start()
 {
     m_queue = m_table->pendingResources();
     if (!m_queue.isEmpty())
-        qCDebug(caldavLog).noquote() << "[CalDav] Push for" << m_session->calendarName() << "pending=" << m_queue.size();
+        qCDebug(caldavLog).noquote() << "[CalDav] Push for" << m_session->calendarName()
+                                     << "pending=" << m_queue.size();
     pushNextSoon();
 }
 
@@ -84,9 +86,8 @@ void CalendarPush::prepare()
 
 void CalendarPush::fetchText()
 {
-    m_session->client()->get(
-        CalDavPath::resourceUrl(m_session->calendarUrl(), m_current->href),
-        m_session->watched(SilenceGuard::SilenceMs, std::bind_front(&CalendarPush::onText, this)));
+    m_session->client()->get(CalDavPath::resourceUrl(m_session->calendarUrl(), m_current->href),
+                             m_session->watched(SilenceGuard::SilenceMs, std::bind_front(&CalendarPush::onText, this)));
 }
 
 void CalendarPush::onText(const CalDavClient::Response &response)
@@ -108,12 +109,11 @@ void CalendarPush::onText(const CalDavClient::Response &response)
 void CalendarPush::send(const CalDavParse::EventResource &newest)
 {
     m_kind = newest.href.isEmpty() ? Kind::Create : Kind::Update;
-    m_href = newest.href.isEmpty() ? CalDavPath::newResourcePath(m_session->calendarUrl(), m_current->uid)
-                                   : newest.href;
+    m_href =
+        newest.href.isEmpty() ? CalDavPath::newResourcePath(m_session->calendarUrl(), m_current->uid) : newest.href;
     m_etag = newest.etag;
-    const ResourceComposer::Composed composed =
-        m_current->compose(newest.calendarData.toUtf8(),
-                           { .now = QDateTime::currentDateTimeUtc(), .ownAddresses = m_ownAddresses });
+    const ResourceComposer::Composed composed = m_current->compose(
+        newest.calendarData.toUtf8(), { .now = QDateTime::currentDateTimeUtc(), .ownAddresses = m_ownAddresses });
     if (composed.text.isEmpty()) {
         m_kind = Kind::Delete;
         return sendDeletion(m_etag);
@@ -151,8 +151,13 @@ void CalendarPush::onAnswer(const CalDavClient::Response &response)
                                        << response.error;
         return emit failed(m_policy.networkMessage(response.error));
     }
-    if (response.isSuccess() || (m_kind == Kind::Delete && isMissing(response.status)))
-        return onAccepted(response);
+    const auto verdict = m_kind == Kind::Delete ? PushVerdict::ofDelete(response, m_texts.contains(m_href))
+                                                : PushVerdict::ofPut(response);
+    m_newEtag = CalDavPath::etagFromHeader(response.header("ETag"));
+    if (verdict == PushVerdict::Accepted)
+        return onAccepted();
+    if (verdict == PushVerdict::Doubtful)
+        return lookAgain(response.status);
     if (response.status == PreconditionFailed && m_policy.retriesWithoutIfMatch && !m_hasRetried
         && m_kind != Kind::Create) {
         qCInfo(caldavLog).noquote() << "[CalDav] Task push 412 for" << m_current->title
@@ -168,10 +173,39 @@ void CalendarPush::onAnswer(const CalDavClient::Response &response)
     refuse(response.status);
 }
 
-void CalendarPush::onAccepted(const CalDavClient::Response &response)
+void CalendarPush::lookAgain(int status)
+{
+    m_session->client()->get(
+        resourceUrl(),
+        m_session->watched(SilenceGuard::SilenceMs, std::bind_front(&CalendarPush::onLookedAgain, this, status)));
+}
+
+void CalendarPush::onLookedAgain(int status, const CalDavClient::Response &response)
+{
+    if (!response.error.isEmpty())
+        return emit failed(m_policy.networkMessage(response.error));
+    const bool isDone = m_kind == Kind::Delete ? isMissing(response.status) : isStored(response);
+    if (isDone)
+        onAccepted();
+    else
+        refuse(status);
+}
+
+/// The resource is of our UID, and no longer what it was. Its text may differ from what was sent: a server that
+/// gives no etag may have changed it.
+bool CalendarPush::isStored(const CalDavClient::Response &response) const
+{
+    if (!response.isSuccess() || !response.isWhole || !m_current->isIn(response.body))
+        return false;
+    const QString etag = CalDavPath::etagFromHeader(response.header("ETag"));
+    return m_kind == Kind::Create || response.body == m_body
+        || (!m_etag.isEmpty() && !etag.isEmpty() && etag != m_etag);
+}
+
+void CalendarPush::onAccepted()
 {
     if (m_kind != Kind::Delete)
-        m_current->accepted(m_href, CalDavPath::etagFromHeader(response.header("ETag")));
+        m_current->accepted(m_href, m_newEtag);
     else if (!m_current->deleted())
         qCWarning(caldavLog).noquote() << "[CalDav] hardDelete failed for" << m_current->title
                                        << "id=" << m_current->id;

@@ -52,7 +52,10 @@ private:
     void sendText(const std::optional<QString> &etag);
     void sendDeletion(const std::optional<QString> &etag);
     void onAnswer(const CalDavClient::Response &response);
-    void onAccepted(const CalDavClient::Response &response);
+    void lookAgain(int status);
+    void onLookedAgain(int status, const CalDavClient::Response &response);
+    [[nodiscard]] bool isStored(const CalDavClient::Response &response) const;
+    void onAccepted();
     void refuse(int status);
     [[nodiscard]] QUrl resourceUrl() const;
     [[nodiscard]] CalDavClient::Callback answered();
@@ -68,6 +71,7 @@ private:
     QString m_href; // where the current resource goes
     QString m_etag; // of the text under the current one
     QByteArray m_body;
+    QString m_newEtag; // what the answer gave
     bool m_hasRetried = false;
     QString m_firstRefusal;
 };

@@ -28,6 +28,7 @@ struct Events {
     static QList<Event> parse(const QString &text) { return ICalParser::parse(text); }
     static bool isReadable(const Event &event) { return event.startTime.isValid(); }
     static QString key(const Event &event) { return event.recurrenceId; }
+    static QString when(const Event &event) { return event.startTime.toString(Qt::ISODate); }
 
     std::optional<Event> find(const Event &event) const
     {
@@ -54,6 +55,7 @@ struct Tasks {
     static QList<Task> parse(const QString &text) { return ICalParser::parseTasks(text); }
     static bool isReadable(const Task &) { return true; }
     static QString key(const Task &) { return {}; }
+    static QString when(const Task &task) { return task.dueDate ? task.dueDate->toString(Qt::ISODate) : QString(); }
 
     std::optional<Task> find(const Task &task) const { return repository->getByUid(task.uid, calendarId); }
     QList<Task> family(const QString &uid) const
@@ -61,8 +63,8 @@ struct Tasks {
         const auto task = repository->getByUid(uid, calendarId);
         return task ? QList<Task>{ *task } : QList<Task>();
     }
-    static ResourceComposer::Composed compose(const QByteArray &newest, const QList<Task> &changed,
-                                              const QList<Task> &, const ResourceComposer::Context &context)
+    static ResourceComposer::Composed compose(const QByteArray &newest, const QList<Task> &changed, const QList<Task> &,
+                                              const ResourceComposer::Context &context)
     {
         // A task has its resource for itself: a deletion leaves nothing.
         return changed.isEmpty() ? ResourceComposer::Composed{ .text = {}, .isChanged = true }
@@ -136,6 +138,12 @@ public:
         const ResourceComposer::Composed composed = m_kind.compose(newest, m_changed, m_removed, context);
         m_sent = composed.text;
         return composed;
+    }
+
+    [[nodiscard]] bool isIn(const QByteArray &text) const override
+    {
+        const QList<Record> records = Kind::parse(QString::fromUtf8(text));
+        return std::ranges::find(records, uid, &Record::uid) != records.end();
     }
 
     void accepted(const QString &newHref, const QString &newEtag) override
@@ -290,10 +298,23 @@ private:
     // A text that was cut off must not take away what stood behind the cut.
     static bool isWhole(const QString &text) { return text.trimmed().endsWith(QLatin1StringView("END:VCALENDAR")); }
 
+    static void logPulled(const Record &record, const std::optional<Record> &stored)
+    {
+        if (!caldavLog().isDebugEnabled())
+            return;
+        const QString existing =
+            stored ? QStringLiteral("id=%1 status=%2").arg(stored->id, stored->syncStatus) : QStringLiteral("(none)");
+        const QString key = Kind::key(record);
+        qCDebug(caldavLog).noquote() << "[CalDav] pull row" << record.title << "uid=" << record.uid
+                                     << "recurrenceId=" << (key.isEmpty() ? QStringLiteral("(empty)") : key)
+                                     << "existing=" << existing << "serverStart=" << Kind::when(record);
+    }
+
     void storeRecord(Record record, const std::optional<Record> &stored, const CalDavParse::EventResource &resource,
                      const QSet<QString> &listed, Stored &result)
     {
         ++result.read;
+        logPulled(record, stored);
         // Another resource that holds the same UID keeps the row: else the two would take it from each other for ever.
         if (stored && !stored->href.isEmpty() && stored->href != resource.href && listed.contains(stored->href))
             return;

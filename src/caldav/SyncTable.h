@@ -28,6 +28,8 @@ public:
 
     /// See ResourceComposer. The text is kept for accepted().
     virtual ResourceComposer::Composed compose(const QByteArray &newest, const ResourceComposer::Context &context) = 0;
+    /// True if this text of a resource holds something of this UID.
+    [[nodiscard]] virtual bool isIn(const QByteArray &text) const = 0;
     /// The server has what was composed last.
     virtual void accepted(const QString &newHref, const QString &newEtag) = 0;
     /// The server has no such resource any more. A row that was restored meanwhile is new to it.

@@ -66,7 +66,8 @@ QString ordinalWord(int ordinal)
     case -2:
         return Tr::tr("second-to-last");
     default:
-        return ordinal > 0 ? Tr::tr("%1st").arg(ordinal) : Tr::tr("%1th-from-last").arg(qAbs(qint64(ordinal)));
+        return ordinal > 0 ? Tr::tr("%1st", "weekday of a month").arg(ordinal)
+                           : Tr::tr("%1th-from-last").arg(qAbs(qint64(ordinal)));
     }
 }
 
@@ -75,7 +76,7 @@ QString dayOfMonth(int day)
     const bool isTeen = day >= 11 && day <= 13;
     switch (isTeen ? 0 : day % 10) {
     case 1:
-        return Tr::tr("%1st").arg(day);
+        return Tr::tr("%1st", "day of a month").arg(day);
     case 2:
         return Tr::tr("%1nd").arg(day);
     case 3:

@@ -21,7 +21,11 @@ Database::~Database()
 bool Database::open(const QString &path)
 {
     close();
-    m_db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
+    // Two databases may be open at a time, as two devices are in a test.
+    const QString usualName = QLatin1StringView(QSqlDatabase::defaultConnection);
+    const bool isTaken = QSqlDatabase::database(usualName, false).isOpen();
+    m_db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"),
+                                     isTaken ? QStringLiteral("database-%1").arg(quintptr(this)) : usualName);
     m_db.setDatabaseName(path);
     if (!m_db.open()) {
         qCritical().noquote() << "Failed to open database:" << m_db.lastError().text();
@@ -47,11 +51,8 @@ void Database::close()
         return;
     m_db.close();
     const QString name = m_db.connectionName();
-    // Another Database may have taken the connection name over in the meantime.
-    const bool isOurs = QSqlDatabase::database(name, false).driver() == m_db.driver();
     m_db = QSqlDatabase();
-    if (isOurs)
-        QSqlDatabase::removeDatabase(name);
+    QSqlDatabase::removeDatabase(name);
 }
 
 std::unique_ptr<QSqlQuery> Database::takePrepared(const QString &sql)

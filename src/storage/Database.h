@@ -21,7 +21,8 @@ public:
     explicit Database(QObject *parent = nullptr);
     ~Database() override;
 
-    /// Opens (or creates) the file at \p path on Qt's default connection, with WAL and foreign keys on.
+    /// Opens (or creates) the file at \p path on Qt's default connection (on one of its
+    /// own if that is in use), with WAL and foreign keys on.
     /// False, with a critical log line, if SQLite refuses.
     bool open(const QString &path);
     [[nodiscard]] bool isOpen() const { return m_isOpen; }

@@ -71,8 +71,8 @@ QStringList SyncRows::pendingCalendarIds(Database *database, const char *table)
 bool SyncRows::setAddress(Database *database, const char *table, const QString &id, const QString &href,
                           const QString &etag)
 {
-    return runStatement(database, "Storing an address failed:",
-                        forTable("UPDATE %1 SET href = ?, etag = ? WHERE id = ?", table),
+    return runStatement(database,
+                        "Storing an address failed:", forTable("UPDATE %1 SET href = ?, etag = ? WHERE id = ?", table),
                         { NullableText::store(href), NullableText::store(etag), id });
 }
 

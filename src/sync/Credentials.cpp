@@ -24,9 +24,9 @@ QString keyOf(const QString &accountId)
 
 std::unique_ptr<TokenStore> openStore(Credentials::Unlock unlock)
 {
-    return TokenStore::create(Platform::tokenStoreAppId(), unlock == Credentials::Unlock::MayAsk
-                                  ? TokenStore::Unlock::Wait
-                                  : TokenStore::Unlock::Never);
+    return TokenStore::create(Platform::tokenStoreAppId(),
+                              unlock == Credentials::Unlock::MayAsk ? TokenStore::Unlock::Wait
+                                                                    : TokenStore::Unlock::Never);
 }
 
 }

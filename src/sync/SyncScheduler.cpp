@@ -145,9 +145,8 @@ void SyncScheduler::autoSync(const Calendar &calendar, const Account &account, c
         if (count > 0)
             say(tr("Synced %1 events").arg(count), 3000);
     });
-    connect(client, &CalDavSyncClient::calendarSyncFailed, this, [this](const QString &id, const QString &message) {
-        onFailed(id, message, 5000);
-    });
+    connect(client, &CalDavSyncClient::calendarSyncFailed, this,
+            [this](const QString &id, const QString &message) { onFailed(id, message, 5000); });
     // A notice of a rejected task is no end: the run completes after it.
     connect(client, &CalDavSyncClient::calendarSyncEnded, client, &QObject::deleteLater);
     client->syncCalendar(calendar, account.serverUrl, account.username, password, account.trustedCertSha256);
@@ -194,10 +193,9 @@ void SyncScheduler::runRound(Credentials::Unlock unlock)
     // The store answers in the order of the questions.
     for (const Account &account : std::as_const(accounts)) {
         const bool isLast = account.id == accounts.last().id;
-        m_credentials->caldavPassword(account.id, unlock, this,
-                                      [this, id = account.id, isLast](const QString &password) {
-                                          onRoundPassword(id, password, isLast);
-                                      });
+        m_credentials->caldavPassword(
+            account.id, unlock, this,
+            [this, id = account.id, isLast](const QString &password) { onRoundPassword(id, password, isLast); });
     }
 }
 
@@ -271,9 +269,8 @@ void SyncScheduler::syncAccount(const Account &account, const QString &password)
         m_syncedTotal += count;
         say(tr("Synced %1 events").arg(m_syncedTotal), 4000);
     });
-    connect(client, &CalDavSyncClient::calendarSyncFailed, this, [this](const QString &id, const QString &message) {
-        onFailed(id, message, 6000);
-    });
+    connect(client, &CalDavSyncClient::calendarSyncFailed, this,
+            [this](const QString &id, const QString &message) { onFailed(id, message, 6000); });
     connect(client, &CalDavSyncClient::calendarSyncEnded, client, [client, remaining] {
         if (--*remaining == 0)
             client->deleteLater();
@@ -337,8 +334,8 @@ void SyncScheduler::runForceFullSync()
     int cleared = 0;
     for (Calendar &calendar : m_state->calendars()->getAll()) {
         const auto account = m_state->accounts()->getById(calendar.accountId);
-        const bool canSync = account && account->enabled && isCalDavFamily(*account)
-            && account->lastSyncError != passwordMissing();
+        const bool canSync =
+            account && account->enabled && isCalDavFamily(*account) && account->lastSyncError != passwordMissing();
         if (canSync) {
             discarded += std::max(m_state->events()->discardEdits(calendar.id), 0);
             discarded += std::max(m_state->tasks()->discardEdits(calendar.id), 0);

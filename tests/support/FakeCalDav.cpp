@@ -84,6 +84,9 @@ HttpServer::Reply FakeCalDav::answer(const HttpServer::Request &request)
         return reply;
     case Fault::ForeignXml:
         return { .status = 200, .body = "<html><body>Please sign in<br></body></html>", .headers = {} };
+    case Fault::SilenceAfter:
+        act(request);
+        [[fallthrough]];
     case Fault::Silence:
         reply.fault = HttpServer::Fault::Hang;
         return reply;
@@ -100,7 +103,7 @@ HttpServer::Reply FakeCalDav::answer(const HttpServer::Request &request)
 HttpServer::Reply FakeCalDav::act(const HttpServer::Request &request)
 {
     const QByteArray path = QByteArray::fromPercentEncoding(request.target);
-    const QByteArray collection = QString::fromUtf16(CalendarPath).toUtf8();
+    const QByteArray collection = QByteArray(CalendarPath);
     if (request.method == "PROPFIND")
         return propfind(request);
     if (request.method == "REPORT")
@@ -121,26 +124,26 @@ HttpServer::Reply FakeCalDav::act(const HttpServer::Request &request)
 
 HttpServer::Reply FakeCalDav::propfind(const HttpServer::Request &request) const
 {
-    const QByteArray collection = QString::fromUtf16(CalendarPath).toUtf8();
+    const QByteArray collection = QByteArray(CalendarPath);
     QByteArray body;
     if (request.body.contains("current-user-principal"))
-        body = response(request.target, "<D:current-user-principal><D:href>/alice/</D:href></D:current-user-principal>");
+        body =
+            response(request.target, "<D:current-user-principal><D:href>/alice/</D:href></D:current-user-principal>");
     else if (request.body.contains("calendar-home-set"))
         body = response(Home, "<C:calendar-home-set><D:href>/alice/</D:href></C:calendar-home-set>");
     else
-        body = response(collection,
-                        "<D:resourcetype><D:collection/><C:calendar/></D:resourcetype><D:displayname>Work</D:displayname>"
-                        "<CS:getctag>"
-                            + ctag()
-                            + "</CS:getctag><C:supported-calendar-component-set><C:comp name=\"VEVENT\"/>"
-                            + (takesTasks ? "<C:comp name=\"VTODO\"/>" : "")
-                            + "</C:supported-calendar-component-set>");
+        body =
+            response(collection,
+                     "<D:resourcetype><D:collection/><C:calendar/></D:resourcetype><D:displayname>Work</D:displayname>"
+                     "<CS:getctag>"
+                         + ctag() + "</CS:getctag><C:supported-calendar-component-set><C:comp name=\"VEVENT\"/>"
+                         + (takesTasks ? "<C:comp name=\"VTODO\"/>" : "") + "</C:supported-calendar-component-set>");
     return { .status = 207, .body = multistatus(body), .headers = {} };
 }
 
 HttpServer::Reply FakeCalDav::report(const HttpServer::Request &request) const
 {
-    const QByteArray collection = QString::fromUtf16(CalendarPath).toUtf8();
+    const QByteArray collection = QByteArray(CalendarPath);
     QByteArray body;
     if (request.body.contains("calendar-multiget")) {
         static const QRegularExpression href(QStringLiteral("<d:href>(.*?)</d:href>"));
@@ -167,7 +170,7 @@ QByteArray FakeCalDav::listed(const QByteArray &name, bool withText) const
     QByteArray properties = "<D:getetag>\"" + QByteArray::number(object.version) + "\"</D:getetag>";
     if (withText)
         properties += "<C:calendar-data>" + xmlEscaped(object.text) + "</C:calendar-data>";
-    return response(QString::fromUtf16(CalendarPath).toUtf8() + name.toPercentEncoding("/:@"), properties);
+    return response(QByteArray(CalendarPath) + name.toPercentEncoding("/:@"), properties);
 }
 
 bool FakeCalDav::matches(const HttpServer::Request &request, const QByteArray &name) const

@@ -24,7 +24,8 @@ public:
             CutBody, ///< the answer ends in the middle
             TruncatedXml, ///< a whole answer, but half of the body
             ForeignXml, ///< a page of somebody else
-            Silence,
+            Silence, ///< no answer, and nothing done
+            SilenceAfter, ///< ... but done
             DropBefore, ///< the connection goes before the request was acted on
             DropAfter, ///< ... and after
         };
@@ -36,7 +37,7 @@ public:
 
     [[nodiscard]] HttpServer &http() { return m_http; }
     [[nodiscard]] QUrl url(const QString &path = QStringLiteral("/")) const { return m_http.url(path); }
-    [[nodiscard]] QString calendarUrl() const { return m_http.url(CalendarPath).toString(); }
+    [[nodiscard]] QString calendarUrl() const { return m_http.url(QString::fromLatin1(CalendarPath)).toString(); }
 
     /// Another device's doing. \p name as in "standup.ics".
     void store(const QByteArray &name, const QByteArray &text);
@@ -57,7 +58,7 @@ public:
     bool takesTasks = true;
     bool refusesSameUid = true; ///< 409 for another resource with a UID that is there
 
-    static constexpr char16_t CalendarPath[] = u"/alice/work/";
+    static constexpr char CalendarPath[] = "/alice/work/";
 
 private:
     HttpServer::Reply answer(const HttpServer::Request &request);

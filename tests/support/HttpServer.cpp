@@ -1,29 +1,59 @@
 #include "support/HttpServer.h"
 
 #include <QHostAddress>
+#include <QSslConfiguration>
+#include <QSslServer>
 #include <QTcpSocket>
 
-HttpServer::HttpServer(QObject *parent)
-    : QObject(parent)
+namespace {
+
+std::unique_ptr<QTcpServer> tlsServer(const QSslConfiguration &tls)
 {
-    if (!m_server.listen(QHostAddress::LocalHost))
+    auto server = std::make_unique<QSslServer>();
+    server->setSslConfiguration(tls);
+    return server;
+}
+
+QByteArray chunk(const QByteArray &data)
+{
+    return QByteArray::number(data.size(), 16) + "\r\n" + data + "\r\n";
+}
+
+}
+
+HttpServer::HttpServer(QObject *parent)
+    : HttpServer(std::make_unique<QTcpServer>(), QStringLiteral("http"), parent)
+{
+}
+
+HttpServer::HttpServer(const QSslConfiguration &tls, QObject *parent)
+    : HttpServer(tlsServer(tls), QStringLiteral("https"), parent)
+{
+}
+
+HttpServer::HttpServer(std::unique_ptr<QTcpServer> server, const QString &scheme, QObject *parent)
+    : QObject(parent)
+    , m_scheme(scheme)
+    , m_server(std::move(server))
+{
+    if (!m_server->listen(QHostAddress::LocalHost))
         qFatal("cannot listen on the loopback address");
-    connect(&m_server, &QTcpServer::newConnection, this, &HttpServer::onNewConnection);
+    connect(m_server.get(), &QTcpServer::pendingConnectionAvailable, this, &HttpServer::onNewConnection);
 }
 
 QUrl HttpServer::url(const QString &path) const
 {
     QUrl url;
-    url.setScheme(QStringLiteral("http"));
+    url.setScheme(m_scheme);
     url.setHost(QStringLiteral("127.0.0.1"));
-    url.setPort(m_server.serverPort());
+    url.setPort(m_server->serverPort());
     url.setPath(path);
     return url;
 }
 
 void HttpServer::onNewConnection()
 {
-    while (QTcpSocket *socket = m_server.nextPendingConnection()) {
+    while (QTcpSocket *socket = m_server->nextPendingConnection()) {
         connect(socket, &QTcpSocket::readyRead, this, [this, socket] { onReadyRead(socket); });
         connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
             m_buffers.remove(socket);
@@ -82,12 +112,13 @@ void HttpServer::send(QTcpSocket *socket, const Reply &reply)
     QByteArray head = "HTTP/1.1 " + QByteArray::number(reply.status) + " Scripted\r\n";
     for (const auto &[name, value] : reply.headers)
         head += name + ": " + value + "\r\n";
-    head += "Content-Length: " + QByteArray::number(reply.body.size()) + "\r\n\r\n";
-    socket->write(head);
-    if (reply.fault == Fault::Truncate) {
-        socket->write(reply.body.first(reply.body.size() / 2));
+    head += reply.isChunked ? QByteArray("Transfer-Encoding: chunked")
+                            : "Content-Length: " + QByteArray::number(reply.body.size());
+    socket->write(head + "\r\n\r\n");
+    const qsizetype half = reply.body.size() / 2;
+    socket->write(reply.isChunked ? chunk(reply.body.first(half)) : reply.body.first(half));
+    if (reply.fault == Fault::Truncate)
         socket->disconnectFromHost();
-    } else {
-        socket->write(reply.body);
-    }
+    else
+        socket->write(reply.isChunked ? chunk(reply.body.sliced(half)) + chunk({}) : reply.body.sliced(half));
 }

@@ -9,8 +9,10 @@
 #include <QUrl>
 
 #include <functional>
+#include <memory>
 #include <utility>
 
+class QSslConfiguration;
 class QTcpSocket;
 
 /// A small HTTP/1.1 server on the loopback address, inside the test's own event loop. It answers by a
@@ -37,18 +39,22 @@ public:
         QByteArray body;
         QList<std::pair<QByteArray, QByteArray>> headers;
         Fault fault = Fault::None;
+        bool isChunked = false; ///< two chunks in place of a Content-Length
     };
     using Handler = std::function<Reply(const Request &)>;
 
     explicit HttpServer(QObject *parent = nullptr);
+    /// Over TLS, with the certificate and key of \p tls.
+    explicit HttpServer(const QSslConfiguration &tls, QObject *parent = nullptr);
 
-    /// "http://127.0.0.1:PORT" with \p path, which begins with "/".
+    /// "http://127.0.0.1:PORT", or https, with \p path, which begins with "/".
     [[nodiscard]] QUrl url(const QString &path = QStringLiteral("/")) const;
     void enqueue(const Reply &reply) { m_script.enqueue(reply); }
     void setHandler(Handler handler) { m_handler = std::move(handler); }
     [[nodiscard]] const QList<Request> &requests() const { return m_requests; }
 
 private:
+    HttpServer(std::unique_ptr<QTcpServer> server, const QString &scheme, QObject *parent);
     void onNewConnection();
     void onReadyRead(QTcpSocket *socket);
     bool takeRequest(QByteArray &buffer, Request &request);
@@ -59,5 +65,6 @@ private:
     QQueue<Reply> m_script;
     Handler m_handler;
     QList<Request> m_requests;
-    QTcpServer m_server; // last: its sockets say goodbye to the others when it goes
+    QString m_scheme;
+    std::unique_ptr<QTcpServer> m_server; // last: its sockets say goodbye to the others when it goes
 };

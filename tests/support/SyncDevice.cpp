@@ -7,7 +7,8 @@
 #include "storage/Statement.h"
 #include "storage/TaskRepository.h"
 
-#include <QTest>
+#include <QEventLoop>
+#include <QTimer>
 #include <QUuid>
 
 namespace {
@@ -41,15 +42,18 @@ QString SyncDevice::sync()
 {
     CalDavSyncClient client(m_state.state());
     QString failure;
-    bool hasEnded = false;
     QObject::connect(&client, &CalDavSyncClient::calendarSyncCompleted, &client,
                      [this](const QString &, int count) { m_lastCount = count; });
     QObject::connect(&client, &CalDavSyncClient::calendarSyncFailed, &client,
                      [&failure](const QString &, const QString &message) { failure = message; });
-    QObject::connect(&client, &CalDavSyncClient::calendarSyncEnded, &client, [&hasEnded] { hasEnded = true; });
+    QEventLoop loop;
+    QObject::connect(&client, &CalDavSyncClient::calendarSyncEnded, &loop, &QEventLoop::quit, Qt::QueuedConnection);
+    QTimer::singleShot(PatienceMs, &loop, [&] {
+        failure = QStringLiteral("the run has not ended");
+        loop.quit();
+    });
     client.syncCalendar(*m_state->calendars()->getById(m_calendarId), {}, m_username, m_password, m_trustedCert);
-    if (!QTest::qWaitFor([&hasEnded] { return hasEnded; }, PatienceMs))
-        return QStringLiteral("the run has not ended");
+    loop.exec();
     return failure;
 }
 

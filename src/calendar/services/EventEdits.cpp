@@ -143,8 +143,10 @@ Outcome EventEdits::create(AppState *state, const Event &event)
     if (EventTimes::lacksZone(row))
         row.timezone = TimeZones::systemName();
     EventTimes::set(row, row.startTime, row.endTime);
-    if (const QString why = EventTimes::problem(row); !why.isEmpty())
-        return refused(why);
+    for (const QString &why : { EventTimes::problem(row), EventTimes::problemOfSeries(row) }) {
+        if (!why.isEmpty())
+            return refused(why);
+    }
     row.created = QDateTime::currentDateTimeUtc();
     row.lastModified = row.created;
     row.rawIcalendar = ICalEventWriter::buildEventRawIcal(row);

@@ -25,6 +25,7 @@ struct Outcome {
     bool ok = false;
     QString id; ///< of the row that now holds the event; of a series, the occurrence or tail that was split off
     QString why; ///< said when the write was refused or failed
+    bool isFailure = false; ///< it failed, and nothing that the user enters will mend it
 };
 
 /// True for an event of a calendar that takes no writes, or of none.

@@ -25,7 +25,9 @@ Outcome EventEditsPrivate::refused(const QString &why)
 
 Outcome EventEditsPrivate::failed()
 {
-    return refused(Tr::tr("Could not save the event."));
+    Outcome outcome = refused(Tr::tr("Could not save the event."));
+    outcome.isFailure = true;
+    return outcome;
 }
 
 QString EventEditsPrivate::newId()

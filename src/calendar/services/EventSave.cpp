@@ -127,7 +127,12 @@ Outcome FormSave::run()
     const bool isRetimed = m_row.startTime != m_base.startTime || m_row.endTime != m_base.endTime;
     if (const QString why = EventTimes::problem(m_row); isRetimed && !why.isEmpty())
         return refused(why);
-    if (m_row == m_base && !moves())
+    // A series that shifts takes its last day along.
+    const bool isReplanned = isRetimed || m_row.recurrenceRule != m_base.recurrenceRule;
+    const bool isShift = m_seriesChange == SeriesChange::Shift;
+    if (const QString why = EventTimes::problemOfSeries(m_row); isReplanned && !isShift && !why.isEmpty())
+        return refused(why);
+    if (m_stored && m_row == m_base && !moves())
         return done(m_row.id);
 
     EventUndo::Change change;

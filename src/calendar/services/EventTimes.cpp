@@ -1,5 +1,6 @@
 #include "calendar/services/EventTimes.h"
 
+#include "calendar/RecurrenceRule.h"
 #include "calendar/TimeZones.h"
 #include "calendar/WallClock.h"
 #include "storage/StoredTime.h"
@@ -66,4 +67,12 @@ QString EventTimes::problem(const Event &event)
     if (event.endTime && *event.endTime < event.startTime)
         return Tr::tr("The end time is earlier than the start time.");
     return {};
+}
+
+QString EventTimes::problemOfSeries(const Event &event)
+{
+    const std::optional<qint64> untilMs = RecurrenceRule::parse(event.recurrenceRule).untilMs;
+    if (!event.isSeries() || !untilMs || *untilMs >= event.startTime.toMSecsSinceEpoch())
+        return {};
+    return Tr::tr("The series ends before its first event. Choose a later last day.");
 }

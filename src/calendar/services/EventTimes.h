@@ -27,4 +27,7 @@ qint64 durationSecs(const Event &event);
 /// Why the event cannot be stored with these times, translated; empty if it can.
 QString problem(const Event &event);
 
+/// Why nothing would be left of a series: its rule ends before it begins. Translated; empty if that is not so.
+QString problemOfSeries(const Event &event);
+
 } // namespace EventTimes

@@ -82,7 +82,7 @@ void WelcomeDialog::addSettings()
     };
     addField(tr("&Theme"), SettingFields::makeThemeMode(m_state));
     addField(tr("Time &format"), SettingFields::makeTimeFormat(m_state));
-    addField(tr("First &day of the week"), SettingFields::makeWeekStart(m_state));
+    addField(tr("First day of the &week"), SettingFields::makeWeekStart(m_state));
 }
 
 void WelcomeDialog::addWaysToBegin()

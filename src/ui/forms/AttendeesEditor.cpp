@@ -40,6 +40,10 @@ QList<Attendee> AttendeesEditor::attendees() const
         Attendee attendee = row.original;
         attendee.name = row.name->text().trimmed();
         attendee.email = row.email->text().trimmed();
+        if (attendee.email.compare(row.original.email.trimmed(), Qt::CaseInsensitive) != 0) {
+            attendee.id.clear(); // somebody else, who has not answered yet
+            attendee.status = Attendee().status;
+        }
         if (!attendee.email.isEmpty())
             result.append(attendee);
     }
@@ -49,8 +53,11 @@ QList<Attendee> AttendeesEditor::attendees() const
 void AttendeesEditor::setReadOnly(bool readOnly)
 {
     m_add->setVisible(!readOnly);
-    for (const Row &row : std::as_const(m_rows))
-        row.widget->setEnabled(!readOnly);
+    for (const Row &row : std::as_const(m_rows)) {
+        row.name->setReadOnly(readOnly);
+        row.email->setReadOnly(readOnly);
+        row.widget->findChild<QToolButton *>()->setVisible(!readOnly);
+    }
 }
 
 void AttendeesEditor::addRow(const Attendee &attendee)
@@ -71,6 +78,7 @@ void AttendeesEditor::addRow(const Attendee &attendee)
     layout->addWidget(row.email, 3);
     layout->addWidget(remove);
     m_column->insertWidget(m_column->count() - 1, row.widget);
+    setTabStopsBefore(m_add, { row.name, row.email, remove });
     m_rows.append(row);
 }
 

@@ -9,8 +9,7 @@ class QLineEdit;
 class QPushButton;
 class QVBoxLayout;
 
-/// Rows of name and address, each with the person's answer and a button that takes it away, and
-/// "+ Add attendee".
+/// Rows of name and address, each with a button that takes it away, and "+ Add attendee".
 class AttendeesEditor : public QWidget {
     Q_OBJECT
 
@@ -18,7 +17,8 @@ public:
     explicit AttendeesEditor(QWidget *parent = nullptr);
 
     void setAttendees(const QList<Attendee> &attendees);
-    /// As edited. Rows without an address are left out; what the rows do not show is kept.
+    /// As edited. Rows without an address are left out; what the rows do not show is kept, but for the answer
+    /// of a person whose address was replaced.
     [[nodiscard]] QList<Attendee> attendees() const;
     void setReadOnly(bool readOnly);
 

@@ -41,7 +41,7 @@ DateTimePicker::DateTimePicker(Qt::DayOfWeek firstDayOfWeek, QWidget *parent)
     m_time->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_time->setMinimumContentsLength(TimeChars);
     m_time->setCompleter(nullptr); // "9" is a time, and not the beginning of "9:15 PM"
-    m_time->lineEdit()->installEventFilter(this);
+    m_time->installEventFilter(this); // it has the focus, and not its line edit
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_date, 3);
@@ -92,7 +92,7 @@ void DateTimePicker::setDateOnly(bool dateOnly)
     m_dateOnly = dateOnly;
     m_time->setVisible(!dateOnly);
     if (m_reference)
-        holdBehindReference();
+        onReferenceChanged();
 }
 
 void DateTimePicker::setUse24Hour(bool use24Hour)
@@ -105,7 +105,9 @@ void DateTimePicker::setReadOnly(bool readOnly)
 {
     m_date->setReadOnly(readOnly);
     m_date->setButtonSymbols(readOnly ? QAbstractSpinBox::NoButtons : QAbstractSpinBox::UpDownArrows);
-    m_time->setEnabled(!readOnly);
+    m_isReadOnly = readOnly;
+    m_time->lineEdit()->setReadOnly(readOnly);
+    populateTimeOptions();
 }
 
 void DateTimePicker::setAccessibleNames(const QString &date, const QString &time)
@@ -149,7 +151,7 @@ void DateTimePicker::populateTimeOptions()
     m_time->clear();
     const bool isSameDay = m_reference && m_reference->date() == m_date->date() && !m_reference->isDateOnly();
     const QTime from = isSameDay ? m_reference->dateTime().time() : QTime(0, 0);
-    for (int minute = 0; minute < MinutesPerDay; minute += StepMinutes) {
+    for (int minute = 0; minute < MinutesPerDay && !m_isReadOnly; minute += StepMinutes) {
         const QTime time = QTime(0, 0).addSecs(minute * 60);
         if (isSameDay && time < from)
             continue;
@@ -191,16 +193,21 @@ void DateTimePicker::onTimeCommit()
 
 bool DateTimePicker::eventFilter(QObject *watched, QEvent *event)
 {
-    // Return takes over what was typed, and is not yet meant for the form's default button.
-    if (event->type() == QEvent::KeyPress && watched == m_time->lineEdit()) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        const bool isTyped = m_time->lineEdit()->isModified();
-        if ((key == Qt::Key_Return || key == Qt::Key_Enter) && isTyped) {
-            onTimeCommit();
-            return true;
-        }
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+    if (!isKey || watched != m_time || !m_time->lineEdit()->isModified())
+        return QWidget::eventFilter(watched, event);
+    const auto *press = static_cast<QKeyEvent *>(event);
+    if (press->key() == Qt::Key_Escape && event->type() == QEvent::KeyPress) {
+        showTime(); // takes back what was typed, and closes the form only the next time
+        return true;
     }
-    return QWidget::eventFilter(watched, event);
+    if (press->key() != Qt::Key_Return && press->key() != Qt::Key_Enter)
+        return QWidget::eventFilter(watched, event);
+    // Return takes over what was typed, and is not yet meant for the form's default button. With Ctrl it
+    // stores the form, which leaves the focus where it is: the shortcut finds the time taken over.
+    if (event->type() == QEvent::KeyPress || (press->modifiers() & Qt::ControlModifier))
+        onTimeCommit();
+    return event->type() == QEvent::KeyPress;
 }
 
 std::optional<QTime> DateTimePicker::parseTimeText(const QString &text)

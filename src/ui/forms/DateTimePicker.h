@@ -56,4 +56,5 @@ private:
     QPointer<DateTimePicker> m_reference;
     bool m_dateOnly = false;
     bool m_use24Hour = false;
+    bool m_isReadOnly = false;
 };

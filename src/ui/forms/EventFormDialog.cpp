@@ -9,6 +9,7 @@
 #include "models/EventTemplate.h"
 #include "storage/CalendarRepository.h"
 #include "storage/TemplateRepository.h"
+#include "ui/dialogs/PlainText.h"
 #include "ui/dialogs/Prompt.h"
 #include "ui/forms/AttendeesEditor.h"
 #include "ui/forms/CalendarCombo.h"
@@ -98,13 +99,16 @@ void EventFormDialog::buildLayout()
     if (!m_isReadOnly)
         body()->addWidget(makeHint(m_isNew ? tr("Fill in the basics. Start time and calendar are required.")
                                            : tr("Update the details below and save to apply.")));
-    if (!m_isNew && m_shown.isRecurring())
+    if (!m_isReadOnly && m_shown.isSeries())
         body()->addWidget(makeHint(tr("Changes apply to all events in the series.")));
+    if (m_shown.isOverride())
+        body()->addWidget(makeHint(tr("This is one event of a series, changed on its own.")));
 
     m_title = new QLineEdit;
     m_title->setPlaceholderText(tr("Lunch with Sarah, sprint planning…"));
     m_color = new ColorField(tr("Event color"));
     m_repeat = new RecurrenceButton(m_state->firstDayOfWeek());
+    m_repeat->setEnabled(!m_shown.isOverride()); // one event of a series does not repeat
     m_location = new QLineEdit;
     m_location->setPlaceholderText(tr("Address, room, or video link"));
     m_attendees = new AttendeesEditor;
@@ -178,7 +182,7 @@ void EventFormDialog::populateCalendars()
     const QList<Calendar> calendars = m_state->calendars()->getAll();
     for (const Calendar &calendar : calendars) {
         const bool isOwn = !m_isNew && calendar.id == m_shown.calendarId;
-        if (!isOwn && (!calendar.isVisible || calendar.isReadOnly))
+        if (!isOwn && (!calendar.isVisible || calendar.isReadOnly || m_isReadOnly))
             continue;
         offered.append(calendar);
         if (calendar.isDefault && preferred.isEmpty())
@@ -198,8 +202,7 @@ void EventFormDialog::setInitialStart(const QDateTime &start, int minutes)
     m_start->setDateTime(start);
     m_end->setDateTime(start.addSecs(qint64(minutes) * 60));
     m_repeat->setStartDate(m_start->date());
-    m_lengthSecs = qint64(minutes) * 60;
-    m_lengthDays = m_start->date().daysTo(m_end->date());
+    rememberLength();
     m_baseline = edited();
 }
 
@@ -227,9 +230,9 @@ void EventFormDialog::prefill(const Event &event)
     m_notes->document()->setModified(false);
     const QByteArray zone = event.timezone.toUtf8();
     if (!event.isAllDay && zone != "UTC" && zone != QTimeZone::systemTimeZoneId())
-        body()->insertWidget(
-            body()->count() - 1,
-            makeHint(tr("Times are shown as your clock has them. The event is planned in %1.").arg(event.timezone)));
+        body()->insertWidget(body()->count() - 1,
+                             makeHint(tr("Times are shown as your clock has them. The event is planned in %1.")
+                                          .arg(PlainText::breakLongWords(event.timezone))));
 }
 
 void EventFormDialog::prefillTimes(const Event &event)
@@ -248,10 +251,7 @@ void EventFormDialog::prefillTimes(const Event &event)
     }
     m_allDay->setChecked(event.isAllDay);
     m_repeat->setStartDate(m_start->date());
-    m_lengthSecs = std::max<qint64>(0, m_start->dateTime().secsTo(m_end->dateTime()));
-    m_lengthDays = m_start->date().daysTo(m_end->date());
-    if (event.isAllDay)
-        m_lengthSecs = DefaultLengthSecs;
+    rememberLength();
 }
 
 void EventFormDialog::setReadOnly()
@@ -260,8 +260,13 @@ void EventFormDialog::setReadOnly()
     m_title->setReadOnly(true);
     m_location->setReadOnly(true);
     m_notes->setReadOnly(true);
-    for (QWidget *widget : QList<QWidget *>{ m_calendar, m_templates, m_color, m_allDay, m_repeat })
+    for (QWidget *widget : QList<QWidget *>{ m_color, m_allDay })
         widget->setEnabled(false);
+    m_templates->hide();
+    // As a label: the text of a disabled button is hard to read.
+    auto *repeats = makeHint(m_repeat->text());
+    delete body()->replaceWidget(m_repeat, repeats);
+    m_repeat->hide();
     m_start->setReadOnly(true);
     m_end->setReadOnly(true);
     m_attendees->setReadOnly(true);
@@ -275,6 +280,15 @@ void EventFormDialog::onAllDayToggled(bool allDay)
     m_end->setDateOnly(allDay);
     if (!allDay && m_end->dateTime() <= m_start->dateTime())
         m_end->setDateTime(m_start->dateTime().addSecs(DefaultLengthSecs));
+    rememberLength();
+}
+
+// The days of a timed event and the hours of an all-day one wait for the other kind.
+void EventFormDialog::rememberLength()
+{
+    m_lengthDays = m_start->date().daysTo(m_end->date());
+    if (!m_allDay->isChecked())
+        m_lengthSecs = m_start->dateTime().secsTo(m_end->dateTime());
 }
 
 // The end goes along, so that the event keeps its length.
@@ -290,9 +304,7 @@ void EventFormDialog::onStartChanged()
 void EventFormDialog::onEndChanged()
 {
     m_isEndTouched = true;
-    m_lengthDays = m_start->date().daysTo(m_end->date());
-    if (!m_allDay->isChecked())
-        m_lengthSecs = m_start->dateTime().secsTo(m_end->dateTime());
+    rememberLength();
 }
 
 void EventFormDialog::openTemplatePicker()
@@ -335,7 +347,7 @@ void EventFormDialog::applyTemplate(const EventTemplate &eventTemplate)
     }
     if (!eventTemplate.reminders.isEmpty())
         m_reminders->setMinutes(eventTemplate.reminders);
-    if (!eventTemplate.recurrenceRule.isEmpty())
+    if (!eventTemplate.recurrenceRule.isEmpty() && m_repeat->isEnabled())
         m_repeat->setRule(RuleEnd::asDay(eventTemplate.recurrenceRule));
 }
 
@@ -407,8 +419,7 @@ bool EventFormDialog::save()
     const EventEdits::Outcome outcome =
         m_isNew ? EventEdits::create(m_state, event) : EventEdits::save(m_state, m_baseline, event);
     if (!outcome.ok) {
-        Prompt::warning(this, tr("Database Error"),
-                        outcome.why.isEmpty() ? tr("Could not save the event.") : outcome.why);
+        Prompt::warning(this, outcome.isFailure ? tr("Database Error") : tr("Not saved"), outcome.why);
         return false;
     }
     if (m_isNew)

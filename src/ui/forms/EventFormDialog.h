@@ -53,6 +53,7 @@ private:
     void prefill(const Event &event);
     void prefillTimes(const Event &event);
     void setReadOnly();
+    void rememberLength();
     void onAllDayToggled(bool allDay);
     void onStartChanged();
     void onEndChanged();

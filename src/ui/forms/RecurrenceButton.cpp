@@ -5,12 +5,22 @@
 #include "ui/theme/Theme.h"
 
 #include <QMenu>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+namespace {
+
+constexpr int MaxChars = 90; // what it asks for at most, however long the rule
+constexpr int MinChars = 30;
+
+}
 
 RecurrenceButton::RecurrenceButton(Qt::DayOfWeek firstDayOfWeek, QWidget *parent)
     : QPushButton(parent)
     , m_firstDayOfWeek(firstDayOfWeek)
 {
     setAutoDefault(false);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setStyleSheet(QStringLiteral("text-align: left;"));
     connect(this, &QPushButton::clicked, this, &RecurrenceButton::onClicked);
     refresh();
@@ -20,6 +30,25 @@ void RecurrenceButton::setRule(const QString &rule)
 {
     m_rule = rule;
     refresh();
+}
+
+QSize RecurrenceButton::sizeHint() const
+{
+    return QPushButton::sizeHint().boundedTo({ fontMetrics().averageCharWidth() * MaxChars, QWIDGETSIZE_MAX });
+}
+
+QSize RecurrenceButton::minimumSizeHint() const
+{
+    return sizeHint().boundedTo({ fontMetrics().averageCharWidth() * MinChars, QWIDGETSIZE_MAX });
+}
+
+void RecurrenceButton::paintEvent(QPaintEvent *)
+{
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const int width = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this).width();
+    option.text = fontMetrics().elidedText(option.text, Qt::ElideRight, width, Qt::TextShowMnemonic);
+    QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
 }
 
 void RecurrenceButton::onClicked()
@@ -50,4 +79,5 @@ void RecurrenceButton::refresh()
 {
     const QString text = RruleFormat::humanReadable(m_rule);
     setText(text.isEmpty() ? tr("Does not repeat") : Theme::plainLabel(text));
+    setToolTip(Theme::plainToolTip(text));
 }

@@ -16,8 +16,14 @@ public:
     void setRule(const QString &rule); ///< RRULE value without its prefix; no signal
     void setStartDate(QDate date) { m_startDate = date; }
 
+    [[nodiscard]] QSize sizeHint() const override; ///< bounded; longer texts are cut with "…"
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
 signals:
     void ruleChanged(const QString &rule); ///< by the user
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void onClicked();

@@ -35,9 +35,17 @@ QString dayButtonSheet()
 {
     return QStringLiteral("QToolButton { border: 1px solid %1; border-radius: 17px; }"
                           "QToolButton:checked { background: %2; color: %3; border-color: %2; }"
+                          "QToolButton { padding: 0; }" // the letter needs the room
                           "QToolButton:focus { border: 2px solid %4; }")
         .arg(Theme::borderStrong().name(), Theme::accent().name(), Theme::textOn(Theme::accent()).name(),
              Theme::textPrimary().name());
+}
+
+/// A stored number that is larger than people choose is shown as it is all the same.
+void setStored(QSpinBox *box, int value)
+{
+    box->setMaximum(std::max(box->maximum(), value));
+    box->setValue(value);
 }
 
 }
@@ -62,6 +70,7 @@ RecurrenceEditDialog::RecurrenceEditDialog(const QString &initialRule, QDate sta
 
     m_monthDay->setValue(startDate.isValid() ? startDate.day() : 1);
     m_nthDay->setCurrentIndex(startDate.isValid() ? startDate.dayOfWeek() - 1 : 0);
+    m_nth->setCurrentIndex(startDate.isValid() ? (startDate.day() - 1) / 7 : 0); // a fifth one is the last
     m_until->setDate((startDate.isValid() ? startDate : QDate::currentDate()).addMonths(DefaultSpanMonths));
     setupFromInitial(initialRule, startDate);
     followControls();
@@ -80,6 +89,7 @@ void RecurrenceEditDialog::buildFrequencyRow()
     m_interval->setRange(1, MaxInterval);
     m_unit = new QLabel;
     auto *every = new QHBoxLayout;
+    every->setSpacing(8);
     every->addWidget(m_interval);
     every->addWidget(m_unit, 1);
     QFormLayout *form = addForm();
@@ -221,7 +231,7 @@ void RecurrenceEditDialog::setupFromInitial(const QString &rule, QDate startDate
             if (const int index = m_frequency->findData(value.toUpper()); index >= 0)
                 m_frequency->setCurrentIndex(index);
         } else if (key == u"INTERVAL" && isNumber) {
-            m_interval->setValue(number);
+            setStored(m_interval, number);
         } else if (key == u"BYDAY") {
             byDay = value.toUpper();
         } else if (key == u"BYMONTHDAY" && isNumber) {
@@ -229,7 +239,7 @@ void RecurrenceEditDialog::setupFromInitial(const QString &rule, QDate startDate
             m_monthDay->setValue(number);
         } else if (key == u"COUNT" && isNumber) {
             m_after->setChecked(true);
-            m_count->setValue(number);
+            setStored(m_count, number);
         } else if (key == u"UNTIL") {
             m_on->setChecked(true);
             if (const QDate until = QDate::fromString(value.left(8), QStringLiteral("yyyyMMdd")); until.isValid())

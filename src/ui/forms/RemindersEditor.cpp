@@ -82,8 +82,14 @@ QList<int> RemindersEditor::minutes() const
 void RemindersEditor::setReadOnly(bool readOnly)
 {
     m_add->setVisible(!readOnly);
-    for (QComboBox *row : std::as_const(m_rows))
-        row->parentWidget()->setEnabled(!readOnly);
+    for (QComboBox *row : std::as_const(m_rows)) {
+        row->parentWidget()->findChild<QToolButton *>()->setVisible(!readOnly);
+        // Nothing else to choose: the text of a disabled box is hard to read.
+        for (int item = row->count() - 1; item >= 0 && readOnly; --item) {
+            if (item != row->currentIndex())
+                row->removeItem(item);
+        }
+    }
 }
 
 void RemindersEditor::addRow(int minutes)
@@ -109,6 +115,7 @@ void RemindersEditor::addRow(int minutes)
     layout->addWidget(combo, 1);
     layout->addWidget(remove);
     m_column->insertWidget(m_column->count() - 1, row);
+    setTabStopsBefore(m_add, { combo, remove });
     m_rows.append(combo);
 }
 

@@ -62,10 +62,12 @@ void TemplateFormDialog::build()
     m_calendar->addItem(tr("Any calendar"), QString());
     const QList<Calendar> calendars = m_state->calendars()->getAll();
     for (const Calendar &calendar : calendars) {
-        if (!calendar.isReadOnly)
+        if (!calendar.isReadOnly || calendar.id == m_original.calendarId)
             m_calendar->addCalendar(calendar);
     }
     m_color = new ColorField(tr("Event color"));
+    connect(m_calendar, &QComboBox::currentIndexChanged, m_color,
+            [this] { m_color->setCalendarColor(m_calendar->calendarColor()); });
     m_repeat = new RecurrenceButton(m_state->firstDayOfWeek());
     m_repeat->setStartDate(QDate::currentDate());
     m_reminders = new RemindersEditor;
@@ -129,6 +131,7 @@ void TemplateFormDialog::fill(const EventTemplate &eventTemplate)
     m_calendar->select(eventTemplate.calendarId);
     m_color->setCalendarColor(m_calendar->calendarColor());
     m_color->setColor(eventTemplate.color);
+    m_hours->setMaximum(std::max(MaxHours, eventTemplate.durationMinutes / MinutesPerHour));
     m_hours->setValue(eventTemplate.durationMinutes / MinutesPerHour);
     m_minutes->setValue(eventTemplate.durationMinutes % MinutesPerHour);
     m_days->setValue(std::max(1, eventTemplate.durationMinutes / MinutesPerDay));
@@ -172,6 +175,8 @@ bool TemplateFormDialog::save()
         return false;
     }
     bool isStored = false;
+    if (!m_original.id.isEmpty() && !hasUnsavedChanges())
+        return true;
     if (m_original.id.isEmpty()) {
         const QList<EventTemplate> others = m_state->templates()->getAll();
         for (const EventTemplate &other : others)

@@ -2,6 +2,9 @@
 
 #include "ui/theme/Theme.h"
 
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QEvent>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -102,6 +105,25 @@ void drawMenuHighlight(QPainter *painter, const QStyleOption *option)
 CalendarProxyStyle::CalendarProxyStyle()
     : QProxyStyle(QStringLiteral("Fusion"))
 {
+}
+
+// Who scrolls a form passes over its fields, and must not change what they hold.
+void CalendarProxyStyle::polish(QWidget *widget)
+{
+    QProxyStyle::polish(widget);
+    if (!qobject_cast<QComboBox *>(widget) && !qobject_cast<QAbstractSpinBox *>(widget))
+        return;
+    if (widget->focusPolicy() == Qt::WheelFocus)
+        widget->setFocusPolicy(Qt::StrongFocus);
+    widget->installEventFilter(this);
+}
+
+bool CalendarProxyStyle::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::Wheel || static_cast<QWidget *>(watched)->hasFocus())
+        return QProxyStyle::eventFilter(watched, event);
+    event->ignore(); // so that it goes on to the scroll area
+    return true;
 }
 
 int CalendarProxyStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,

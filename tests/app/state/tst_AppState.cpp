@@ -1,5 +1,7 @@
 #include "app/state/AppState.h"
 
+#include "models/Account.h"
+#include "storage/Database.h"
 #include "storage/EventRepository.h"
 #include "storage/PreferencesRepository.h"
 #include "storage/ViewRepository.h"
@@ -191,10 +193,25 @@ private slots:
         QSignalSpy asked(&state(), &AppState::syncNowRequested);
         Event event = m_state->addEvent(u"Dentist"_s, utc("2024-02-29T09:00"), utc("2024-02-29T10:00"));
         QTRY_COMPARE(elapsed.size(), 1);
-        QCOMPARE(asked.size(), 0); // what a sync stored is no reason for another one
         event.syncStatus = SyncStatus::Pending;
         QVERIFY(state().events()->update(event));
+        QTRY_COMPARE(elapsed.size(), 2);
+        QCOMPARE(asked.size(), 0); // a local calendar has no server
+
+        Account account;
+        account.id = account.name = u"server"_s;
+        account.type = AccountType::CalDAV;
+        QVERIFY(state().accounts()->insert(account));
+        event.calendarId = m_state->addCalendar(u"Work"_s, {}, account.id);
+        QVERIFY(state().events()->update(event));
         QTRY_COMPARE(asked.size(), 1);
+        {
+            const SyncWrites origin(state().database());
+            QVERIFY(state().events()->update(event));
+        }
+        QSignalSpy changed(state().events(), &EventRepository::eventsChanged);
+        QVERIFY(changed.wait());
+        QVERIFY(!debounce->isActive()); // what a sync stored is no reason for another one
     }
 
     void oneFailureMarksTheWholeCycle()

@@ -462,6 +462,11 @@ private slots:
             QVERIFY(row(state, u"a"_s).deletedAt);
             QVERIFY(state->events()->hardDelete(u"a"_s));
         }
+        store(state, { pulled(u"a"_s) });
+        const Event shown = row(state, u"a"_s);
+        QVERIFY(state->events()->hardDelete(u"a"_s));
+        QVERIFY(EventEdits::save(state.state(), shown, shown).ok);
+        QCOMPARE(row(state, u"a"_s).title, shown.title);
     }
 
     void refusesReadOnly()

@@ -17,10 +17,10 @@ QComboBox *timeBox(const DateTimePicker &picker)
 
 void type(DateTimePicker &picker, const QString &text)
 {
-    QLineEdit *edit = timeBox(picker)->lineEdit();
-    edit->clear();
-    QTest::keyClicks(edit, text);
-    QTest::keyClick(edit, Qt::Key_Return);
+    QComboBox *box = timeBox(picker); // has the focus, and hands the keys on
+    box->lineEdit()->clear();
+    QTest::keyClicks(box, text);
+    QTest::keyClick(box, Qt::Key_Return);
 }
 
 }
@@ -65,6 +65,9 @@ private slots:
         QCOMPARE(changed.size(), 1);
         type(picker, QStringLiteral("whenever"));
         QCOMPARE(picker.dateTime(), QDateTime(May1, QTime(16, 20)));
+        QCOMPARE(timeBox(picker)->currentText(), QStringLiteral("4:20 PM"));
+        QTest::keyClicks(timeBox(picker), QStringLiteral("5"));
+        QTest::keyClick(timeBox(picker), Qt::Key_Escape);
         QCOMPARE(timeBox(picker)->currentText(), QStringLiteral("4:20 PM"));
     }
 

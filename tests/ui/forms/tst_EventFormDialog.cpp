@@ -5,12 +5,14 @@
 #include "storage/PreferencesRepository.h"
 #include "support/ScratchState.h"
 #include "ui/dialogs/Prompt.h"
+#include "ui/forms/AttendeesEditor.h"
 #include "ui/forms/CalendarCombo.h"
 #include "ui/forms/DateTimePicker.h"
 #include "ui/forms/EventFormDialog.h"
 #include "ui/forms/RecurrenceButton.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QtTest>
 
@@ -89,6 +91,26 @@ private slots:
         QCOMPARE(answers.asked.last().text, u"Create a calendar first."_qs);
     }
 
+    void aSeriesHasAFirstEvent()
+    {
+        Prompt::ScopedAnswers answers;
+        for (const bool isNew : { true, false }) {
+            const Event event =
+                m_state->addEvent(u"Call"_qs, QDateTime(May1, QTime(9, 0)), QDateTime(May1, QTime(9, 5)));
+            EventFormDialog form(m_state->state(), event, nullptr);
+            EventFormDialog fresh(m_state->state(), nullptr);
+            fresh.setInitialStart(event.startTime, 5);
+            title(fresh)->setText(event.title);
+            EventFormDialog &tested = isNew ? fresh : form;
+            tested.findChild<RecurrenceButton *>()->setRule(QStringLiteral("FREQ=DAILY;UNTIL=20260430"));
+            tested.accept();
+            QCOMPARE(answers.asked.takeLast().title, u"Not saved"_qs);
+            tested.findChild<RecurrenceButton *>()->setRule(QStringLiteral("FREQ=DAILY;UNTIL=20260501"));
+            tested.accept();
+            QVERIFY(!tested.eventId().isEmpty());
+        }
+    }
+
     void aNewEventIsStoredAsAnInstant()
     {
         const QString other = m_state->addCalendar(QStringLiteral("Other"));
@@ -153,6 +175,72 @@ private slots:
         QCOMPARE(form.edited().recurrenceRule, u"FREQ=DAILY;UNTIL="_qs + until);
         named<QCheckBox>(form, QStringLiteral("All day"))->setChecked(true);
         QCOMPARE(form.edited().recurrenceRule, u"FREQ=DAILY;UNTIL=20260510"_qs);
+    }
+
+    void returnTakesOverATypedTime()
+    {
+        for (const bool withCtrl : { false, true }) {
+            EventFormDialog form(m_state->state(), nullptr);
+            form.setInitialStart(QDateTime(May1, QTime(9, 0)), 60);
+            title(form)->setText(QStringLiteral("Dentist"));
+            form.show();
+            QVERIFY(QTest::qWaitForWindowActive(&form));
+            auto *time = picker(form, 0)->findChild<QComboBox *>();
+            time->setFocus();
+            time->lineEdit()->selectAll();
+            QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("15:30"));
+            QTest::keyClick(form.windowHandle(), Qt::Key_Return, withCtrl ? Qt::ControlModifier : Qt::NoModifier);
+            QCOMPARE(form.isVisible(), !withCtrl); // Ctrl+Return stores the form
+            const Event event = withCtrl ? stored(*m_state, form.eventId()) : form.edited();
+            QCOMPARE(event.startTime, QDateTime(May1, QTime(15, 30)));
+        }
+    }
+
+    void tabVisitsRowsAsTheyStand()
+    {
+        Event event =
+            m_state->addEvent(QStringLiteral("Call"), QDateTime(May1, QTime(9, 0)), QDateTime(May1, QTime(10, 0)));
+        Attendee ann;
+        ann.email = QStringLiteral("ann@example.org");
+        event.attendees = { ann, ann };
+        event.reminders = { Reminder(), Reminder() };
+        EventFormDialog form(m_state->state(), event, nullptr);
+        form.show();
+        QList<int> tops;
+        for (QWidget *w = form.nextInFocusChain(); w != &form; w = w->nextInFocusChain()) {
+            if (w->isVisibleTo(&form) && (w->focusPolicy() & Qt::TabFocus) && !w->focusProxy())
+                tops.append(w->mapTo(&form, w->rect().center()).y() / 8); // of one row if a few pixels apart
+        }
+        QVERIFY(tops.size() > 20);
+        QVERIFY(std::is_sorted(tops.cbegin(), tops.cend()));
+    }
+
+    void hoursKeepTheDaysThatAWholeDayEventGot()
+    {
+        EventFormDialog form(m_state->state(), nullptr);
+        form.setInitialStart(QDateTime(May1, QTime(9, 0)), 60);
+        auto *allDay = named<QCheckBox>(form, QStringLiteral("All day"));
+        allDay->setChecked(true);
+        picker(form, 1)->setDate(May1.addDays(2));
+        emit picker(form, 1)->dateTimeChanged({});
+        allDay->setChecked(false);
+        picker(form, 0)->setDate(May1.addDays(1));
+        emit picker(form, 0)->dateTimeChanged({});
+        QCOMPARE(*form.edited().endTime, QDateTime(May1.addDays(3), QTime(10, 0)));
+    }
+
+    void anAnswerBelongsToItsAddress()
+    {
+        AttendeesEditor editor;
+        Attendee ann;
+        ann.email = QStringLiteral("ann@example.org");
+        ann.status = QStringLiteral("accepted");
+        editor.setAttendees({ ann });
+        QLineEdit *address = editor.findChildren<QLineEdit *>().at(1);
+        address->setText(QStringLiteral("Ann@example.org"));
+        QCOMPARE(editor.attendees().at(0).status, ann.status);
+        address->setText(QStringLiteral("bob@example.org"));
+        QCOMPARE(editor.attendees().at(0).status, Attendee().status);
     }
 
     void readOnlyEventsAreForReading()

@@ -216,6 +216,33 @@ private slots:
         combo.resize(160, combo.sizeHint().height());
         QVERIFY(hasColor(combo, combo.rect().adjusted(4, 4, -4, -4), Theme::textMuted()));
     }
+
+    void theWheelLeavesFieldsWithoutFocusAlone()
+    {
+        ThemeManager manager(preferences());
+        manager.setMode(u"light"_qs);
+        QWidget window;
+        QVBoxLayout column(&window);
+        QSpinBox other;
+        QSpinBox box;
+        column.addWidget(&other);
+        column.addWidget(&box);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const auto turn = [&box] {
+            const QPoint at = box.rect().center();
+            QWheelEvent event(at, box.mapToGlobal(at), {}, QPoint(0, 120), {}, {}, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&box, &event);
+            return event.isAccepted();
+        };
+        other.setFocus();
+        QVERIFY(!turn()); // the scroll area below takes it
+        QCOMPARE(box.value(), 0);
+        QVERIFY(!(box.focusPolicy() & Qt::WheelFocus & ~Qt::StrongFocus)); // nor does it get the focus so
+        box.setFocus();
+        QVERIFY(turn());
+        QCOMPARE(box.value(), 1);
+    }
 };
 
 QTEST_MAIN(tst_ThemeManager)
