@@ -10,6 +10,8 @@
 #include "calendar/ResourceText.h"
 #include "calendar/TaskPatch.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <deque>
 #include <limits>
@@ -27,16 +29,28 @@ QString uidKey(const QString &uid)
     return ICal::unescapedText(ICal::textValue(uid));
 }
 
-/// The same text for the same instant; empty for what is no instance of a series.
-QString instanceKey(const QString &recurrenceId)
+/// Names an event of a resource; the same text for the same instant.
+QString eventKey(const QString &uid, const QString &recurrenceId)
 {
     const std::optional<InstanceName> name = InstanceName::parse(recurrenceId);
-    return name ? QString::number(name->startMs) : recurrenceId;
+    return uidKey(uid) + u'\n' + (name ? QString::number(name->startMs) : recurrenceId);
 }
 
-bool isSameEvent(const Event &a, const Event &b)
+QString eventKey(const Event &event)
 {
-    return uidKey(a.uid) == uidKey(b.uid) && instanceKey(a.recurrenceId) == instanceKey(b.recurrenceId);
+    return eventKey(event.uid, event.recurrenceId);
+}
+
+/// What the row was called in the text that it came with, if that is another instance of the same series.
+QString formerKey(const Event &row)
+{
+    if (row.recurrenceId.isEmpty() || row.rawIcalendar.isEmpty())
+        return {};
+    const QList<Event> stored = ICalParser::parse(row.rawIcalendar);
+    const auto former = std::ranges::find_if(stored, [&row](const Event &event) {
+        return uidKey(event.uid) == uidKey(row.uid) && !event.recurrenceId.isEmpty();
+    });
+    return former == stored.end() || eventKey(*former) == eventKey(row) ? QString() : eventKey(*former);
 }
 
 std::optional<Event> readEvent(const TreeComponent &vevent)
@@ -80,20 +94,18 @@ public:
         , m_context(context)
     {
         for (TreeComponent *component : resource.components("VEVENT")) {
-            if (std::optional<Event> event = readEvent(*component))
-                m_present.push_back({ .component = component, .event = *std::move(event) });
+            std::optional<Event> event = readEvent(*component);
+            if (!event)
+                continue;
+            const QString key = eventKey(*event);
+            if (!m_present.contains(key)) // one that is there twice is left alone
+                m_present.insert(key, { .component = component, .event = *std::move(event) });
         }
     }
 
     void write(const QList<Event> &rows)
     {
-        std::vector<Present *> places;
-        for (const Event &row : rows)
-            places.push_back(claimed(findFormer(row)));
-        for (qsizetype i = 0; i < rows.size(); ++i) {
-            if (!places[size_t(i)])
-                places[size_t(i)] = claimed(find(rows[i]));
-        }
+        const std::vector<Present *> places = placesOf(rows);
         // Overrides name their instance in the form in which their series begins.
         for (const bool isOverride : { false, true }) {
             for (qsizetype i = 0; i < rows.size(); ++i) {
@@ -107,8 +119,10 @@ public:
     void finish(const QList<Event> &rows)
     {
         for (const Event &row : rows) {
-            Present *former = findFormer(row);
-            if (const Present *present = claimed(former ? former : find(row)))
+            const Present *present = claimed(eventKey(row));
+            if (!present)
+                present = claimed(formerKey(row));
+            if (present)
                 m_removed.push_back(present->component);
         }
         m_resource.removeComponents(m_removed);
@@ -123,31 +137,45 @@ private:
         bool isClaimed = false;
     };
 
-    static Present *claimed(Present *present)
+    Present *unclaimed(const QString &key)
     {
+        const auto found = m_present.find(key);
+        return found == m_present.end() || found->isClaimed ? nullptr : &*found;
+    }
+
+    Present *claimed(const QString &key)
+    {
+        Present *present = unclaimed(key);
         if (present)
             present->isClaimed = true;
         return present;
     }
 
-    Present *find(const Event &event)
+    /// Where each row stands in the text, or null.
+    ///
+    /// The instances of a series that moved may have each other's former names: the one that has a name of its own now
+    /// gives its place away, and so on. Without such a one the text has the new names already.
+    std::vector<Present *> placesOf(const QList<Event> &rows)
     {
-        const auto found = std::ranges::find_if(m_present, [&event](const Present &present) {
-            return !present.isClaimed && isSameEvent(present.event, event);
-        });
-        return found == m_present.end() ? nullptr : &*found;
-    }
-
-    /// An instance that went elsewhere with its series still has its former name in the text that it came with.
-    Present *findFormer(const Event &row)
-    {
-        if (row.recurrenceId.isEmpty())
-            return nullptr;
-        const QList<Event> stored = ICalParser::parse(row.rawIcalendar);
-        const auto former = std::ranges::find_if(stored, [&row](const Event &event) {
-            return uidKey(event.uid) == uidKey(row.uid) && !event.recurrenceId.isEmpty();
-        });
-        return former == stored.end() ? nullptr : find(*former);
+        std::vector<Present *> places(size_t(rows.size()));
+        QStringList formerKeys;
+        for (const Event &row : rows)
+            formerKeys.append(formerKey(row));
+        for (bool isAnyFound = true; isAnyFound;) {
+            isAnyFound = false;
+            for (qsizetype i = 0; i < rows.size(); ++i) {
+                Present *&place = places[size_t(i)];
+                if (place || formerKeys[i].isEmpty() || unclaimed(eventKey(rows[i])))
+                    continue;
+                place = claimed(formerKeys[i]);
+                isAnyFound = isAnyFound || place;
+            }
+        }
+        for (qsizetype i = 0; i < rows.size(); ++i) {
+            if (!places[size_t(i)])
+                places[size_t(i)] = claimed(eventKey(rows[i]));
+        }
+        return places;
     }
 
     [[nodiscard]] const TreeComponent *seriesOf(const Event &row) const
@@ -155,7 +183,7 @@ private:
         const auto isSeries = [&row](const TreeComponent &component) {
             return !component.lastLine("RECURRENCE-ID") && uidOf(component) == uidKey(row.uid);
         };
-        for (const Present &present : m_present) {
+        for (const Present &present : std::as_const(m_present)) {
             if (isSeries(*present.component))
                 return present.component;
         }
@@ -174,9 +202,6 @@ private:
     {
         if (!present)
             return add(row);
-        // An instance that was renamed takes the place of one that has not been.
-        if (const Present *displaced = isSameEvent(present->event, row) ? nullptr : claimed(find(row)))
-            m_removed.push_back(displaced->component);
         TreeComponent &vevent = *present->component;
         patch(vevent, present->event, row);
         if (vevent.isChanged())
@@ -190,7 +215,7 @@ private:
         int sequence = row.sequence;
         for (TreeComponent &stored : m_resource.stored(row.rawIcalendar, "VEVENT")) {
             std::optional<Event> event = readEvent(stored);
-            if (!event || !isSameEvent(*event, row))
+            if (!event || eventKey(*event) != eventKey(row))
                 continue;
             vevent = std::move(stored);
             before = *std::move(event);
@@ -218,7 +243,7 @@ private:
 
     ResourceText &m_resource;
     const Context &m_context;
-    std::vector<Present> m_present;
+    QHash<QString, Present> m_present; // by key
     std::deque<TreeComponent> m_added;
     std::vector<const TreeComponent *> m_removed;
 };
