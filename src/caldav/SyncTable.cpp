@@ -161,7 +161,10 @@ public:
                 m_kind.repository->setAddress(row.id, newHref, newEtag);
         }
         for (const Record &row : std::as_const(m_others)) {
-            if (row.href != newHref || row.etag != newEtag)
+            // An instance that was renamed here had come back under its old name with the server's copy.
+            if (!row.href.isEmpty() && !findIn(sent, row))
+                m_kind.repository->hardDelete(row.id);
+            else if (row.href != newHref || row.etag != newEtag)
                 m_kind.repository->setAddress(row.id, newHref, newEtag);
         }
         if (!savepoint.commit())
@@ -193,14 +196,20 @@ public:
     }
 
 private:
+    static const Record *findIn(const QList<Record> &records, const Record &row)
+    {
+        const auto found = std::ranges::find_if(
+            records, [&row](const Record &r) { return r.uid == row.uid && Kind::key(r) == Kind::key(row); });
+        return found == records.end() ? nullptr : &*found;
+    }
+
     void acceptRow(const Record &row, const QList<Record> &sent, const QString &newHref, const QString &newEtag)
     {
         const auto stored = m_kind.repository->getById(row.id);
         if (!stored)
             return;
-        const auto text = std::ranges::find_if(
-            sent, [&row](const Record &r) { return r.uid == row.uid && Kind::key(r) == Kind::key(row); });
-        if (text == sent.end() || contentOf(*stored) != contentOf(row))
+        const Record *text = findIn(sent, row);
+        if (!text || contentOf(*stored) != contentOf(row))
             m_kind.repository->setAddress(row.id, newHref, newEtag);
         else
             m_kind.repository->markPushed(
