@@ -178,23 +178,34 @@ private:
         return places;
     }
 
-    [[nodiscard]] const TreeComponent *seriesOf(const Event &row) const
+    /// What an override has to know of its series; nothing of one that is not in the text.
+    struct Series {
+        QString uid;
+        const TreeComponent *component = nullptr;
+        std::optional<TimeForm> startForm;
+    };
+
+    const Series &seriesOf(const Event &row)
     {
-        const auto isSeries = [&row](const TreeComponent &component) {
-            return !component.lastLine("RECURRENCE-ID") && uidOf(component) == uidKey(row.uid);
+        const QString uid = uidKey(row.uid);
+        if (m_series.uid == uid)
+            return m_series;
+        m_series = { .uid = uid, .component = nullptr, .startForm = {} };
+        const auto isSeries = [&uid](const TreeComponent &component) {
+            return uidOf(component) == uid && !component.lastLine("RECURRENCE-ID");
         };
-        for (const Present &present : std::as_const(m_present)) {
-            if (isSeries(*present.component))
-                return present.component;
-        }
-        const auto added = std::ranges::find_if(m_added, isSeries);
-        return added == m_added.end() ? nullptr : &*added;
+        if (const auto present = m_present.constFind(eventKey(row.uid, {})); present != m_present.cend())
+            m_series.component = present->component;
+        else if (const auto added = std::ranges::find_if(m_added, isSeries); added != m_added.end())
+            m_series.component = &*added;
+        if (m_series.component)
+            m_series.startForm = EventTimesPatch::startForm(*m_series.component);
+        return m_series;
     }
 
-    void patch(TreeComponent &vevent, const Event &before, const Event &row) const
+    void patch(TreeComponent &vevent, const Event &before, const Event &row)
     {
-        const TreeComponent *series = row.recurrenceId.isEmpty() ? nullptr : seriesOf(row);
-        EventPatch::apply(vevent, before, row, series ? EventTimesPatch::startForm(*series) : std::nullopt,
+        EventPatch::apply(vevent, before, row, row.recurrenceId.isEmpty() ? std::nullopt : seriesOf(row).startForm,
                           m_context.ownAddresses);
     }
 
@@ -221,7 +232,7 @@ private:
             before = *std::move(event);
             break;
         }
-        if (const TreeComponent *series = row.recurrenceId.isEmpty() ? nullptr : seriesOf(row)) {
+        if (const TreeComponent *series = row.recurrenceId.isEmpty() ? nullptr : seriesOf(row).component) {
             takeOver(vevent, *series);
             // An invitation to one instance must not look older than the one to all.
             const TreeLine *line = series->lastLine("SEQUENCE");
@@ -245,6 +256,7 @@ private:
     const Context &m_context;
     QHash<QString, Present> m_present; // by key
     std::deque<TreeComponent> m_added;
+    Series m_series; // the last one asked for
     std::vector<const TreeComponent *> m_removed;
 };
 

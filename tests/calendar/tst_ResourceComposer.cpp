@@ -406,6 +406,35 @@ private slots:
         verifySettled(compose(text, { series }), { series });
     }
 
+    void aMoveKeepsTheFormOfTheTimes_data()
+    {
+        columns<QString, QString>("times", "later"); // by an hour
+        row("floating", u"DTSTART:20260302T090000\nDTEND:20260302T100000"_s,
+            u"DTSTART:20260302T100000\nDTEND:20260302T110000"_s);
+        row("zone and UTC at once", u"DTSTART;TZID=Europe/Berlin:20260302T080000Z\nDURATION:PT1H"_s,
+            u"DTSTART;TZID=Europe/Berlin:20260302T100000\nDTEND;TZID=Europe/Berlin:20260302T110000"_s);
+        row("parameters", u"DTSTART;X-A=1;TZID=\"Europe/Berlin\";VALUE=DATE-TIME:20260302T090000"_s,
+            u"DTSTART;X-A=1;TZID=\"Europe/Berlin\";VALUE=DATE-TIME:20260302T100000"_s);
+        row("a flight", u"DTSTART;TZID=No/Where:20260302T090000\nDTEND;TZID=Asia/Kolkata:20260302T233000"_s,
+            u"DTSTART;TZID=No/Where:20260302T100000\nDTEND;TZID=Asia/Kolkata:20260303T003000"_s);
+        row("after the last year that zones list", u"DTSTART;TZID=Europe/Berlin:20400702T090000"_s,
+            u"DTSTART;TZID=Europe/Berlin:20400702T100000"_s);
+    }
+    void aMoveKeepsTheFormOfTheTimes()
+    {
+        QFETCH(QString, times);
+        QFETCH(QString, later);
+        Event row = ICalParser::parse(calendar("BEGIN:VEVENT\nUID:u\n" + times.toUtf8() + "\nEND:VEVENT\n")).value(0);
+        row.startTime = row.startTime.addSecs(3600);
+        if (row.endTime)
+            row.endTime = row.endTime->addSecs(3600);
+        const Composed composed =
+            compose(calendar("BEGIN:VEVENT\nUID:u\n" + times.toUtf8() + "\nEND:VEVENT\n"), { row });
+        QVERIFY2(composed.text.contains("UID:u\r\n" + later.toUtf8().replace("\n", "\r\n") + "\r\n"),
+                 composed.text.constData());
+        verifySettled(composed, { row });
+    }
+
     void addsAndRemovesOverrides()
     {
         const QByteArray text = foreignText();
