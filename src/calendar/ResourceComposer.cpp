@@ -41,16 +41,16 @@ QString eventKey(const Event &event)
     return eventKey(event.uid, event.recurrenceId);
 }
 
-/// What the row was called in the text that it came with, if that is another instance of the same series.
-QString formerKey(const Event &row)
+/// What the row was in the text that it came with, if that is another instance of the same series.
+std::optional<Event> formerEvent(const Event &row)
 {
     if (row.recurrenceId.isEmpty() || row.rawIcalendar.isEmpty())
-        return {};
+        return std::nullopt;
     const QList<Event> stored = ICalParser::parse(row.rawIcalendar);
     const auto former = std::ranges::find_if(stored, [&row](const Event &event) {
         return uidKey(event.uid) == uidKey(row.uid) && !event.recurrenceId.isEmpty();
     });
-    return former == stored.end() || eventKey(*former) == eventKey(row) ? QString() : eventKey(*former);
+    return former == stored.end() || eventKey(*former) == eventKey(row) ? std::nullopt : std::optional(*former);
 }
 
 std::optional<Event> readEvent(const TreeComponent &vevent)
@@ -119,11 +119,10 @@ public:
     void finish(const QList<Event> &rows)
     {
         for (const Event &row : rows) {
-            const Present *present = claimed(eventKey(row));
-            if (!present)
-                present = claimed(formerKey(row));
-            if (present)
+            if (const Present *present = claimed(eventKey(row)))
                 m_removed.push_back(present->component);
+            else
+                removeFormer(row);
         }
         m_resource.removeComponents(m_removed);
         for (TreeComponent &added : m_added)
@@ -151,6 +150,15 @@ private:
         return present;
     }
 
+    /// Another instance may have come to the former name meanwhile: it has to be the same event still.
+    void removeFormer(const Event &row)
+    {
+        const std::optional<Event> former = formerEvent(row);
+        const Present *present = former ? unclaimed(eventKey(*former)) : nullptr;
+        if (present && present->event.startTime == former->startTime && present->event.title == former->title)
+            m_removed.push_back(present->component);
+    }
+
     /// Where each row stands in the text, or null.
     ///
     /// The instances of a series that moved may have each other's former names: the one that has a name of its own now
@@ -159,8 +167,10 @@ private:
     {
         std::vector<Present *> places(size_t(rows.size()));
         QStringList formerKeys;
-        for (const Event &row : rows)
-            formerKeys.append(formerKey(row));
+        for (const Event &row : rows) {
+            const std::optional<Event> former = formerEvent(row);
+            formerKeys.append(former ? eventKey(*former) : QString());
+        }
         for (bool isAnyFound = true; isAnyFound;) {
             isAnyFound = false;
             for (qsizetype i = 0; i < rows.size(); ++i) {
