@@ -105,10 +105,13 @@ template <typename Kind> class PendingResourceOf : public PendingResource {
     using Record = typename Kind::Record;
 
 public:
-    PendingResourceOf(Database *database, Kind kind, const QList<Record> &rows)
+    /// \p family: every row of the UID. \p rows: those of this resource.
+    PendingResourceOf(Database *database, Kind kind, const QList<Record> &family, const QList<Record> &rows)
         : m_database(database)
         , m_kind(std::move(kind))
     {
+        for (const Record &row : family)
+            m_keys.insert(Kind::key(row));
         for (const Record &row : rows) {
             if (!isPending(row))
                 m_others.append(row);
@@ -133,9 +136,18 @@ public:
 
     [[nodiscard]] bool isEmpty() const { return m_changed.isEmpty() && m_removed.isEmpty(); }
 
-    ResourceComposer::Composed compose(const QByteArray &newest, const ResourceComposer::Context &context) override
+    ResourceComposer::Composed compose(const QByteArray &newest, const QString &newestEtag,
+                                       const ResourceComposer::Context &context) override
     {
-        const ResourceComposer::Composed composed = m_kind.compose(newest, m_changed, m_removed, context);
+        QList<Record> removed = m_removed;
+        // What has been read from this very text and has no row any more goes under another name now.
+        if (!etag.isEmpty() && newestEtag == etag) {
+            for (const Record &record : Kind::parse(QString::fromUtf8(newest))) {
+                if (record.uid == uid && Kind::isReadable(record) && !m_keys.contains(Kind::key(record)))
+                    removed.append(record);
+            }
+        }
+        const ResourceComposer::Composed composed = m_kind.compose(newest, m_changed, removed, context);
         m_sent = composed.text;
         return composed;
     }
@@ -219,6 +231,7 @@ private:
 
     Database *m_database;
     Kind m_kind;
+    QSet<QString> m_keys; // of the family
     QList<Record> m_changed;
     QList<Record> m_removed;
     QList<Record> m_others;
@@ -295,9 +308,10 @@ public:
 
     std::unique_ptr<PendingResource> open(const Resource &resource) override
     {
-        QList<Record> rows = m_kind.family(resource.uid);
+        const QList<Record> family = m_kind.family(resource.uid);
+        QList<Record> rows = family;
         rows.removeIf([&](const Record &row) { return !row.href.isEmpty() && row.href != resource.href; });
-        auto pending = std::make_unique<PendingResourceOf<Kind>>(m_database, m_kind, rows);
+        auto pending = std::make_unique<PendingResourceOf<Kind>>(m_database, m_kind, family, rows);
         if (pending->isEmpty())
             return nullptr;
         return pending;
