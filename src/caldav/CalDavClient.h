@@ -100,7 +100,7 @@ private:
     void onSslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
 
     QNetworkAccessManager *m_manager;
-    QList<QNetworkReply *> m_inFlight; ///< whose continuations are still to run
+    QHash<QNetworkReply *, QByteArray> m_inFlight; ///< whose continuations are still to run, with what has arrived
     QString m_username;
     QString m_password;
     QString m_trustedCertSha256;

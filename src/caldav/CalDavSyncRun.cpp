@@ -88,20 +88,21 @@ void CalDavSyncRun::onEventsPulled()
         qCInfo(caldavLog).noquote() << "[CalDav] Pull removed" << m_pull->removedCount()
                                     << "server-deleted event(s) for" << m_calendar.name;
     if (m_pull->shortfall().isEmpty())
-        saveCalendar();
+        saveCalendar(m_pull->hasChanged());
     else
         noteFailure(tr("Network error: %1").arg(m_pull->shortfall()));
     std::exchange(m_pull, nullptr)->deleteLater();
     runPush();
 }
 
-/// Onto the row as it is now: the user may have renamed it meanwhile. A run that finds nothing new writes nothing.
-void CalDavSyncRun::saveCalendar()
+/// Onto the row as it is now: the user may have renamed it meanwhile. A run that finds nothing new writes nothing,
+/// although our own pushes gave the calendar another ctag.
+void CalDavSyncRun::saveCalendar(bool hasChanged)
 {
     auto calendar = m_state->calendars()->getById(m_calendar.id);
     if (!calendar)
         return;
-    const bool isNew = !m_newCtag.isEmpty() && m_newCtag != calendar->ctag;
+    const bool isNew = !m_newCtag.isEmpty() && m_newCtag != calendar->ctag && (hasChanged || calendar->ctag.isEmpty());
     if (!isNew && calendar->lastSyncError.isEmpty())
         return;
     if (isNew)

@@ -41,7 +41,7 @@ private:
     void runPull();
     void onEventsRefused(const QString &error, int status);
     void onEventsPulled();
-    void saveCalendar();
+    void saveCalendar(bool hasChanged);
     void runPush();
     void onEventsPushed();
     void runTaskPull();

@@ -35,6 +35,7 @@ public:
     void start();
 
     [[nodiscard]] int readCount() const { return m_readCount; } ///< components, unchanged ones too
+    [[nodiscard]] bool hasChanged() const { return m_writtenCount + m_removedCount > 0; } ///< what is stored here
     [[nodiscard]] int removedCount() const { return m_removedCount; }
     [[nodiscard]] int resourceCount() const { return m_resourceCount; }
     [[nodiscard]] int missingCount() const { return int(m_missing.size()); } ///< resources whose text is not known

@@ -154,12 +154,15 @@ void CalendarPush::send(const CalDavParse::EventResource &newest)
     m_href =
         newest.href.isEmpty() ? CalDavPath::newResourcePath(m_session->calendarUrl(), m_current->uid) : newest.href;
     m_etag = newest.etag;
-    const ResourceComposer::Composed composed = m_current->compose(
-        newest.calendarData.toUtf8(), { .now = QDateTime::currentDateTimeUtc(), .ownAddresses = m_ownAddresses });
+    const ResourceComposer::Composed composed =
+        m_current->compose(newest.calendarData.toUtf8(), newest.etag,
+                           { .now = QDateTime::currentDateTimeUtc(), .ownAddresses = m_ownAddresses });
     if (composed.text.isEmpty() && m_kind == Kind::Create) {
         m_current->deleted(); // what the server never had
         return pushNextSoon();
     }
+    if (composed.text.isEmpty() && !m_current->isDeletion)
+        return refuse(0); // nobody deleted the whole: the text could not be read
     if (composed.text.isEmpty()) {
         m_kind = Kind::Delete;
         return sendDeletion(m_etag);

@@ -107,10 +107,13 @@ template <typename Kind> class PendingResourceOf : public PendingResource {
     using Record = typename Kind::Record;
 
 public:
-    PendingResourceOf(Database *database, Kind kind, const QList<Record> &rows)
+    /// \p family: every row of the UID. \p rows: those of this resource.
+    PendingResourceOf(Database *database, Kind kind, const QList<Record> &family, const QList<Record> &rows)
         : m_database(database)
         , m_kind(std::move(kind))
     {
+        for (const Record &row : family)
+            m_keys.insert(Kind::key(row));
         for (const Record &row : rows) {
             if (!isPending(row))
                 m_others.append(row);
@@ -136,9 +139,18 @@ public:
 
     [[nodiscard]] bool isEmpty() const { return m_changed.isEmpty() && m_removed.isEmpty(); }
 
-    ResourceComposer::Composed compose(const QByteArray &newest, const ResourceComposer::Context &context) override
+    ResourceComposer::Composed compose(const QByteArray &newest, const QString &newestEtag,
+                                       const ResourceComposer::Context &context) override
     {
-        const ResourceComposer::Composed composed = m_kind.compose(newest, m_changed, m_removed, context);
+        QList<Record> removed = m_removed;
+        // What has been read from this very text and has no row any more goes under another name now.
+        if (!etag.isEmpty() && newestEtag == etag) {
+            for (const Record &record : Kind::parse(QString::fromUtf8(newest))) {
+                if (record.uid == uid && Kind::isReadable(record) && !m_keys.contains(Kind::key(record)))
+                    removed.append(record);
+            }
+        }
+        const ResourceComposer::Composed composed = m_kind.compose(newest, m_changed, removed, context);
         m_sent = composed.text;
         return composed;
     }
@@ -164,7 +176,10 @@ public:
                 m_kind.repository->setAddress(row.id, newHref, newEtag);
         }
         for (const Record &row : std::as_const(m_others)) {
-            if (row.href != newHref || row.etag != newEtag)
+            // An instance that was renamed here had come back under its old name with the server's copy.
+            if (!row.href.isEmpty() && !findIn(sent, row))
+                purge(row);
+            else if (row.href != newHref || row.etag != newEtag)
                 m_kind.repository->setAddress(row.id, newHref, newEtag);
         }
         if (!savepoint.commit())
@@ -196,14 +211,27 @@ public:
     }
 
 private:
+    static const Record *findIn(const QList<Record> &records, const Record &row)
+    {
+        const auto found = std::ranges::find_if(
+            records, [&row](const Record &r) { return r.uid == row.uid && Kind::key(r) == Kind::key(row); });
+        return found == records.end() ? nullptr : &*found;
+    }
+
+    void purge(const Record &row)
+    {
+        const auto stored = m_kind.repository->getById(row.id);
+        if (stored && !isPending(*stored)) // nor changed while the push was on its way
+            m_kind.repository->hardDelete(row.id);
+    }
+
     void acceptRow(const Record &row, const QList<Record> &sent, const QString &newHref, const QString &newEtag)
     {
         const auto stored = m_kind.repository->getById(row.id);
         if (!stored)
             return;
-        const auto text = std::ranges::find_if(
-            sent, [&row](const Record &r) { return r.uid == row.uid && Kind::key(r) == Kind::key(row); });
-        if (text == sent.end() || contentOf(*stored) != contentOf(row))
+        const Record *text = findIn(sent, row);
+        if (!text || contentOf(*stored) != contentOf(row))
             m_kind.repository->setAddress(row.id, newHref, newEtag);
         else
             m_kind.repository->markPushed(
@@ -213,6 +241,7 @@ private:
 
     Database *m_database;
     Kind m_kind;
+    QSet<QString> m_keys; // of the family
     QList<Record> m_changed;
     QList<Record> m_removed;
     QList<Record> m_others;
@@ -282,10 +311,11 @@ public:
 
     std::unique_ptr<PendingResource> open(const QString &uid, const QString &href) override
     {
-        QList<Record> rows = m_kind.family(uid);
-        const QString address = href.isEmpty() ? commonHref(rows) : href;
+        const QList<Record> family = m_kind.family(uid);
+        const QString address = href.isEmpty() ? commonHref(family) : href;
+        QList<Record> rows = family;
         rows.removeIf([&](const Record &row) { return !row.href.isEmpty() && row.href != address; });
-        auto pending = std::make_unique<PendingResourceOf<Kind>>(m_database, m_kind, rows);
+        auto pending = std::make_unique<PendingResourceOf<Kind>>(m_database, m_kind, family, rows);
         if (pending->isEmpty())
             return nullptr;
         return pending;

@@ -27,8 +27,9 @@ public:
     bool isDeletion = false; ///< no live row of it is left
     bool hasSynced = false; ///< rows that do not wait are of it too
 
-    /// See ResourceComposer. The text is kept for accepted().
-    virtual ResourceComposer::Composed compose(const QByteArray &newest, const ResourceComposer::Context &context) = 0;
+    /// See ResourceComposer. The text is kept for accepted(). \p newestEtag is that of the text \p newest.
+    virtual ResourceComposer::Composed compose(const QByteArray &newest, const QString &newestEtag,
+                                               const ResourceComposer::Context &context) = 0;
     /// True if this text of a resource holds something of this UID.
     [[nodiscard]] virtual bool isIn(const QByteArray &text) const = 0;
     /// The server has what was composed last.

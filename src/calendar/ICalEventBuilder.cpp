@@ -20,21 +20,12 @@ constexpr int LastYear = 9999;
 constexpr qsizetype CompactDateLength = 8; // yyyyMMdd
 // What no calendar has: more would only fill the memory and the database.
 constexpr size_t MaxTextBytes = 16 * 1024 * 1024;
-constexpr qsizetype MaxExceptionDates = 10'000;
-constexpr qsizetype MaxAttendees = 1000;
-constexpr qsizetype MaxReminders = 100;
 
 std::string_view textHead()
 {
     static const std::string head =
         std::string("BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:") + ICalParser::ProductId + "\r\nBEGIN:VEVENT\r\n";
     return head;
-}
-
-QByteArrayView addressFrom(QByteArrayView value)
-{
-    constexpr QByteArrayView scheme{ "mailto:" };
-    return isWord(value.first(std::min(value.size(), scheme.size())), scheme) ? value.sliced(scheme.size()) : value;
 }
 
 QString roleFrom(QByteArrayView role)
@@ -224,14 +215,14 @@ void EventBuilder::readLocation(const ContentLine &line)
 
 void EventBuilder::readOrganizer(const ContentLine &line)
 {
-    m_record.organizerEmail = m_repeated.text(addressFrom(line.value()));
+    m_record.organizerEmail = m_repeated.text(addressOf(line.value()));
     if (const QByteArrayView name = line.parameterAsItStands("CN"); !name.isNull())
         m_record.organizerName = m_repeated.text(name);
 }
 
 void EventBuilder::readAttendee(const ContentLine &line)
 {
-    const QString email = m_repeated.text(addressFrom(line.value()));
+    const QString email = m_repeated.text(addressOf(line.value()));
     if (email.isEmpty() || m_record.attendees.size() >= MaxAttendees)
         return;
     Attendee &attendee = m_record.attendees.emplaceBack();

@@ -10,6 +10,11 @@ namespace ICal {
 /// Makes one event after the other out of the lines of their VEVENTs.
 class EventBuilder : private RecordBuilder<Event> {
 public:
+    // What no calendar has more of: it would only fill the memory and the database.
+    static constexpr qsizetype MaxExceptionDates = 10'000;
+    static constexpr qsizetype MaxAttendees = 1000;
+    static constexpr qsizetype MaxReminders = 100;
+
     /// For BEGIN:VEVENT: starts afresh.
     void begin();
     /// Any line between BEGIN:VEVENT and END:VEVENT, unfolded.

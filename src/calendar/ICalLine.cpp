@@ -1,5 +1,6 @@
 #include "calendar/ICalLine.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 
@@ -142,6 +143,12 @@ QByteArrayView ContentLine::parameterAsItStands(QByteArrayView name) const
 QByteArrayView ICal::withoutQuotes(QByteArrayView text)
 {
     return text.size() >= 2 && text.startsWith('"') && text.endsWith('"') ? text.sliced(1, text.size() - 2) : text;
+}
+
+QByteArrayView ICal::addressOf(QByteArrayView value)
+{
+    constexpr QByteArrayView scheme{ "mailto:" };
+    return isWord(value.first(std::min(value.size(), scheme.size())), scheme) ? value.sliced(scheme.size()) : value;
 }
 
 bool ICal::isParentRelation(const ContentLine &line)

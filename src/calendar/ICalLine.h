@@ -88,6 +88,9 @@ private:
     QByteArrayView m_value;
 };
 
+/// What a CAL-ADDRESS is kept as: the address of a mailto URI, any other URI as it stands. RFC 5545 §3.3.3.
+QByteArrayView addressOf(QByteArrayView value);
+
 /// True for a RELATED-TO that names the parent: RELTYPE is PARENT or absent. RFC 5545 §3.2.15.
 bool isParentRelation(const ContentLine &line);
 

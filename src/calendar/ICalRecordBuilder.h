@@ -60,6 +60,7 @@ protected:
         m_record = m_blank;
         m_raw.assign(head);
         m_alarm.reset();
+        m_foreignDepth = 0;
     }
 
     /// Takes one unfolded line, and reads it with the members of \p builder: readProperty() outside alarms,
@@ -69,10 +70,10 @@ protected:
         m_raw.append(line.data(), size_t(line.size()));
         m_raw += '\r';
         m_raw += '\n';
-        if (line == "BEGIN:VALARM") {
+        if (!m_alarm) {
+            addLineOutsideAlarms(line, builder);
+        } else if (line == "BEGIN:VALARM") {
             m_alarm.emplace();
-        } else if (!m_alarm) {
-            builder.readProperty(ContentLine(line));
         } else if (line == "END:VALARM") {
             builder.addAlarm(*m_alarm);
             m_alarm.reset();
@@ -119,9 +120,23 @@ protected:
     RepeatedTexts m_repeated; // of the whole file
 
 private:
+    template <typename Builder> void addLineOutsideAlarms(QByteArrayView line, Builder &builder)
+    {
+        const ContentLine content(line);
+        if (m_foreignDepth == 0 && line == "BEGIN:VALARM")
+            m_alarm.emplace();
+        else if (content.is("BEGIN"))
+            ++m_foreignDepth;
+        else if (m_foreignDepth == 0)
+            builder.readProperty(content);
+        else if (content.is("END"))
+            --m_foreignDepth;
+    }
+
     const Record m_blank{}; // copied, as the default values of a new record would be texts of its own
     std::string m_raw; // kept for its capacity
     std::optional<Alarm> m_alarm; // set while within a VALARM
+    int m_foreignDepth = 0; // of components such as VLOCATION, whose properties are their own; RFC 9073
 };
 
 } // namespace ICal

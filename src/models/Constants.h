@@ -15,6 +15,10 @@ inline constexpr QLatin1StringView Microsoft{"microsoft"};
 inline constexpr QLatin1StringView Webcal{"webcal"}; ///< a read-only feed
 }
 
+namespace AccountError {
+inline constexpr QLatin1StringView SignInRequired{"Sign in required"}; ///< stored like this whatever the language is
+}
+
 namespace EventStatus {
 inline constexpr QLatin1StringView Confirmed{"confirmed"};
 inline constexpr QLatin1StringView Tentative{"tentative"};

@@ -11,8 +11,6 @@ namespace {
 
 constexpr char16_t WarningGlyph = 0xE002;
 constexpr int GlyphSizePx = 16;
-// Stored like this whatever the language is.
-constexpr QLatin1StringView SignInRequired{ "Sign in required" };
 
 }
 
@@ -45,7 +43,7 @@ void AccountPill::refresh()
         if (!account.enabled)
             continue;
         if (account.type == AccountType::Google || account.type == AccountType::Microsoft)
-            needAuth += account.lastSyncError == SignInRequired;
+            needAuth += account.lastSyncError == AccountError::SignInRequired;
         else if (SyncScheduler::isCalDavFamily(account))
             needPassword += account.lastSyncError == SyncScheduler::passwordMissing();
     }

@@ -6,7 +6,9 @@
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
 #include "storage/PreferencesRepository.h"
-#include "ui/dialogs/CalendarFormDialog.h"
+#include "sync/SyncScheduler.h"
+#include "ui/accounts/CalendarFormDialog.h"
+#include "ui/accounts/CalendarRemoval.h"
 #include "ui/dialogs/ColorButton.h"
 #include "ui/dialogs/ImportDialog.h"
 #include "ui/dialogs/Prompt.h"
@@ -52,10 +54,15 @@ void CalendarMenu::addVisibility()
     connect(addAction(tr("Show &All")), &QAction::triggered, this, &CalendarMenu::showAll);
 }
 
-// Only what lives on this device alone can be deleted here; the rest belongs to a server.
+// Only what lives on this device alone can be deleted; the rest belongs to a server, which keeps it.
 void CalendarMenu::addDelete()
 {
     const auto account = m_state->accounts()->getById(m_calendar.accountId);
+    if (account && SyncScheduler::isCalDavFamily(*account)) {
+        connect(addAction(tr("Re&move from This Device…")), &QAction::triggered, this,
+                [this] { CalendarRemoval::ask(m_state, m_calendar, parentWidget()->window()); });
+        return;
+    }
     if (!account || account->type != AccountType::Quillon)
         return;
     connect(addAction(tr("De&lete Calendar…")), &QAction::triggered, this, [this] {

@@ -58,6 +58,10 @@ void MainMenus::buildFileMenu()
         { .id = QStringLiteral("newCalendar"), .group = group, .text = tr("New &Calendar…"), .run = [this] {
              m_window->openNewCalendarDialog();
          } }));
+    menu->addAction(m_table->add(
+        { .id = QStringLiteral("calendarAccounts"), .group = group, .text = tr("Calendar &Accounts…"), .run = [this] {
+             m_window->openCalendarAccounts();
+         } }));
     menu->addSeparator();
     menu->addAction(m_table->add({ .id = QStringLiteral("syncNow"),
                                    .group = group,
@@ -252,6 +256,10 @@ void MainMenus::buildToolsMenu()
     new GroupMenu(m_state, m_table, menu->addMenu(tr("&Calendar Groups")));
     menu->addSeparator();
     add("manageTemplates", tr("Manage Te&mplates…"), [this] { m_window->openManageTemplatesDialog(); });
+    if (m_state->conflicts()) {
+        menu->addSeparator();
+        add("syncConflicts", tr("&Sync Conflicts…"), [this] { m_window->openSyncConflicts(); });
+    }
 }
 
 void MainMenus::buildHelpMenu()

@@ -21,10 +21,13 @@
 #include "ui/Sidebar.h"
 #include "ui/ViewArea.h"
 #include "ui/WindowLayout.h"
+#include "ui/accounts/CalDavConnectionDialog.h"
+#include "ui/accounts/CalendarFormDialog.h"
+#include "ui/accounts/ConflictResolutionDialog.h"
+#include "ui/accounts/ManageSourcesDialog.h"
 #include "ui/actions/EventActions.h"
 #include "ui/actions/TaskActions.h"
 #include "ui/dialogs/AboutBox.h"
-#include "ui/dialogs/CalendarFormDialog.h"
 #include "ui/dialogs/FilterFormDialog.h"
 #include "ui/dialogs/IcsDrop.h"
 #include "ui/dialogs/KeyboardHelpDialog.h"
@@ -126,7 +129,7 @@ void MainWindow::buildCentralPanes()
     m_sidebar->setVisible(isSidebarWanted());
     m_rightPanes->setVisible(isTasksPaneWanted());
 
-    connect(empty, &NoAccountsPage::addRequested, this, &MainWindow::openNewCalendarDialog);
+    connect(empty, &NoAccountsPage::addRequested, this, &MainWindow::openAddAccountDialog);
     m_viewArea->connectActions(m_eventActions);
     connect(m_viewArea, &ViewArea::icsDropped, this, &MainWindow::importIcsFiles);
     connect(m_viewArea, &ViewArea::message, this, &MainWindow::showMessage);
@@ -145,7 +148,20 @@ void MainWindow::buildStatusBar()
         connect(scheduler, &SyncScheduler::statusMessage, statusBar(), &QStatusBar::showMessage);
 }
 
-void MainWindow::openCalendarAccounts() { }
+void MainWindow::openCalendarAccounts()
+{
+    (new ManageSourcesDialog(m_state, this))->open();
+}
+
+void MainWindow::openAddAccountDialog()
+{
+    (new CalDavConnectionDialog(m_state, this))->open();
+}
+
+void MainWindow::openSyncConflicts()
+{
+    (new ConflictResolutionDialog(m_state, this))->open();
+}
 
 void MainWindow::runSyncNow()
 {

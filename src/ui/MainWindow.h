@@ -49,6 +49,8 @@ public slots:
     void chooseIcsFiles();
     void openNewCalendarDialog();
     void openCalendarAccounts();
+    void openAddAccountDialog();
+    void openSyncConflicts();
     void runSyncNow();
     void runForceFullSync();
     void openPreferencesDialog();

@@ -6,7 +6,7 @@
 #include "storage/ViewRepository.h"
 #include "ui/CalendarListWidget.h"
 #include "ui/ElidedLabel.h"
-#include "ui/dialogs/CalendarFormDialog.h"
+#include "ui/accounts/CalendarFormDialog.h"
 #include "ui/surfaces/MiniMonthCalendar.h"
 #include "ui/theme/Theme.h"
 #include "ui/theme/ThemeManager.h"

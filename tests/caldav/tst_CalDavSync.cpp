@@ -225,6 +225,25 @@ private slots:
         QCOMPARE(m_phone->event(u"weekly"_s, SecondWeek).href, u"/alice/work/s.ics"_s);
     }
 
+    void aMovedSeriesTakesItsOverridesAlong()
+    {
+        m_server->store("s.ics", series("Review", "Late review"));
+        QCOMPARE(m_phone->sync(), QString());
+        m_phone->edit(u"weekly"_s, [](Event &event) {
+            event.startTime = utc("2026-03-15T10:00");
+            event.endTime = utc("2026-03-15T11:00");
+        });
+        m_phone->edit(
+            u"weekly"_s, [](Event &event) { event.recurrenceId = u"20260322T100000Z"_s; }, SecondWeek);
+        m_server->store("s.ics", series("Their review", "Late review"));
+        QCOMPARE(m_phone->sync(), QString());
+        QCOMPARE(m_phone->sync(), QString());
+        QCOMPARE(m_server->text("s.ics").count("BEGIN:VEVENT"), 2);
+        QVERIFY(m_server->text("s.ics").contains("RECURRENCE-ID:20260322T100000Z"));
+        QCOMPARE(m_phone->state()->events()->getSeries(u"weekly"_s, m_phone->calendarId()).size(), 2);
+        QCOMPARE(m_phone->pendingCount(), 0);
+    }
+
     void whatChangesWhileItIsPushedStaysPending()
     {
         m_server->store("a.ics", calendarText(eventText("a", "Standup")));

@@ -9,7 +9,7 @@
 #include "ui/Sidebar.h"
 #include "ui/ViewArea.h"
 #include "ui/actions/EventDetailsPopover.h"
-#include "ui/dialogs/CalendarFormDialog.h"
+#include "ui/accounts/CalendarFormDialog.h"
 #include "ui/dialogs/ImportDialog.h"
 #include "ui/dialogs/Prompt.h"
 #include "ui/dialogs/WelcomeDialog.h"

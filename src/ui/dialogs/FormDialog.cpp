@@ -91,7 +91,7 @@ FormDialog::FormDialog(const QString &title, QWidget *parent)
     area->setMinimumWidth(MinWidth - 2 * Margin);
     content->setAutoFillBackground(false);
 
-    m_problem = new InlineMessage(InlineMessage::Kind::Problem, this);
+    m_message = new InlineMessage(InlineMessage::Kind::Problem, this);
     m_buttons = new QDialogButtonBox(this);
     connect(m_buttons, &QDialogButtonBox::accepted, this, &FormDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &FormDialog::reject);
@@ -100,7 +100,7 @@ FormDialog::FormDialog(const QString &title, QWidget *parent)
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     layout->setSpacing(Spacing);
     layout->addWidget(area, 1);
-    layout->addWidget(m_problem);
+    layout->addWidget(m_message);
     layout->addWidget(m_buttons);
 }
 
@@ -112,6 +112,8 @@ void FormDialog::open()
 
 void FormDialog::accept()
 {
+    if (m_busy)
+        return;
     clearProblem();
     if (save())
         QDialog::accept();
@@ -127,7 +129,18 @@ void FormDialog::reject()
 
 QString FormDialog::problemText() const
 {
-    return m_problem->isHidden() ? QString() : m_problem->text();
+    return messageText(true);
+}
+
+QString FormDialog::statusText() const
+{
+    return messageText(false);
+}
+
+QString FormDialog::messageText(bool isProblem) const
+{
+    const bool isShown = !m_message->isHidden() && isProblem == (m_message->kind() == InlineMessage::Kind::Problem);
+    return isShown ? m_message->text() : QString();
 }
 
 QFormLayout *FormDialog::addForm()
@@ -237,12 +250,37 @@ void FormDialog::addCloseButton()
 
 void FormDialog::showProblem(const QString &text, QWidget *at)
 {
-    m_problem->showText(text);
+    m_message->showText(InlineMessage::Kind::Problem, text);
     if (at)
         at->setFocus(Qt::OtherFocusReason);
 }
 
 void FormDialog::clearProblem()
 {
-    m_problem->showText({});
+    m_message->showText({});
+}
+
+void FormDialog::showStatus(const QString &text)
+{
+    m_message->showText(InlineMessage::Kind::Information, text);
+}
+
+void FormDialog::setBusy(bool busy)
+{
+    if (m_busy == busy)
+        return;
+    m_busy = busy;
+    if (busy)
+        m_focusBeforeBusy = focusWidget();
+    m_body->parentWidget()->setEnabled(!busy);
+    for (QAbstractButton *button : m_buttons->buttons()) {
+        if (m_buttons->buttonRole(button) == QDialogButtonBox::AcceptRole)
+            button->setEnabled(!busy);
+    }
+    if (busy)
+        setCursor(Qt::BusyCursor);
+    else
+        unsetCursor();
+    if (!busy && m_focusBeforeBusy)
+        m_focusBeforeBusy->setFocus(Qt::OtherFocusReason);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QPointer>
 #include <QString>
 
 class InlineMessage;
@@ -23,6 +24,7 @@ public:
     /// Cancel, Escape and the close button: asks first where changes would be lost.
     void reject() override;
     [[nodiscard]] QString problemText() const; ///< of the error on show; empty if there is none
+    [[nodiscard]] QString statusText() const; ///< of what showStatus() told
 
     /// The layout of every form: labels left, fields as wide as the dialog allows.
     static void styleForm(QFormLayout *form);
@@ -54,9 +56,18 @@ protected:
     void showEvent(QShowEvent *event) override;
     void showProblem(const QString &text, QWidget *at); ///< and puts the focus on \p at
     void clearProblem();
+    /// How work that takes a while goes on, in the place of the error.
+    void showStatus(const QString &text);
+    /// While work is under way the form can be read and closed, and neither changed nor accepted.
+    void setBusy(bool busy);
+    [[nodiscard]] bool isBusy() const { return m_busy; }
 
 private:
+    [[nodiscard]] QString messageText(bool isProblem) const;
+
     QVBoxLayout *m_body;
-    InlineMessage *m_problem;
+    InlineMessage *m_message;
     QDialogButtonBox *m_buttons;
+    bool m_busy = false;
+    QPointer<QWidget> m_focusBeforeBusy;
 };

@@ -28,9 +28,18 @@ void InlineMessage::showText(const QString &text)
     }
 }
 
+void InlineMessage::showText(Kind kind, const QString &text)
+{
+    m_kind = kind;
+    update();
+    showText(text);
+}
+
 void InlineMessage::paintEvent(QPaintEvent *event)
 {
-    const QColor color = m_kind == Kind::Problem ? Theme::danger() : Theme::warning();
+    const QColor color = m_kind == Kind::Problem ? Theme::danger()
+        : m_kind == Kind::Warning                ? Theme::warning()
+                                                 : Theme::accent();
     QColor tint = color;
     tint.setAlpha(28);
     QPainter painter(this);

@@ -8,11 +8,13 @@ class InlineMessage : public QLabel {
     Q_OBJECT
 
 public:
-    enum class Kind { Warning, Problem };
+    enum class Kind { Information, Warning, Problem };
 
     explicit InlineMessage(Kind kind, QWidget *parent = nullptr);
 
+    [[nodiscard]] Kind kind() const { return m_kind; }
     void showText(const QString &text); ///< plain text; empty hides
+    void showText(Kind kind, const QString &text);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -1,62 +1,18 @@
 #include "ui/dialogs/OrderedListDialog.h"
 
-#include "ui/theme/Theme.h"
+#include "ui/dialogs/TwoLineDelegate.h"
 
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
-#include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
-#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace {
 
-enum Role { IdRole = Qt::UserRole, DetailRole, PinnedRole };
-
-/// The title, and below it the detail in the muted colour; both elide.
-class TwoLineDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        QStyleOptionViewItem item = option;
-        initStyleOption(&item, index);
-        const QStyle *style = item.widget ? item.widget->style() : QApplication::style();
-        const QRect rect = style->subElementRect(QStyle::SE_ItemViewItemText, &item, item.widget).adjusted(4, 0, -4, 0);
-        const QString title = item.text;
-        item.text.clear();
-        style->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
-
-        const int lineHeight = item.fontMetrics.height();
-        const QString detail = index.data(DetailRole).toString();
-        const int lines = detail.isEmpty() ? 1 : 2;
-        QRect line(rect.left(), rect.center().y() - lines * lineHeight / 2, rect.width(), lineHeight);
-        painter->save();
-        painter->setFont(item.font);
-        drawLine(painter, line, item, title, Theme::textPrimary());
-        drawLine(painter, line.translated(0, lineHeight), item, detail, Theme::textMuted());
-        painter->restore();
-    }
-
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        const QSize base = QStyledItemDelegate::sizeHint(option, index);
-        return { base.width(), qMax(base.height(), option.fontMetrics.height() * 2 + 16) };
-    }
-
-private:
-    static void drawLine(QPainter *painter, const QRect &rect, const QStyleOptionViewItem &item, const QString &text,
-                         const QColor &color)
-    {
-        painter->setPen(color);
-        const QString elided = item.fontMetrics.elidedText(text, Qt::ElideRight, rect.width());
-        painter->drawText(rect, int(Qt::TextSingleLine | Qt::AlignVCenter | Qt::AlignLeading), elided);
-    }
-};
+constexpr int IdRole = Qt::UserRole;
+constexpr int PinnedRole = TwoLineDelegate::DetailRole + 1;
 
 }
 
@@ -152,7 +108,7 @@ void OrderedListDialog::fillList(const QList<Row> &all, const QString &selectedI
     for (const Row &row : all) {
         auto *item = new QListWidgetItem(row.icon, row.title, m_list);
         item->setData(IdRole, row.id);
-        item->setData(DetailRole, row.detail);
+        item->setData(TwoLineDelegate::DetailRole, row.detail);
         item->setData(PinnedRole, row.pinned);
         item->setData(Qt::AccessibleDescriptionRole, row.detail);
         Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;

@@ -1,5 +1,4 @@
 #include "support/ScratchState.h"
-#include "ui/dialogs/CalendarFormDialog.h"
 #include "ui/dialogs/FeedbackDialog.h"
 #include "ui/dialogs/FilterFormDialog.h"
 #include "ui/dialogs/ImportDialog.h"
@@ -71,7 +70,6 @@ private slots:
             { "filters", [](AppState *s) { return new ManageFiltersDialog(s); } },
             { "group", [](AppState *s) { return new ViewFormDialog(s); } },
             { "groups", [](AppState *s) { return new ManageViewsDialog(s); } },
-            { "calendar", [](AppState *s) { return new CalendarFormDialog(s); } },
             { "import", [](AppState *s) { return new ImportDialog(s, { QString(90, u'w') }, 3); } },
             { "welcome", [](AppState *s) { return new WelcomeDialog(s); } },
             { "feedback by web", [](AppState *) { return feedbackTo("https://feedback.example.org/v1"); } },

@@ -1,6 +1,6 @@
 #include "support/ScratchState.h"
 #include "support/TestData.h"
-#include "ui/dialogs/CalendarFormDialog.h"
+#include "ui/accounts/CalendarFormDialog.h"
 
 #include <QtTest>
 #include <QtWidgets>

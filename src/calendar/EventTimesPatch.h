@@ -1,0 +1,47 @@
+#pragma once
+
+#include "calendar/ICalParser.h"
+#include "calendar/ICalTree.h"
+#include "calendar/TimeForm.h"
+#include "models/Event.h"
+
+#include <functional>
+#include <optional>
+#include <set>
+
+/// Writes over a VEVENT when an event is: start and end, what it repeats, and which instance of a series it is.
+class EventTimesPatch {
+public:
+    /// \p before is what \p vevent reads as. All three must outlive the patch.
+    EventTimesPatch(ICal::TreeComponent &vevent, const Event &before, const Event &event);
+
+    /// \p series is the form in which the series of an override begins, if it is known.
+    void apply(const std::optional<TimeForm> &series);
+
+    /// The form of DTSTART, if there is one.
+    static std::optional<TimeForm> startForm(const ICal::TreeComponent &vevent);
+
+private:
+    using Instants = std::set<qint64>; // milliseconds since the epoch
+    /// The instant that a listed time names; nothing for one that is not read.
+    using NamedInstant = std::function<std::optional<qint64>(const ICalParser::DateTimeValue &)>;
+
+    [[nodiscard]] TimeForm wantedStartForm() const;
+    void patchStart();
+    [[nodiscard]] TimeForm wantedEndForm(const QDateTime &end) const;
+    void patchEnd();
+    void patchRule();
+    void patchInstanceName(const std::optional<TimeForm> &series);
+    void patchExceptionDates();
+    void patchFurtherDates();
+    [[nodiscard]] Instants instants(const QString &json) const;
+    void patchDates(const QByteArray &property, const Instants &wanted, const NamedInstant &instantOf);
+    void addDates(const QByteArray &property, const Instants &instants);
+
+    ICal::TreeComponent &m_vevent;
+    const Event &m_before;
+    const Event &m_event;
+    TimeForm m_form; // of the start
+    bool m_isStartChanged = false;
+    bool m_isFormChanged = false;
+};

@@ -1,0 +1,91 @@
+#include "ui/accounts/AccountHealth.h"
+
+#include "app/state/AppState.h"
+#include "calendar/services/TimeFormat.h"
+#include "models/Calendar.h"
+#include "storage/CalendarRepository.h"
+#include "sync/SyncScheduler.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+namespace {
+
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(AccountHealth)
+};
+
+QString lastSync(AppState *state, const Account &account)
+{
+    if (!account.lastSyncTime)
+        return Text::tr("Not synced yet");
+    const QDateTime local = account.lastSyncTime->toLocalTime();
+    return Text::tr("Last sync: %1, %2", "date, time")
+        .arg(QLocale().toString(local.date(), QLocale::ShortFormat), TimeFormat::formatTime(state, local));
+}
+
+/// What the last run of each calendar left behind.
+QString calendarErrors(AppState *state, const Account &account)
+{
+    QStringList lines;
+    const QList<Calendar> calendars = state->calendars()->getByAccount(account.id);
+    for (const Calendar &calendar : calendars) {
+        const bool isLatest = state->lastSyncErrored() && state->lastSyncErrorCalendar() == calendar.id;
+        const QString error =
+            calendar.lastSyncError.isEmpty() && isLatest ? state->lastSyncErrorMessage() : calendar.lastSyncError;
+        if (!error.isEmpty())
+            lines.append(Text::tr("%1: %2", "calendar, error").arg(calendar.name.simplified(), error.simplified()));
+    }
+    return lines.join(u'\n');
+}
+
+}
+
+AccountHealth AccountHealth::of(AppState *state, const Account &account)
+{
+    if (account.type == AccountType::Quillon)
+        return { .state = State::Local, .summary = Text::tr("On this device"), .detail = {} };
+    if (!account.enabled)
+        return { .state = State::Disabled, .summary = Text::tr("Turned off"), .detail = {} };
+    if (!account.pendingCertSha256.isEmpty()) {
+        return { .state = State::CertificateChanged,
+                 .summary = Text::tr("Certificate changed"),
+                 .detail = Text::tr("The server shows a certificate that you have not trusted. Nothing syncs until you "
+                                    "have reviewed it.") };
+    }
+    if (account.lastSyncError == SyncScheduler::passwordMissing()) {
+        return { .state = State::PasswordMissing,
+                 .summary = account.lastSyncError,
+                 .detail = Text::tr("The password of this account is not on this device. Nothing syncs until you enter "
+                                    "it.") };
+    }
+    if (account.lastSyncError == AccountError::SignInRequired) {
+        return { .state = State::SignInRequired,
+                 .summary = Text::tr("Sign in required"),
+                 .detail = Text::tr("The sign-in of this account has ended.") };
+    }
+    QStringList errors{ account.lastSyncError, calendarErrors(state, account) };
+    errors.removeAll(QString());
+    if (!errors.isEmpty())
+        return { .state = State::Failing, .summary = Text::tr("Sync failed"), .detail = errors.join(u'\n') };
+    return { .state = State::Fine, .summary = lastSync(state, account), .detail = {} };
+}
+
+QString AccountHealth::typeName(const Account &account)
+{
+    if (account.type == AccountType::Quillon)
+        return Text::tr("Calendars on this device");
+    if (account.type == AccountType::CalDAV)
+        return QStringLiteral("CalDAV");
+    if (account.type == AccountType::ICloud)
+        return QStringLiteral("iCloud");
+    if (account.type == AccountType::Zoho)
+        return QStringLiteral("Zoho");
+    if (account.type == AccountType::Google)
+        return QStringLiteral("Google");
+    if (account.type == AccountType::Microsoft)
+        return QStringLiteral("Microsoft");
+    if (account.type == AccountType::Webcal)
+        return Text::tr("Web feed");
+    return account.type;
+}

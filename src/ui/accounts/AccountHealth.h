@@ -1,0 +1,27 @@
+#pragma once
+
+#include "models/Account.h"
+
+#include <QString>
+
+class AppState;
+
+/// How the sync of an account is doing, in words for its owner. All texts are plain.
+struct AccountHealth {
+    enum class State {
+        Fine,
+        Local, ///< nothing to sync
+        Disabled,
+        PasswordMissing,
+        SignInRequired,
+        CertificateChanged, ///< the server shows another one than the one that is trusted
+        Failing,
+    };
+
+    State state = State::Fine;
+    QString summary; ///< one line
+    QString detail; ///< what went wrong, a line for each calendar; empty if nothing did
+
+    static AccountHealth of(AppState *state, const Account &account);
+    static QString typeName(const Account &account);
+};
