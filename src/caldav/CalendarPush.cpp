@@ -86,6 +86,7 @@ void CalendarPush::prepare()
 
 void CalendarPush::fetchText()
 {
+    m_kind = Kind::Update;
     m_session->client()->get(CalDavPath::resourceUrl(m_session->calendarUrl(), m_current->href),
                              m_session->watched(SilenceGuard::SilenceMs, std::bind_front(&CalendarPush::onText, this)));
 }
@@ -98,7 +99,7 @@ void CalendarPush::onText(const CalDavClient::Response &response)
         m_current->forgetAddress();
         return send({});
     }
-    if (!response.isSuccess() || !response.isWhole)
+    if (!response.isSuccess() || !response.isWhole || !m_current->isIn(response.body))
         return refuse(response.status);
     send({ .href = m_current->href,
            .etag = CalDavPath::etagFromHeader(response.header("ETag")),
@@ -112,8 +113,11 @@ void CalendarPush::send(const CalDavParse::EventResource &newest)
     m_href =
         newest.href.isEmpty() ? CalDavPath::newResourcePath(m_session->calendarUrl(), m_current->uid) : newest.href;
     m_etag = newest.etag;
-    const ResourceComposer::Composed composed = m_current->compose(
-        newest.calendarData.toUtf8(), { .now = QDateTime::currentDateTimeUtc(), .ownAddresses = m_ownAddresses });
+    const ResourceComposer::Composed composed =
+        m_current->compose(newest.calendarData.toUtf8(), newest.etag,
+                           { .now = QDateTime::currentDateTimeUtc(), .ownAddresses = m_ownAddresses });
+    if (composed.text.isEmpty() && !m_current->isDeletion)
+        return refuse(0); // nobody deleted the whole: the text could not be read
     if (composed.text.isEmpty()) {
         m_kind = Kind::Delete;
         return sendDeletion(m_etag);
