@@ -118,6 +118,7 @@ void CalendarPush::prepare()
 
 void CalendarPush::fetchText()
 {
+    m_kind = Kind::Update;
     m_session->client()->get(CalDavPath::resourceUrl(m_session->calendarUrl(), m_current->href),
                              m_session->watched(SilenceGuard::SilenceMs, std::bind_front(&CalendarPush::onText, this)));
 }

@@ -244,6 +244,22 @@ private slots:
         QCOMPARE(m_phone->pendingCount(), 0);
     }
 
+    void anInstanceThatForgotItsOldNameLeavesItOnTheServerToo()
+    {
+        m_server->store("s.ics", series("Review", "Late review"));
+        QCOMPARE(m_phone->sync(), QString());
+        m_phone->edit(
+            u"weekly"_s,
+            [](Event &event) {
+                event.recurrenceId = u"20260322T100000Z"_s;
+                event.rawIcalendar.clear();
+            },
+            SecondWeek);
+        m_phone->edit(u"weekly"_s, [](Event &event) { event.startTime = utc("2026-03-15T10:00"); });
+        QCOMPARE(m_phone->sync(), QString());
+        QCOMPARE(m_server->text("s.ics").count("RECURRENCE-ID"), 1);
+    }
+
     void whatChangesWhileItIsPushedStaysPending()
     {
         m_server->store("a.ics", calendarText(eventText("a", "Standup")));
