@@ -264,7 +264,7 @@ void CalDavClient::send(const Request &request)
     });
     connect(reply, &QNetworkReply::metaDataChanged, this, &CalDavClient::heard);
     connect(reply, &QNetworkReply::downloadProgress, this, &CalDavClient::heard);
-    connect(reply, &QNetworkReply::uploadProgress, this, &CalDavClient::heard);
+    connect(reply, &QNetworkReply::uploadProgress, this, &CalDavClient::sent);
     // Queued, so that a continuation can delete the client, and the reply with it, outside of the reply's own code.
     connect(
         reply, &QNetworkReply::finished, this, [this, reply, request] { onFinished(reply, request); },

@@ -89,8 +89,8 @@ public:
 
 signals:
     void untrustedCertEncountered(const CalDavClient::UntrustedCertInfo &info);
-    /// Something arrived from the server, or went out to it: the connection is alive.
-    void heard();
+    void sent(); ///< Something of a request went out: the connection is alive.
+    void heard(); ///< Something of an answer arrived.
 
 private:
     struct Request;

@@ -26,6 +26,7 @@ struct Events {
     QString calendarId;
 
     static QList<Event> parse(const QString &text) { return ICalParser::parse(text); }
+    static constexpr bool CountsPending = true;
     static bool isReadable(const Event &event) { return event.startTime.isValid(); }
     static QString key(const Event &event) { return event.recurrenceId; }
     static QString when(const Event &event) { return event.startTime.toString(Qt::ISODate); }
@@ -53,6 +54,7 @@ struct Tasks {
     QString calendarId;
 
     static QList<Task> parse(const QString &text) { return ICalParser::parseTasks(text); }
+    static constexpr bool CountsPending = false;
     static bool isReadable(const Task &) { return true; }
     static QString key(const Task &) { return {}; }
     static QString when(const Task &task) { return task.dueDate ? task.dueDate->toString(Qt::ISODate) : QString(); }
@@ -128,6 +130,7 @@ public:
         title = first.title;
         href = commonHref(rows);
         isDeletion = m_changed.isEmpty() && m_others.isEmpty();
+        hasSynced = !m_others.isEmpty();
         for (const Record &row : rows) {
             if (row.href == href && etag.isEmpty())
                 etag = row.etag;
@@ -248,6 +251,8 @@ public:
     {
     }
 
+    [[nodiscard]] bool countsPending() const override { return Kind::CountsPending; }
+
     QList<SyncRow> rows(qint64 afterRowid, int limit) override
     {
         return m_kind.repository->syncRows(m_kind.calendarId, afterRowid, limit);
@@ -292,25 +297,17 @@ public:
             && m_kind.repository->setAddress(id, {}, {});
     }
 
-    QList<Resource> pendingResources() override
+    QList<PendingRow> pendingRows(qint64 afterRowid, int limit) override
     {
-        QList<Resource> resources;
-        QSet<std::pair<QString, QString>> seen;
-        for (const Record &row : m_kind.repository->getPending(m_kind.calendarId)) {
-            const QString href = row.href.isEmpty() ? commonHref(m_kind.family(row.uid)) : row.href;
-            if (!seen.contains({ row.uid, href })) {
-                seen.insert({ row.uid, href });
-                resources.append({ .uid = row.uid, .href = href });
-            }
-        }
-        return resources;
+        return m_kind.repository->pendingRows(m_kind.calendarId, afterRowid, limit);
     }
 
-    std::unique_ptr<PendingResource> open(const Resource &resource) override
+    std::unique_ptr<PendingResource> open(const QString &uid, const QString &href) override
     {
-        const QList<Record> family = m_kind.family(resource.uid);
+        const QList<Record> family = m_kind.family(uid);
         QList<Record> rows = family;
-        rows.removeIf([&](const Record &row) { return !row.href.isEmpty() && row.href != resource.href; });
+        const QString address = href.isEmpty() ? commonHref(rows) : href;
+        rows.removeIf([&](const Record &row) { return !row.href.isEmpty() && row.href != address; });
         auto pending = std::make_unique<PendingResourceOf<Kind>>(m_database, m_kind, family, rows);
         if (pending->isEmpty())
             return nullptr;
@@ -336,18 +333,22 @@ private:
     void storeRecord(Record record, const std::optional<Record> &stored, const CalDavParse::EventResource &resource,
                      const QSet<QString> &listed, Stored &result)
     {
-        ++result.read;
+        const bool waits = stored && isPending(*stored);
+        result.read += Kind::CountsPending || !waits;
         logPulled(record, stored);
         // Another resource that holds the same UID keeps the row: else the two would take it from each other for ever.
         if (stored && !stored->href.isEmpty() && stored->href != resource.href && listed.contains(stored->href))
             return;
-        if (stored && isPending(*stored)) {
+        if (waits) {
             result.hasPending = true;
             const QString href = resource.href.isEmpty() ? stored->href : resource.href;
             if (stored->etag != resource.etag || stored->href != href)
                 m_kind.repository->setAddress(stored->id, href, resource.etag);
             return;
         }
+        // Another row of the resource was behind, or the listing spells its address differently.
+        if (stored && !resource.etag.isEmpty() && stored->etag == resource.etag && stored->href == resource.href)
+            return;
         record.calendarId = m_kind.calendarId;
         record.href = resource.href;
         record.etag = resource.etag;
