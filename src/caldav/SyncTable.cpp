@@ -221,7 +221,7 @@ private:
     void purge(const Record &row)
     {
         const auto stored = m_kind.repository->getById(row.id);
-        if (stored && !isPending(*stored)) // nor changed while the push was on its way
+        if (stored && !isPending(*stored)) // the user may have changed it while the push was on its way
             m_kind.repository->hardDelete(row.id);
     }
 
@@ -312,8 +312,8 @@ public:
     std::unique_ptr<PendingResource> open(const QString &uid, const QString &href) override
     {
         const QList<Record> family = m_kind.family(uid);
-        const QString address = href.isEmpty() ? commonHref(family) : href;
         QList<Record> rows = family;
+        const QString address = href.isEmpty() ? commonHref(rows) : href;
         rows.removeIf([&](const Record &row) { return !row.href.isEmpty() && row.href != address; });
         auto pending = std::make_unique<PendingResourceOf<Kind>>(m_database, m_kind, family, rows);
         if (pending->isEmpty())

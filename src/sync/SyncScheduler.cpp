@@ -15,6 +15,7 @@
 #include "sync/EtagClearing.h"
 
 #include <QDebug>
+#include <QPointer>
 
 #include <algorithm>
 #include <memory>
@@ -63,7 +64,7 @@ void SyncScheduler::start()
     connect(m_state->tasks(), &TaskRepository::tasksChanged, this, onChanged);
     connect(m_state, &AppState::syncBusyChanged, this, &SyncScheduler::onBusyChanged);
     connect(m_state, &AppState::syncNowRequested, this, [this] { runRound(Credentials::Unlock::Never); });
-    m_state->setPushable([this](const QString &calendarId) { return canPush(calendarId); });
+    m_state->setPushable([self = QPointer(this)](const QString &id) { return !self || self->canPush(id); });
     m_tick.start();
     QTimer::singleShot(StartUpMs, this, [this] { runRound(Credentials::Unlock::Never); });
 }

@@ -244,6 +244,21 @@ private slots:
         QCOMPARE(m_phone->pendingCount(), 0);
     }
 
+    void whatIsEditedUnderItsOldNameMeanwhileStays()
+    {
+        m_server->store("s.ics", series("Review", "Late review"));
+        QCOMPARE(m_phone->sync(), QString());
+        m_phone->edit(
+            u"weekly"_s, [](Event &event) { event.recurrenceId = u"20260322T100000Z"_s; }, SecondWeek);
+        m_server->store("s.ics", series("Their review", "Late review"));
+        m_server->whenAsked("PUT", [this] {
+            m_phone->edit(
+                u"weekly"_s, [](Event &event) { event.title = u"Mine"_s; }, SecondWeek);
+        });
+        QCOMPARE(m_phone->sync(), QString());
+        QCOMPARE(m_phone->event(u"weekly"_s, SecondWeek).title, u"Mine"_s);
+    }
+
     void anInstanceThatForgotItsOldNameLeavesItOnTheServerToo()
     {
         m_server->store("s.ics", series("Review", "Late review"));
