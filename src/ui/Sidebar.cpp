@@ -5,7 +5,7 @@
 #include "storage/CalendarRepository.h"
 #include "storage/ViewRepository.h"
 #include "ui/CalendarListWidget.h"
-#include "ui/ElidedLabel.h"
+#include "ui/theme/ElidedLabel.h"
 #include "ui/dialogs/CalendarFormDialog.h"
 #include "ui/surfaces/MiniMonthCalendar.h"
 #include "ui/theme/Theme.h"

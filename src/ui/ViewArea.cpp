@@ -6,7 +6,7 @@
 #include "storage/EventRepository.h"
 #include "storage/FilterRuleRepository.h"
 #include "storage/ViewRepository.h"
-#include "ui/ElidedLabel.h"
+#include "ui/theme/ElidedLabel.h"
 #include "ui/GroupButton.h"
 #include "ui/ModeBar.h"
 #include "ui/ViewModes.h"
