@@ -74,7 +74,7 @@ void TaskDetailsPopover::addDates()
         addLine(DetailGlyphs::Clock, tr("Starts"), TaskText::date(m_state, *m_task.startDate, m_task.startIsDateOnly));
     if (!m_task.recurrenceRule.isEmpty())
         addLine(DetailGlyphs::Repeat, tr("Repeats"),
-                RruleFormat::humanReadable(RuleEnd::asDay(m_task.recurrenceRule, m_task.dueIsDateOnly)));
+                RruleFormat::humanReadable(RuleEnd::asDay(m_task.recurrenceRule, m_task.repeatsByDay())));
     QStringList reminders;
     for (const Reminder &reminder : std::as_const(m_task.reminders))
         reminders.append(RruleFormat::humanReadableReminder(reminder.minutesBefore));
