@@ -24,16 +24,24 @@ constexpr int WidenedPx = 2; // around the check box
 TasksPaneRow::TasksPaneRow(AppState *state, const TaskListing::Row &row, const Look &look, QWidget *parent)
     : QWidget(parent)
     , m_state(state)
-    , m_row(row)
-    , m_look(look)
 {
     setObjectName(QStringLiteral("tasksPaneRow"));
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setRow(row, look);
+}
+
+void TasksPaneRow::setRow(const TaskListing::Row &row, const Look &look)
+{
+    m_row = row;
+    m_look = look;
+    m_dueText = row.dueDate ? TaskText::date(m_state, *row.dueDate, row.dueIsDateOnly) : QString();
     setAccessibleName(sentence());
     setToolTip(Theme::plainToolTip(TaskText::title(row)));
+    updateGeometry();
+    update();
 }
 
 bool TasksPaneRow::isOnCheckbox(QPoint point) const
@@ -54,8 +62,8 @@ TasksPaneRow::Zone TasksPaneRow::zoneForCursor(int y) const
 QString TasksPaneRow::sentence() const
 {
     QStringList parts{ TaskText::title(m_row) };
-    if (m_row.dueDate)
-        parts.append(tr("due %1", "date").arg(TaskText::date(m_state, *m_row.dueDate, m_row.dueIsDateOnly)));
+    if (!m_dueText.isEmpty())
+        parts.append(tr("due %1", "date").arg(m_dueText));
     if (const QString priority = TaskText::priority(m_row.priority); !priority.isEmpty())
         parts.append(tr("priority %1").arg(priority));
     parts.append(TaskText::status(m_row.status));
@@ -99,7 +107,8 @@ void TasksPaneRow::startDrag()
     auto *mime = new QMimeData;
     mime->setData(QLatin1StringView(TaskDragMime::kTaskUid), m_row.uid.toUtf8());
     mime->setData(QLatin1StringView(TaskDragMime::kTaskRowId), m_row.id.toUtf8());
-    auto *drag = new QDrag(this);
+    // The row may go while it is dragged: a sync may delete its task.
+    auto *drag = new QDrag(parentWidget());
     drag->setMimeData(mime);
     drag->setPixmap(grab());
     drag->setHotSpot(m_pressedAt);
@@ -145,9 +154,14 @@ void TasksPaneRow::keyPressEvent(QKeyEvent *event)
         emit deleteRequested(m_row.id);
         return;
     case Qt::Key_Up:
-    case Qt::Key_Down:
-        emit walkRequested(event->key() == Qt::Key_Down ? 1 : -1);
+    case Qt::Key_Down: {
+        const int step = event->key() == Qt::Key_Down ? 1 : -1;
+        if (event->modifiers().testFlag(Qt::AltModifier))
+            emit moveRequested(step);
+        else
+            emit walkRequested(step);
         return;
+    }
     default:
         QWidget::keyPressEvent(event);
     }

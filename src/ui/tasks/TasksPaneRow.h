@@ -23,6 +23,7 @@ public:
 
     TasksPaneRow(AppState *state, const TaskListing::Row &row, const Look &look, QWidget *parent = nullptr);
 
+    void setRow(const TaskListing::Row &row, const Look &look);
     [[nodiscard]] const TaskListing::Row &row() const { return m_row; }
     [[nodiscard]] QRect checkboxRect() const;
     void setDraggable(bool draggable) { m_isDraggable = draggable; }
@@ -40,6 +41,7 @@ signals:
     void deleteRequested(const QString &taskId);
     void taskDropped(const QString &uid, const QString &targetUid, TasksPaneRow::Zone zone);
     void walkRequested(int step); ///< +1 or -1: to the next row or the one before
+    void moveRequested(int step); ///< of the task, among its siblings
 
 protected:
     bool event(QEvent *event) override;
@@ -59,7 +61,6 @@ private:
     [[nodiscard]] bool isOnCheckbox(QPoint point) const;
     [[nodiscard]] int textLeft() const;
     [[nodiscard]] QString sentence() const;
-    [[nodiscard]] QString dueText() const;
     [[nodiscard]] QStringList tags() const;
     [[nodiscard]] bool hasSecondLine() const;
     [[nodiscard]] int lineCount() const;
@@ -76,6 +77,7 @@ private:
     AppState *m_state;
     TaskListing::Row m_row;
     Look m_look;
+    QString m_dueText;
     bool m_isDraggable = false;
     bool m_isPressed = false;
     bool m_isPressOnCheckbox = false;
