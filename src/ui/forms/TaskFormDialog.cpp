@@ -171,8 +171,7 @@ void TaskFormDialog::connectControls()
         m_color->setCalendarColor(m_calendar->calendarColor());
         populateParents();
     });
-    connect(m_parent, &QComboBox::activated, this,
-            [this] { m_chosenParentUid = m_parent->currentData().toString(); });
+    connect(m_parent, &QComboBox::activated, this, [this] { m_chosenParentUid = m_parent->currentData().toString(); });
     connect(m_status, &QComboBox::activated, this, &TaskFormDialog::onStatusChosen);
     connect(m_progress, &QSpinBox::valueChanged, this, &TaskFormDialog::onProgressChanged);
     connect(m_due, &OptionalDateField::changed, this, &TaskFormDialog::onDueChanged);

@@ -5,8 +5,8 @@
 #include "storage/PreferencesRepository.h"
 #include "storage/TaskRepository.h"
 #include "storage/ViewRepository.h"
-#include "ui/theme/ElidedLabel.h"
 #include "ui/actions/TaskActions.h"
+#include "ui/theme/ElidedLabel.h"
 #include "ui/theme/Theme.h"
 
 #include <QActionGroup>

@@ -74,9 +74,13 @@ private slots:
             result.dueIsDateOnly = false;
             return result;
         };
-        const QStringList expected{ QStringLiteral("late evening before"), QStringLiteral("early"),
-                                    QStringLiteral("late"), QStringLiteral("today"), QStringLiteral("tomorrow early"),
-                                    QStringLiteral("tomorrow"), QStringLiteral("some day") };
+        const QStringList expected{ QStringLiteral("late evening before"),
+                                    QStringLiteral("early"),
+                                    QStringLiteral("late"),
+                                    QStringLiteral("today"),
+                                    QStringLiteral("tomorrow early"),
+                                    QStringLiteral("tomorrow"),
+                                    QStringLiteral("some day") };
         QList<Task> tasks{ task(expected.at(6)),
                            task(expected.at(5), Today.addDays(1)),
                            task(expected.at(3), Today),
