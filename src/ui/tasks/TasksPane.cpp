@@ -10,6 +10,7 @@
 #include "ui/theme/Theme.h"
 
 #include <QActionGroup>
+#include <QCursor>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
@@ -27,6 +28,9 @@ namespace {
 
 constexpr int LinesPerSlice = 60; // new ones or moved ones; what stays costs next to nothing
 constexpr int MarginPx = 12;
+constexpr int DragScrollMs = 30;
+constexpr int DragScrollPx = 8; // each time
+constexpr int DragEdgePx = 24; // at the top and the bottom
 const QString FilterKey = QStringLiteral("ui/tasksFilter");
 const QString GroupKey = QStringLiteral("ui/tasksGroupByCalendar");
 const QString HideKey = QStringLiteral("ui/tasksHideCompleted");
@@ -69,6 +73,7 @@ TasksPane::TasksPane(AppState *state, TaskActions *actions, QWidget *parent)
     , m_actions(actions)
     , m_reloadTimer(new QTimer(this))
     , m_sliceTimer(new QTimer(this))
+    , m_dragScrollTimer(new QTimer(this))
     , m_scroll(new QScrollArea)
     , m_list(new QVBoxLayout)
 {
@@ -104,6 +109,8 @@ TasksPane::TasksPane(AppState *state, TaskActions *actions, QWidget *parent)
             reload();
     });
     connect(m_sliceTimer, &QTimer::timeout, this, &TasksPane::buildSlice);
+    m_dragScrollTimer->setInterval(DragScrollMs);
+    connect(m_dragScrollTimer, &QTimer::timeout, this, &TasksPane::scrollWhileDragging);
     connectSources();
 }
 
@@ -345,6 +352,11 @@ TasksPaneRow *TasksPane::buildRow(const TaskListing::Row &row, const TasksPaneRo
     connect(widget, &TasksPaneRow::contextRequested, m_actions, &TaskActions::showContextMenu);
     connect(widget, &TasksPaneRow::completionToggled, m_actions, &TaskActions::setCompleted);
     connect(widget, &TasksPaneRow::deleteRequested, m_actions, &TaskActions::remove);
+    connect(widget, &TasksPaneRow::draggedOver, this, [this] {
+        if (!m_dragScrollTimer->isActive())
+            m_dragScrollTimer->start();
+    });
+    connect(widget, &TasksPaneRow::dragEnded, m_dragScrollTimer, &QTimer::stop);
     connect(widget, &TasksPaneRow::taskDropped, this, &TasksPane::onTaskDropped);
     connect(widget, &TasksPaneRow::walkRequested, this, &TasksPane::onWalk);
     connect(widget, &TasksPaneRow::moveRequested, this, &TasksPane::onMove);
@@ -418,6 +430,20 @@ void TasksPane::onWalk(int step)
         return;
     m_rows.at(next)->setFocus(step > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     m_scroll->ensureWidgetVisible(m_rows.at(next), 0, 0);
+}
+
+// Where the pointer stays at the edge: what is beyond comes nearer.
+void TasksPane::scrollWhileDragging()
+{
+    const QWidget *viewport = m_scroll->viewport();
+    const int y = viewport->mapFromGlobal(QCursor::pos()).y();
+    QScrollBar *bar = m_scroll->verticalScrollBar();
+    if (y < DragEdgePx)
+        bar->setValue(bar->value() - DragScrollPx);
+    else if (y >= viewport->height() - DragEdgePx)
+        bar->setValue(bar->value() + DragScrollPx);
+    else
+        m_dragScrollTimer->stop();
 }
 
 // Past the next task that hangs from the same one.

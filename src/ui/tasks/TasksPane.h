@@ -62,6 +62,7 @@ private:
     TasksPaneRow *buildRow(const TaskListing::Row &row, const TasksPaneRow::Look &look);
     void onWalk(int step);
     void onMove(int step);
+    void scrollWhileDragging();
     void onTaskDropped(const QString &uid, const QString &targetUid, TasksPaneRow::Zone zone);
     void storeFlag(bool *flag, bool on, const QString &key);
     void showFilterName();
@@ -74,6 +75,7 @@ private:
     bool m_isStale = true;
     QTimer *m_reloadTimer;
     QTimer *m_sliceTimer;
+    QTimer *m_dragScrollTimer;
     QToolButton *m_filterButton = nullptr;
     QToolButton *m_addButton = nullptr;
     QScrollArea *m_scroll;

@@ -18,6 +18,7 @@
 namespace {
 
 constexpr int WidenedPx = 2; // around the check box
+constexpr int MaxShownChars = 300;
 
 }
 
@@ -39,7 +40,7 @@ void TasksPaneRow::setRow(const TaskListing::Row &row, const Look &look)
     m_look = look;
     m_dueText = row.dueDate ? TaskText::date(m_state, *row.dueDate, row.dueIsDateOnly) : QString();
     setAccessibleName(sentence());
-    setToolTip(Theme::plainToolTip(TaskText::title(row)));
+    setToolTip(Theme::plainToolTip(wholeText()));
     updateGeometry();
     update();
 }
@@ -70,6 +71,19 @@ QString TasksPaneRow::sentence() const
     if (m_row.depth > 0 || m_row.isCutOff)
         parts.append(tr("subtask"));
     return parts.join(QStringLiteral(", "));
+}
+
+// What a narrow pane cuts off.
+QString TasksPaneRow::wholeText() const
+{
+    QStringList lines{ TaskText::title(m_row), m_dueText };
+    lines += tags();
+    if (m_look.showCategories)
+        lines.append(m_row.categories.join(QStringLiteral(", ")).simplified());
+    if (m_look.showNotes)
+        lines.append(m_row.description.left(MaxShownChars).simplified());
+    lines.removeAll(QString());
+    return lines.join(u'\n');
 }
 
 void TasksPaneRow::toggle()
@@ -179,6 +193,7 @@ void TasksPaneRow::dragMoveEvent(QDragMoveEvent *event)
         setDropZone(Zone::None);
         return event->ignore();
     }
+    emit draggedOver();
     setDropZone(zoneForCursor(event->position().toPoint().y()));
     event->setDropAction(Qt::MoveAction);
     event->accept();
@@ -186,6 +201,7 @@ void TasksPaneRow::dragMoveEvent(QDragMoveEvent *event)
 
 void TasksPaneRow::dragLeaveEvent(QDragLeaveEvent *)
 {
+    emit dragEnded();
     setDropZone(Zone::None);
 }
 
@@ -193,6 +209,7 @@ void TasksPaneRow::dropEvent(QDropEvent *event)
 {
     const QString uid = QString::fromUtf8(event->mimeData()->data(QLatin1StringView(TaskDragMime::kTaskUid)));
     const Zone zone = zoneForCursor(event->position().toPoint().y());
+    emit dragEnded();
     setDropZone(Zone::None);
     if (uid.isEmpty() || uid == m_row.uid)
         return event->ignore();

@@ -39,6 +39,8 @@ signals:
     void contextRequested(const QString &taskId, const QPoint &globalPos);
     void completionToggled(const QString &taskId, bool completed);
     void deleteRequested(const QString &taskId);
+    void draggedOver(); ///< with another task
+    void dragEnded(); ///< over this row: it left, or was dropped
     void taskDropped(const QString &uid, const QString &targetUid, TasksPaneRow::Zone zone);
     void walkRequested(int step); ///< +1 or -1: to the next row or the one before
     void moveRequested(int step); ///< of the task, among its siblings
@@ -61,6 +63,7 @@ private:
     [[nodiscard]] bool isOnCheckbox(QPoint point) const;
     [[nodiscard]] int textLeft() const;
     [[nodiscard]] QString sentence() const;
+    [[nodiscard]] QString wholeText() const;
     [[nodiscard]] QStringList tags() const;
     [[nodiscard]] bool hasSecondLine() const;
     [[nodiscard]] int lineCount() const;

@@ -128,6 +128,23 @@ private slots:
         QTRY_COMPARE(outline(), QStringLiteral("a c"));
     }
 
+    void reloadKeepsRowsAndTheirOrder()
+    {
+        TasksPaneRow *kept = row(QStringLiteral("a"));
+        kept->setFocus();
+        add(QStringLiteral("0"));
+        QTRY_COMPARE(outline(), QStringLiteral("0 a -b c"));
+        QCOMPARE(row(QStringLiteral("a")), kept);
+        QVERIFY(kept->hasFocus());
+        row(QStringLiteral("0"))->setFocus();
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
+        QCOMPARE(m_window->focusWidget(), kept);
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Down, Qt::AltModifier);
+        QTRY_COMPARE(outline(), QStringLiteral("0 c a -b"));
+        QVERIFY(kept->hasFocus());
+        QVERIFY(row(QStringLiteral("c"))->y() < kept->y() && kept->y() < row(QStringLiteral("b"))->y());
+    }
+
     void optionsAreKept()
     {
         m_pane->setFilter(TasksPane::Filter::Overdue);
