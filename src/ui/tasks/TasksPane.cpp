@@ -22,6 +22,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -425,9 +426,9 @@ void TasksPane::buildEmptyState()
 void TasksPane::onWalk(int step)
 {
     const auto index = m_rows.indexOf(static_cast<TasksPaneRow *>(sender()));
-    const qsizetype next = index + step;
-    if (index < 0 || next < 0 || next >= m_rows.size())
+    if (index < 0)
         return;
+    const qsizetype next = std::clamp<qsizetype>(index + step, 0, m_rows.size() - 1);
     m_rows.at(next)->setFocus(step > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     m_scroll->ensureWidgetVisible(m_rows.at(next), 0, 0);
 }

@@ -19,6 +19,8 @@ namespace {
 
 constexpr int WidenedPx = 2; // around the check box
 constexpr int MaxShownChars = 300;
+constexpr int PageRows = 10; // that Page Up and Page Down pass
+constexpr int AllRows = 1'000'000;
 
 }
 
@@ -166,6 +168,14 @@ void TasksPaneRow::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Delete:
     case Qt::Key_Backspace:
         emit deleteRequested(m_row.id);
+        return;
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        emit walkRequested(event->key() == Qt::Key_End ? AllRows : -AllRows);
+        return;
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        emit walkRequested(event->key() == Qt::Key_PageDown ? PageRows : -PageRows);
         return;
     case Qt::Key_Up:
     case Qt::Key_Down: {

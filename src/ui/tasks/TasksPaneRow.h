@@ -42,7 +42,7 @@ signals:
     void draggedOver(); ///< with another task
     void dragEnded(); ///< over this row: it left, or was dropped
     void taskDropped(const QString &uid, const QString &targetUid, TasksPaneRow::Zone zone);
-    void walkRequested(int step); ///< +1 or -1: to the next row or the one before
+    void walkRequested(int step); ///< to the row so many further down, or up; at most to the last or the first
     void moveRequested(int step); ///< of the task, among its siblings
 
 protected:

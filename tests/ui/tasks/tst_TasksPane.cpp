@@ -118,6 +118,9 @@ private slots:
         row(QStringLiteral("a"))->setFocus();
         QTest::keyClick(m_window->focusWidget(), Qt::Key_Down);
         QCOMPARE(m_window->focusWidget(), row(QStringLiteral("b")));
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_PageDown);
+        QCOMPARE(m_window->focusWidget(), row(QStringLiteral("c")));
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Up);
         QTest::keyClick(m_window->focusWidget(), Qt::Key_Space);
         QVERIFY(stored(QStringLiteral("b")).isCompleted());
         QTRY_VERIFY(row(QStringLiteral("b"))->row().isCompleted()); // built anew
