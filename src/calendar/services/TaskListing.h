@@ -21,6 +21,8 @@ struct Options {
 
 struct Row : TreeTask {
     bool isCutOff = false; ///< its parent is not in the list
+
+    bool operator==(const Row &) const = default;
 };
 
 struct Section {

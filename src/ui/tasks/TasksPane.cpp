@@ -261,7 +261,6 @@ void TasksPane::reload()
     for (const Calendar &calendar : calendars)
         m_calendarColors.insert(calendar.id, calendar.color);
     m_syncableCalendarIds = m_state->syncableCalendarIds();
-    setUpdatesEnabled(false);
     clearContent();
     for (int section = 0; section < m_sections.size(); ++section) {
         if (!m_sections.at(section).calendarId.isEmpty())
@@ -272,7 +271,6 @@ void TasksPane::reload()
     if (m_pending.isEmpty())
         buildEmptyState();
     buildSlice();
-    setUpdatesEnabled(true);
 }
 
 // The rows stay where they are until the new list has placed them.
@@ -291,6 +289,7 @@ void TasksPane::clearContent()
 
 void TasksPane::buildSlice()
 {
+    m_list->setEnabled(false); // else each row that shows would lay out all the others
     for (int moved = 0; moved < LinesPerSlice && !m_pending.isEmpty();) {
         const Pending next = m_pending.takeFirst();
         const TaskListing::Section &section = m_sections.at(next.section);
@@ -301,11 +300,14 @@ void TasksPane::buildSlice()
             moved += place(m_otherLines.constLast()) ? 1 : 0;
         }
     }
-    if (!m_pending.isEmpty())
-        return m_sliceTimer->start();
-    for (TasksPaneRow *row : std::as_const(m_oldRows))
-        discard(row);
-    m_oldRows.clear();
+    if (m_pending.isEmpty()) {
+        for (TasksPaneRow *row : std::as_const(m_oldRows))
+            discard(row);
+        m_oldRows.clear();
+    } else {
+        m_sliceTimer->start();
+    }
+    m_list->setEnabled(true);
 }
 
 // Later, as it may be the origin of the signal that led here.
@@ -323,6 +325,7 @@ bool TasksPane::place(QWidget *line)
         return false;
     m_list->removeWidget(line);
     m_list->insertWidget(index, line);
+    line->show();
     return true;
 }
 

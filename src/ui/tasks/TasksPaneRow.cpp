@@ -38,9 +38,12 @@ TasksPaneRow::TasksPaneRow(AppState *state, const TaskListing::Row &row, const L
 
 void TasksPaneRow::setRow(const TaskListing::Row &row, const Look &look)
 {
+    const QString dueText = row.dueDate ? TaskText::date(m_state, *row.dueDate, row.dueIsDateOnly) : QString();
+    if (row == m_row && look == m_look && dueText == m_dueText)
+        return; // as most are on a reload
     m_row = row;
     m_look = look;
-    m_dueText = row.dueDate ? TaskText::date(m_state, *row.dueDate, row.dueIsDateOnly) : QString();
+    m_dueText = dueText;
     setAccessibleName(sentence());
     setToolTip(Theme::plainToolTip(wholeText()));
     updateGeometry();

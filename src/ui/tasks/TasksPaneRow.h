@@ -19,6 +19,8 @@ public:
         bool showCategories = false;
         bool isWaitingToSync = false;
         QString color; ///< of the task or its calendar
+
+        bool operator==(const Look &) const = default;
     };
 
     TasksPaneRow(AppState *state, const TaskListing::Row &row, const Look &look, QWidget *parent = nullptr);

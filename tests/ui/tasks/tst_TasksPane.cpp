@@ -129,6 +129,7 @@ private slots:
         QTest::keyClick(m_window->focusWidget(), Qt::Key_Delete);
         QTRY_COMPARE(answers.asked.size(), 1);
         QTRY_COMPARE(outline(), QStringLiteral("a c"));
+        QTRY_COMPARE(m_window->focusWidget(), row(QStringLiteral("c")));
     }
 
     void reloadKeepsRowsAndTheirOrder()
