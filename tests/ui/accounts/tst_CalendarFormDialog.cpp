@@ -1,6 +1,11 @@
+#include "ui/accounts/CalendarFormDialog.h"
+
+#include "models/Account.h"
+#include "support/HttpServer.h"
 #include "support/ScratchState.h"
 #include "support/TestData.h"
-#include "ui/accounts/CalendarFormDialog.h"
+#include "sync/SyncScheduler.h"
+#include "ui/dialogs/Prompt.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -57,6 +62,67 @@ private slots:
         QCOMPARE(stored.name, u"Renamed"_qs);
         QCOMPARE(stored.ctag, u"after the sync"_qs);
         QCOMPARE(stored.description, u"two\r\nlines"_qs);
+    }
+
+    void asksTheServerFirst()
+    {
+        ScratchState state;
+        SyncScheduler scheduler(state.state());
+        state->setSyncServices(&scheduler, nullptr);
+        HttpServer server;
+        Account account;
+        account.id = u"account"_qs;
+        account.name = u"Server"_qs;
+        account.type = AccountType::CalDAV;
+        account.serverUrl = server.url().toString();
+        account.username = u"alice"_qs;
+        QVERIFY(state->accounts()->insert(account));
+        {
+            const Prompt::ScopedAnswers prompts;
+            qputenv("CALENDAR_TOKEN_STORE", "file:" + state.path(u"secrets.json"_qs).toUtf8());
+            CalendarFormDialog form(state.state());
+            fillInForServer(form);
+            QTRY_COMPARE(prompts.asked.size(), 1);
+            QCOMPARE(prompts.asked.first().title, u"Missing password"_qs);
+            scheduler.credentials()->setCaldavPassword(account.id, u"s3cret"_qs, this, [](bool) {});
+        }
+        server.enqueue({ .status = 201, .body = {}, .headers = {} });
+        server.enqueue({ .status = 207, .body = {}, .headers = {} });
+        CalendarFormDialog form(state.state());
+        fillInForServer(form);
+        QTRY_COMPARE(form.statusText(), u"Creating calendar on server…"_qs);
+        QTRY_COMPARE(form.result(), int(QDialog::Accepted));
+        Calendar calendar = state->calendars()->getById(form.resultCalendarId()).value();
+        QCOMPARE(calendar.accountId + calendar.name, account.id + u"Shared"_qs);
+
+        // Does it take tasks? No. And what is read-only here asks nobody.
+        calendar.supportedComponents = u"[\"VEVENT\"]"_qs;
+        QVERIFY(state->calendars()->update(calendar));
+        server.enqueue({ .status = 403, .body = {}, .headers = {} });
+        CalendarFormDialog edit(state.state(), calendar);
+        auto *allowTasks = edit.findChild<QCheckBox *>();
+        allowTasks->setChecked(true);
+        edit.accept();
+        QTRY_COMPARE(edit.problemText(), u"This calendar does not accept tasks (server returned HTTP 403)."_qs);
+        QVERIFY(!allowTasks->isChecked() && allowTasks->isEnabled());
+        state.makeReadOnly(calendar.id);
+        CalendarFormDialog readOnly(state.state(), state->calendars()->getById(calendar.id).value());
+        QVERIFY(!readOnly.findChild<QCheckBox *>());
+        readOnly.findChild<QLineEdit *>()->setText(u"Here only"_qs);
+        readOnly.accept();
+        QCOMPARE(state->calendars()->getById(calendar.id)->name, u"Here only"_qs);
+        QCOMPARE(server.requests().size(), 3);
+        qunsetenv("CALENDAR_TOKEN_STORE");
+        state->setSyncServices(nullptr, nullptr);
+    }
+
+private:
+    static void fillInForServer(CalendarFormDialog &form)
+    {
+        form.findChild<QLineEdit *>()->setText(u"Shared"_qs);
+        auto *account = form.findChild<QComboBox *>();
+        account->setCurrentIndex(account->findText(u"Server"_qs));
+        form.accept();
     }
 };
 
