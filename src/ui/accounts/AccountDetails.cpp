@@ -82,6 +82,7 @@ void AccountDetails::buildForm()
     m_calendars = makeLabel();
     m_lastSync = makeLabel();
     m_interval = new QComboBox;
+    m_interval->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_color = new ColorButton;
     m_enabled = new QCheckBox(tr("S&ync this account"));
     m_excluded = new QCheckBox(tr("E&xclude from cloud sync"));

@@ -1,14 +1,11 @@
-#include "models/Account.h"
+#include "AccountBench.h"
 #include "support/DialogLayout.h"
-#include "support/ScratchState.h"
 #include "sync/ConflictResolutionService.h"
 #include "ui/accounts/CalDavCertificateDialog.h"
 #include "ui/accounts/CalDavConnectionDialog.h"
 #include "ui/accounts/CalendarFormDialog.h"
 #include "ui/accounts/ConflictResolutionDialog.h"
 #include "ui/accounts/ManageSourcesDialog.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -41,7 +38,8 @@ private slots:
         QTest::addColumn<int>("percent");
         const QList<std::pair<const char *, MakeDialog>> dialogs{
             { "add", [](AppState *s) { return new CalDavConnectionDialog(s); } },
-            { "edit", [](AppState *s) { return new CalDavConnectionDialog(s, *s->accounts()->getById(u"a"_s)); } },
+            { "edit",
+              [](AppState *s) { return new CalDavConnectionDialog(s, *s->accounts()->getById(u"account"_s)); } },
             { "certificate", [](AppState *) { return new CalDavCertificateDialog(certificate(), u"B"_s); } },
             { "accounts", [](AppState *s) { return new ManageSourcesDialog(s); } },
             { "calendar", [](AppState *s) { return new CalendarFormDialog(s); } },
@@ -60,25 +58,20 @@ private slots:
         QFont font = m_font;
         font.setPointSize(font.pointSize() * percent / 100);
         QApplication::setFont(font);
-        ScratchState state;
-        Account account;
-        account.id = u"a"_s;
-        account.name = u"A long name of an account that wants room"_s; // first in the list
-        account.type = AccountType::CalDAV;
-        account.serverUrl = u"https://cloud.example.com/"_s + QString(120, u'x');
-        account.pendingCertSha256 = u"AB"_s;
-        QVERIFY(state->accounts()->insert(account));
-        Sync::ConflictResolutionService conflicts(state.state());
-        const Event event = state.addAllDayEvent(QString(90, u'w'), { 2026, 3, 15 });
+        AccountBench bench(u"https://cloud.example.com/"_s + QString(120, u'x'));
+        bench.account.name = u"A long name of an account that wants room"_s; // first in the list
+        bench.account.pendingCertSha256 = u"AB"_s;
+        QVERIFY(bench.state->accounts()->update(bench.account));
+        Sync::ConflictResolutionService conflicts(bench.state);
+        const Event event = bench.scratch.addAllDayEvent(QString(90, u'w'), { 2026, 3, 15 });
         conflicts.recordConflict(event, event);
-        state->setSyncServices(nullptr, &conflicts);
-        const std::unique_ptr<QDialog> dialog(make(state.state()));
+        bench.state->setSyncServices(&bench.scheduler, &conflicts);
+        const std::unique_ptr<QDialog> dialog(make(bench.state));
         dialog->show();
         QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
         DialogLayout::checkTabOrder(dialog.get());
         DialogLayout::checkTexts(dialog.get());
         QVERIFY(dialog->width() <= 800 * percent / 100);
-        state->setSyncServices(nullptr, nullptr);
     }
 
 private:

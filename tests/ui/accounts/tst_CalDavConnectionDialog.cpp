@@ -1,21 +1,13 @@
 #include "ui/accounts/CalDavConnectionDialog.h"
 
+#include "AccountBench.h"
 #include "caldav/CalDavClient.h"
 #include "caldav/CalDavRediscover.h"
-#include "models/Account.h"
 #include "support/HttpServer.h"
-#include "support/ScratchState.h"
 #include "support/SelfSigned.h"
 #include "support/TestData.h"
-#include "sync/SyncScheduler.h"
 #include "ui/accounts/CalDavCertificateDialog.h"
 #include "ui/accounts/ServerAddress.h"
-#include "ui/dialogs/Prompt.h"
-
-#include <QtTest>
-#include <QtWidgets>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -65,19 +57,9 @@ private slots:
     {
         m_server = std::make_unique<HttpServer>();
         m_server->setHandler(answer);
-        m_state = std::make_unique<ScratchState>();
-        qputenv("CALENDAR_TOKEN_STORE", "file:" + m_state->path(u"secrets.json"_s).toUtf8());
-        m_scheduler = std::make_unique<SyncScheduler>(state());
-        state()->setSyncServices(m_scheduler.get(), nullptr);
-        m_prompts = std::make_unique<Prompt::ScopedAnswers>();
+        m_bench = std::make_unique<AccountBench>(m_server->url().toString());
     }
-    void cleanup()
-    {
-        m_prompts.reset();
-        state()->setSyncServices(nullptr, nullptr);
-        m_scheduler.reset();
-        qunsetenv("CALENDAR_TOKEN_STORE");
-    }
+    void cleanup() { m_bench.reset(); }
 
     void takesAddressesApart_data()
     {
@@ -100,10 +82,11 @@ private slots:
 
     void addsWhatWasPicked()
     {
+        QVERIFY(state()->accounts()->remove(m_bench->account.id));
         CalDavConnectionDialog dialog(state());
         dialog.show();
         QString withLogin = m_server->url().toString();
-        type(dialog, Url, withLogin.replace(u"//"_s, u"//alice:s3cret@"_s));
+        QTest::keyClicks(field(dialog, Url), withLogin.replace(u"//"_s, u"//alice:s3cret@"_s));
         QTest::keyClick(field(dialog, Url), Qt::Key_Return);
         QCOMPARE(dialog.statusText(), u"Connecting…"_s);
         QCOMPARE(field(dialog, Url)->text() + field(dialog, User)->text() + field(dialog, Password)->text(),
@@ -119,17 +102,16 @@ private slots:
         QCOMPARE(account.serverUrl, m_server->url().toString());
         QCOMPARE(account.calendarHomeSet, m_server->url(u"/alice/cal/"_s).toString());
         QCOMPARE(account.principalUrl, m_server->url(u"/alice/"_s).toString());
-        QCOMPARE(names(account.id), u"Work"_s);
+        QCOMPARE(m_bench->calendars(account.id), u"Work"_s);
         QVERIFY(CalDavRediscover::isDeclined(state(), account.id, m_server->url(u"/alice/cal/family/"_s).toString()));
         // The first sync has begun; its discovery brings back nothing.
         QTRY_VERIFY(std::ranges::count(m_server->requests(), "REPORT", &HttpServer::Request::method) >= 1);
         QTRY_VERIFY(!state()->isSyncing());
-        QCOMPARE(names(account.id), u"Work"_s);
-        QVERIFY(m_prompts->asked.isEmpty());
-        QFile secrets(m_state->path(u"secrets.json"_s));
-        QVERIFY(secrets.open(QIODevice::ReadOnly) && secrets.readAll().contains("s3cret"));
+        QCOMPARE(m_bench->calendars(account.id), u"Work"_s);
+        QVERIFY(m_bench->prompts.asked.isEmpty());
+        QVERIFY(m_bench->secrets().contains("s3cret"));
         for (const char *name : { "calendar.db", "calendar.db-wal" }) {
-            QFile file(m_state->path(QLatin1StringView(name)));
+            QFile file(m_bench->scratch.path(QLatin1StringView(name)));
             QVERIFY(!file.exists() || (file.open(QIODevice::ReadOnly) && !file.readAll().contains("s3cret")));
         }
     }
@@ -173,12 +155,11 @@ private slots:
     void refusesToAddWhatIsNotReady()
     {
         QFETCH(const Prepare, prepare);
-        addAccount(u"http://127.0.0.1:1/elsewhere"_s);
         CalDavConnectionDialog dialog(state());
         fillIn(dialog);
         prepare(dialog);
         QString told = dialog.problemText();
-        for (const Prompt::ScopedAnswers::Asked &asked : m_prompts->asked)
+        for (const Prompt::ScopedAnswers::Asked &asked : m_bench->prompts.asked)
             told += asked.title + u": "_s + asked.text;
         QTEST(told, "told");
         QCOMPARE(state()->accounts()->getAll().size(), 2);
@@ -202,13 +183,14 @@ private slots:
     void saysThatAPasswordCannotBeKept()
     {
         qputenv("CALENDAR_TOKEN_STORE", "file:/dev/null/secrets.json");
+        QVERIFY(state()->accounts()->remove(m_bench->account.id));
         CalDavConnectionDialog dialog(state());
         fillIn(dialog);
         discover(dialog);
         dialog.accept();
         QTRY_COMPARE(dialog.result(), int(QDialog::Accepted));
-        QCOMPARE(m_prompts->asked.size(), 1);
-        QCOMPARE(m_prompts->asked.first().title, u"Password not saved"_s);
+        QCOMPARE(m_bench->prompts.asked.size(), 1);
+        QCOMPARE(m_bench->prompts.asked.first().title, u"Password not saved"_s);
         QTRY_VERIFY(!state()->accounts()->getById(dialog.resultAccountId())->lastSyncError.contains(u"Password"));
     }
 
@@ -221,8 +203,8 @@ private slots:
     void editingPicksAgain()
     {
         QFETCH(const bool, sayYes);
-        const Account account = addAccount(m_server->url().toString());
-        m_scheduler->credentials()->setCaldavPassword(account.id, u"s3cret"_s, this, [](bool) {});
+        const Account account = m_bench->account;
+        m_bench->givePassword();
         Calendar work;
         work.id = u"work"_s;
         work.accountId = account.id;
@@ -243,12 +225,12 @@ private slots:
         QCOMPARE(list(dialog)->item(1)->checkState(), Qt::Unchecked);
         list(dialog)->item(0)->setCheckState(Qt::Unchecked);
         list(dialog)->item(1)->setCheckState(Qt::Checked);
-        m_prompts->sayYes = sayYes;
+        m_bench->prompts.sayYes = sayYes;
         dialog.accept();
-        const QString question = m_prompts->asked.last().text;
+        const QString question = m_bench->prompts.asked.last().text;
         QVERIFY(question.contains(u"\"Work\""_s) && question.contains(u"\"Gone\""_s));
         QTRY_COMPARE(dialog.result(), int(sayYes ? QDialog::Accepted : QDialog::Rejected));
-        QTEST(names(account.id), "calendars");
+        QTEST(m_bench->calendars(account.id), "calendars");
         QCOMPARE(CalDavRediscover::isDeclined(state(), account.id, work.url), sayYes);
     }
 
@@ -259,7 +241,8 @@ private slots:
             QString::fromLatin1(tls.localCertificate().digest(QCryptographicHash::Sha256).toHex().toUpper());
         HttpServer server(tls);
         server.setHandler(answer);
-        Account account = addAccount(server.url().toString());
+        Account &account = m_bench->account;
+        account.serverUrl = server.url().toString();
         account.trustedCertSha256 = u"AB12"_s;
         account.pendingCertSha256 = sha256;
         QVERIFY(state()->accounts()->update(account));
@@ -284,7 +267,7 @@ private slots:
         QTRY_COMPARE(list(dialog)->count(), 2);
         dialog.accept();
         QTRY_COMPARE(dialog.result(), int(QDialog::Accepted));
-        const Account stored = state()->accounts()->getById(account.id).value();
+        const Account stored = m_bench->stored();
         QCOMPARE(stored.trustedCertSha256 + stored.pendingCertSha256, sha256);
         QTRY_VERIFY(std::ranges::count(server.requests(), "REPORT", &HttpServer::Request::method) >= 2);
         QTRY_VERIFY(!state()->isSyncing());
@@ -293,7 +276,7 @@ private slots:
 private:
     enum Field { Url, User, Password, Name };
 
-    AppState *state() { return m_state->state(); }
+    AppState *state() { return m_bench->state; }
     static QLineEdit *field(const QDialog &dialog, Field which) { return dialog.findChildren<QLineEdit *>().at(which); }
     static QListWidget *list(const QDialog &dialog) { return dialog.findChild<QListWidget *>(); }
 
@@ -304,11 +287,6 @@ private:
         const auto found = std::ranges::find_if(
             buttons, [box](auto *button) { return box->buttonRole(button) == QDialogButtonBox::ResetRole; });
         return qobject_cast<QPushButton *>(*found);
-    }
-
-    static void type(const QDialog &dialog, Field which, const QString &text)
-    {
-        QTest::keyClicks(field(dialog, which), text);
     }
 
     void fillIn(const QDialog &dialog)
@@ -324,32 +302,8 @@ private:
         QTRY_VERIFY(list(dialog)->count() > 0);
     }
 
-    Account addAccount(const QString &serverUrl)
-    {
-        Account account;
-        account.id = u"account"_s;
-        account.name = u"Home"_s;
-        account.type = AccountType::CalDAV;
-        account.serverUrl = serverUrl;
-        account.username = u"alice"_s;
-        account.createdAt = account.updatedAt = QDateTime::currentDateTimeUtc();
-        if (!state()->accounts()->insert(account))
-            qFatal("cannot store an account");
-        return account;
-    }
-
-    QString names(const QString &accountId)
-    {
-        QStringList all;
-        for (const Calendar &one : state()->calendars()->getByAccount(accountId))
-            all.append(one.name);
-        return all.join(u' ');
-    }
-
     std::unique_ptr<HttpServer> m_server;
-    std::unique_ptr<ScratchState> m_state;
-    std::unique_ptr<SyncScheduler> m_scheduler;
-    std::unique_ptr<Prompt::ScopedAnswers> m_prompts;
+    std::unique_ptr<AccountBench> m_bench;
 };
 
 QTEST_MAIN(tst_CalDavConnectionDialog)
