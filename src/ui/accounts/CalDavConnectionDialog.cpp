@@ -77,6 +77,7 @@ void CalDavConnectionDialog::build(const QString &acceptText)
 
     m_accept = addSaveButtons(acceptText);
     m_discover = addSideButton(tr("Discover Calendars"));
+    m_discover->setObjectName(QStringLiteral("discover"));
     chooseDefaultButton();
     connect(m_discover, &QPushButton::clicked, this, &CalDavConnectionDialog::onDiscoverClicked);
     connect(m_url, &QLineEdit::editingFinished, this, &CalDavConnectionDialog::readAddress);

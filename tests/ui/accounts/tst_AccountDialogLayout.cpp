@@ -11,16 +11,6 @@ namespace {
 
 using MakeDialog = std::function<QDialog *(AppState *)>;
 
-CalDavClient::UntrustedCertInfo certificate()
-{
-    CalDavClient::UntrustedCertInfo info;
-    info.host = QString(70, u'h') + u".example.com"_s;
-    info.subject = QString(120, u's');
-    info.sha256 = QString(64, u'A');
-    info.errors = { u"The certificate is self-signed, and untrusted"_s };
-    return info;
-}
-
 }
 
 Q_DECLARE_METATYPE(MakeDialog)
@@ -36,11 +26,15 @@ private slots:
     {
         QTest::addColumn<MakeDialog>("make");
         QTest::addColumn<int>("percent");
+        CalDavClient::UntrustedCertInfo info;
+        info.host = QString(70, u'h') + u".example.com"_s;
+        info.subject = QString(120, u's');
+        info.sha256 = QString(64, u'A');
         const QList<std::pair<const char *, MakeDialog>> dialogs{
             { "add", [](AppState *s) { return new CalDavConnectionDialog(s); } },
             { "edit",
               [](AppState *s) { return new CalDavConnectionDialog(s, *s->accounts()->getById(u"account"_s)); } },
-            { "certificate", [](AppState *) { return new CalDavCertificateDialog(certificate(), u"B"_s); } },
+            { "certificate", [info](AppState *) { return new CalDavCertificateDialog(info, u"B"_s); } },
             { "accounts", [](AppState *s) { return new ManageSourcesDialog(s); } },
             { "calendar", [](AppState *s) { return new CalendarFormDialog(s); } },
             { "conflicts", [](AppState *s) { return new ConflictResolutionDialog(s); } },

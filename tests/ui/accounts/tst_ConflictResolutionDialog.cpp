@@ -1,13 +1,8 @@
 #include "ui/accounts/ConflictResolutionDialog.h"
 
-#include "support/ScratchState.h"
+#include "AccountBench.h"
 #include "support/TestData.h"
 #include "sync/ConflictResolutionService.h"
-
-#include <QtTest>
-#include <QtWidgets>
-
-using namespace Qt::StringLiterals;
 
 class tst_ConflictResolutionDialog : public QObject {
     Q_OBJECT
@@ -35,14 +30,14 @@ private slots:
 
         const QString first = conflicts.conflicts().first().local.id;
         const QString last = conflicts.conflicts().last().local.id;
-        click(dialog, u"Use server version"_s);
+        AccountBench::button(dialog, u"Use server version"_s)->click();
         QCOMPARE(state->events()->getById(first)->title, u"Theirs"_s);
         list->setCurrentRow(1);
-        click(dialog, u"Keep local"_s);
+        AccountBench::button(dialog, u"Keep local"_s)->click();
         QCOMPARE(state->events()->getById(last)->title, u"Lunch"_s);
-        click(dialog, u"Decide later"_s);
+        AccountBench::button(dialog, u"Decide later"_s)->click();
         QVERIFY(conflicts.conflicts().isEmpty() && list->isHidden());
-        click(dialog, u"Decide later"_s);
+        AccountBench::button(dialog, u"Decide later"_s)->click();
         state->setSyncServices(nullptr, nullptr);
     }
 
@@ -51,14 +46,6 @@ private:
     {
         const auto labels = dialog.findChildren<QLabel *>();
         return std::ranges::any_of(labels, [&](const QLabel *label) { return label->text().startsWith(text); });
-    }
-
-    static void click(const QDialog &dialog, const QString &text)
-    {
-        for (QPushButton *button : dialog.findChildren<QPushButton *>()) {
-            if (button->text() == text)
-                button->click();
-        }
     }
 };
 
