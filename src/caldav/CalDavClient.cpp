@@ -89,11 +89,11 @@ QString errorText(const QNetworkReply &reply)
     return reply.errorString();
 }
 
-CalDavClient::Response readResponse(QNetworkReply *reply)
+CalDavClient::Response readResponse(QNetworkReply *reply, const QByteArray &begunBody)
 {
     CalDavClient::Response response;
     response.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    response.body = reply->readAll();
+    response.body = begunBody + reply->readAll();
     for (const auto &[name, value] : reply->rawHeaderPairs())
         response.headers.insert(name, value);
     if (reply->error() != QNetworkReply::NoError && response.status == 0)
@@ -245,7 +245,8 @@ void CalDavClient::proppatch(const QUrl &url, const QByteArray &body, Callback c
 
 void CalDavClient::abort()
 {
-    for (QNetworkReply *reply : std::exchange(m_inFlight, {})) {
+    const QList<QNetworkReply *> replies = std::exchange(m_inFlight, {}).keys();
+    for (QNetworkReply *reply : replies) {
         reply->disconnect(this);
         reply->abort();
         reply->deleteLater();
@@ -255,10 +256,15 @@ void CalDavClient::abort()
 void CalDavClient::send(const Request &request)
 {
     QNetworkReply *reply = sendRaw(request);
-    m_inFlight.append(reply);
+    m_inFlight.insert(reply, {});
+    // As it comes: to unpack a large answer at once would hold the event loop.
+    connect(reply, &QNetworkReply::readyRead, this, [this, reply] {
+        if (const auto body = m_inFlight.find(reply); body != m_inFlight.end())
+            *body += reply->readAll();
+    });
     connect(reply, &QNetworkReply::metaDataChanged, this, &CalDavClient::heard);
     connect(reply, &QNetworkReply::downloadProgress, this, &CalDavClient::heard);
-    connect(reply, &QNetworkReply::uploadProgress, this, &CalDavClient::heard);
+    connect(reply, &QNetworkReply::uploadProgress, this, &CalDavClient::sent);
     // Queued, so that a continuation can delete the client, and the reply with it, outside of the reply's own code.
     connect(
         reply, &QNetworkReply::finished, this, [this, reply, request] { onFinished(reply, request); },
@@ -297,9 +303,11 @@ QNetworkReply *CalDavClient::sendRaw(const Request &request)
 
 void CalDavClient::onFinished(QNetworkReply *reply, const Request &request)
 {
-    if (!m_inFlight.removeOne(reply))
+    const auto inFlight = m_inFlight.constFind(reply);
+    if (inFlight == m_inFlight.cend())
         return;
-    const Response response = readResponse(reply);
+    const Response response = readResponse(reply, *inFlight);
+    m_inFlight.erase(inFlight);
     reply->deleteLater();
     const std::optional<QUrl> target = redirectTarget(response, request.url);
     if (!target || request.redirectsLeft == 0) {

@@ -89,8 +89,8 @@ public:
 
 signals:
     void untrustedCertEncountered(const CalDavClient::UntrustedCertInfo &info);
-    /// Something arrived from the server, or went out to it: the connection is alive.
-    void heard();
+    void sent(); ///< Something of a request went out: the connection is alive.
+    void heard(); ///< Something of an answer arrived.
 
 private:
     struct Request;
@@ -100,7 +100,7 @@ private:
     void onSslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
 
     QNetworkAccessManager *m_manager;
-    QList<QNetworkReply *> m_inFlight; ///< whose continuations are still to run
+    QHash<QNetworkReply *, QByteArray> m_inFlight; ///< whose continuations are still to run, with what has arrived
     QString m_username;
     QString m_password;
     QString m_trustedCertSha256;

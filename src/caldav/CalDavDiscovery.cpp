@@ -104,8 +104,9 @@ void CalDavDiscovery::onPrincipalReply(int status, const QByteArray &body, const
         return emitFail(tr("Could not reach the server: %1").arg(error));
     if (isSuccess(status)) {
         if (const auto principal = CalDavParse::parsePrincipalUrl(body, m_baseUrl)) {
-            m_principal = principal->toString();
-            return propfind(*principal, CalDavXml::calendarHomeSetBody(), 0, &CalDavDiscovery::onHomeSetReply);
+            const QUrl url = secured(*principal);
+            m_principal = url.toString();
+            return propfind(url, CalDavXml::calendarHomeSetBody(), 0, &CalDavDiscovery::onHomeSetReply);
         }
         if (!m_fallbackHomeUrl)
             m_fallbackHomeUrl = m_currentUrl;
@@ -121,7 +122,7 @@ void CalDavDiscovery::onHomeSetReply(int status, const QByteArray &body, const Q
         return emitFail(tr("Lost connection during calendar-home-set discovery: %1").arg(error));
     if (!isSuccess(status))
         return emitFail(tr("Server returned HTTP %1 during home-set discovery.").arg(status));
-    const QUrl homeSet = CalDavParse::parseCalendarHomeSet(body, m_baseUrl).value_or(m_currentUrl);
+    const QUrl homeSet = secured(CalDavParse::parseCalendarHomeSet(body, m_baseUrl).value_or(m_currentUrl));
     m_homeSet = homeSet.toString(QUrl::RemoveUserInfo);
     propfind(homeSet, CalDavXml::calendarEnumerationBody(), 1, &CalDavDiscovery::onCalendarsReply);
 }
@@ -132,10 +133,23 @@ void CalDavDiscovery::onCalendarsReply(int status, const QByteArray &body, const
         return emitFail(tr("Lost connection during calendar enumeration: %1").arg(error));
     if (!isSuccess(status))
         return emitFail(tr("Server returned HTTP %1 during calendar enumeration.").arg(status));
-    const QList<CalDavParse::DiscoveredCalendar> calendars = CalDavParse::parseCalendarList(body, m_baseUrl);
+    QList<CalDavParse::DiscoveredCalendar> calendars = CalDavParse::parseCalendarList(body, m_baseUrl);
     if (calendars.isEmpty())
         return emitFail(tr("No calendars found at the discovered home set."));
+    for (CalDavParse::DiscoveredCalendar &calendar : calendars)
+        calendar.url = secured(QUrl(calendar.url)).toString();
     emit completed(calendars);
+}
+
+/// A server behind a proxy may name itself by http; the password must not go there in the clear.
+QUrl CalDavDiscovery::secured(QUrl url) const
+{
+    url.setUserInfo(QString());
+    if (m_baseUrl.scheme() != u"https" || url.scheme() != u"http")
+        return url;
+    url.setScheme(m_baseUrl.scheme());
+    url.setPort(url.host() == m_baseUrl.host() ? m_baseUrl.port() : -1);
+    return url;
 }
 
 void CalDavDiscovery::emitFail(const QString &message)

@@ -13,7 +13,8 @@ class SilenceGuard;
 
 /// Finds the calendars of an account from whatever address its owner typed: principal, home set, enumeration.
 /// RFC 4791 §6.2, RFC 6764 §5. One request at a time; every run ends in exactly one of the two signals, also when
-/// the server falls silent. Hrefs are resolved against scheme, host and port of the address.
+/// the server falls silent. Hrefs are resolved against scheme, host and port of the address; those that say http where
+/// https was typed are taken as https.
 class CalDavDiscovery : public QObject {
     Q_OBJECT
 
@@ -36,6 +37,7 @@ private:
     void onPrincipalReply(int status, const QByteArray &body, const QString &error);
     void onHomeSetReply(int status, const QByteArray &body, const QString &error);
     void onCalendarsReply(int status, const QByteArray &body, const QString &error);
+    [[nodiscard]] QUrl secured(QUrl url) const;
     void emitFail(const QString &message);
     using Handler = void (CalDavDiscovery::*)(int status, const QByteArray &body, const QString &error);
     void propfind(const QUrl &url, const QByteArray &body, int depth, Handler onReply);

@@ -84,12 +84,14 @@ public:
             add(calendar);
     }
 
-    [[nodiscard]] const Calendar *find(const QString &url) const
+    /// By its address, else by its key: one that has moved. What is \p listed at another address is another calendar,
+    /// though its key is the same, as of "/Work/" and "/work/".
+    [[nodiscard]] const Calendar *find(const QString &url, const QSet<QString> &listed) const
     {
         if (const auto found = m_byUrl.constFind(url); found != m_byUrl.cend())
             return &*found;
         const auto found = m_byKey.constFind(keyOf(url));
-        return found != m_byKey.cend() ? &*found : nullptr;
+        return found != m_byKey.cend() && !listed.contains(found->url) ? &*found : nullptr;
     }
 
     void add(const Calendar &calendar)
@@ -103,16 +105,16 @@ private:
     QHash<QString, Calendar> m_byKey;
 };
 
-void updateKnown(AppState *state, Calendar calendar, const CalDavParse::DiscoveredCalendar &discovered)
+Calendar updateKnown(AppState *state, Calendar calendar, const CalDavParse::DiscoveredCalendar &discovered)
 {
     const Calendar before = calendar;
     if (isPlaceholder(calendar))
         fillPlaceholder(calendar, discovered);
     calendar.url = discovered.url;
     if (calendar == before)
-        return;
+        return before;
     calendar.updatedAt = QDateTime::currentDateTimeUtc();
-    state->calendars()->update(calendar);
+    return state->calendars()->update(calendar) ? calendar : before;
 }
 
 }
@@ -146,11 +148,14 @@ int CalDavRediscover::upsertDiscoveredCalendars(AppState *state, const QString &
         return 0;
 
     KnownCalendars known(state, accountId);
+    QSet<QString> listed;
+    for (const CalDavParse::DiscoveredCalendar &found : discovered)
+        listed.insert(found.url);
     const DeclinedAddresses declined(state, accountId);
     int inserted = 0;
     for (const CalDavParse::DiscoveredCalendar &found : discovered) {
-        if (const Calendar *calendar = known.find(found.url)) {
-            updateKnown(state, *calendar, found);
+        if (const Calendar *calendar = known.find(found.url, listed)) {
+            known.add(updateKnown(state, *calendar, found));
             continue;
         }
         if (declined.contains(found.url))

@@ -182,9 +182,13 @@ QByteArray calendarMultigetBody(const QList<QString> &hrefs)
           "    <d:getetag/>\n"
           "    <c:calendar-data/>\n"
           "  </d:prop>\n";
-    for (const QString &href : hrefs)
-        body += "  <d:href>" + href.toUtf8() + "</d:href>\n";
-    return body + "</c:calendar-multiget>\n";
+    for (const QString &href : hrefs) {
+        body += "  <d:href>";
+        body += href.toUtf8();
+        body += "</d:href>\n";
+    }
+    body += "</c:calendar-multiget>\n";
+    return body;
 }
 
 QByteArray mkcalendarBody(const QString &displayName, const QString &color, const QString &description)

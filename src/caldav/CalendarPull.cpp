@@ -152,19 +152,17 @@ void CalendarPull::finishListing()
     m_canReconcile = m_canReconcile && m_shortfall.isEmpty();
     m_reader.reset();
     m_phase = Phase::Reconcile;
-    if (m_missing.isEmpty() || m_missingText == MissingText::Leave)
+    if (m_missingText == MissingText::Leave && !m_missing.isEmpty())
+        m_canReconcile = false;
+    if (m_missingHrefs.isEmpty())
         return;
 
     qCDebug(caldavLog).noquote() << "[CalDav]" << m_session->calendarName() << "calendar-query returned"
                                  << m_missing.size() << "hrefs without inline data, running multiget";
-    QList<QString> hrefs;
-    for (auto missing = m_missing.cbegin(); missing != m_missing.cend(); ++missing)
-        hrefs.append(CalDavPath::toHref(missing.key()));
-    hrefs.sort();
     m_phase = Phase::Store;
     m_slices.stop();
     m_session->client()->report(
-        m_session->calendarUrl(), CalDavXml::calendarMultigetBody(hrefs), 1,
+        m_session->calendarUrl(), CalDavXml::calendarMultigetBody(std::exchange(m_missingHrefs, {})), 1,
         m_session->watched(SilenceGuard::ListingMs, std::bind_front(&CalendarPull::onMultiget, this)));
 }
 
@@ -182,10 +180,12 @@ void CalendarPull::takeListed(CalDavParse::EventResource resource)
     m_listed.insert(resource.href);
     if (takeUnchanged(resource))
         return;
-    if (resource.calendarData.isEmpty())
-        m_missing.insert(resource.href, resource.etag);
-    else
-        take(resource);
+    if (!resource.calendarData.isEmpty())
+        return take(resource);
+    m_missing.insert(resource.href, resource.etag);
+    // Here and not for all of them at once, which would take long.
+    if (m_missingText == MissingText::Fetch)
+        m_missingHrefs.append(CalDavPath::toHref(resource.href));
 }
 
 /// The server's copy is the one that was read last, or written from here.
@@ -194,15 +194,15 @@ bool CalendarPull::takeUnchanged(const CalDavParse::EventResource &resource)
     const QList<int> positions = m_rowsByHref.value(resource.href);
     if (resource.etag.isEmpty() || positions.isEmpty())
         return false;
-    bool hasPending = false;
+    int pending = 0;
     for (const int position : positions) {
         const SyncRow &row = m_rows.at(size_t(position));
         if (row.etag != resource.etag)
             return false;
-        hasPending |= row.isPending;
+        pending += row.isPending;
     }
-    m_readCount += int(positions.size());
-    if (hasPending && !resource.calendarData.isEmpty())
+    count(int(positions.size()) - (m_table->countsPending() ? 0 : pending));
+    if (pending > 0 && !resource.calendarData.isEmpty())
         m_texts.insert(resource.href, resource);
     return true;
 }
@@ -220,11 +220,16 @@ void CalendarPull::take(const CalDavParse::EventResource &found)
     if (resource.calendarData.isEmpty())
         return;
     const SyncTable::Stored stored = m_table->store(resource, rowsAt(resource.href), m_listed, m_knownUids);
-    m_readCount += stored.read;
     m_writtenCount += stored.written;
     m_writtenInSlice += stored.written;
     if (stored.hasPending)
         m_texts.insert(resource.href, resource);
+    count(stored.read);
+}
+
+void CalendarPull::count(int read)
+{
+    m_readCount += read;
     if (m_readCount / ProgressStep > m_announced) {
         m_announced = m_readCount / ProgressStep;
         emit progressed(m_announced * ProgressStep);

@@ -63,6 +63,7 @@ private:
     void take(const CalDavParse::EventResource &resource);
     void takeListed(CalDavParse::EventResource resource);
     bool takeUnchanged(const CalDavParse::EventResource &resource);
+    void count(int read);
     void reconcileNext();
     [[nodiscard]] QList<SyncRow> rowsAt(const QString &href) const;
 
@@ -83,6 +84,7 @@ private:
     bool m_canReconcile = false;
     QSet<QString> m_listed; // addresses
     QHash<QString, QString> m_missing; // addresses without text, to etag
+    QList<QString> m_missingHrefs; // the same, as XML; only what is to be fetched
     Texts m_texts;
     size_t m_nextToReconcile = 0;
     int m_resourceCount = 0;

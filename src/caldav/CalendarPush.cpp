@@ -9,11 +9,13 @@
 
 #include <QDateTime>
 
+#include <algorithm>
 #include <functional>
 #include <utility>
 
 namespace {
 
+constexpr int RowsPerStep = 1000;
 constexpr int NotFound = 404;
 constexpr int Gone = 410;
 constexpr int PreconditionFailed = 412;
@@ -38,7 +40,24 @@ CalendarPush::CalendarPush(CalDavSession *session, SyncTable *table, CalendarPul
 
 void CalendarPush::start()
 {
-    m_queue = m_table->pendingResources();
+    collect();
+}
+
+void CalendarPush::collect()
+{
+    const QList<PendingRow> page = m_table->pendingRows(m_lastRowid, RowsPerStep);
+    for (const PendingRow &row : page) {
+        m_lastRowid = row.rowid;
+        if (m_seen.contains({ row.uid, row.href }))
+            continue;
+        m_seen.insert({ row.uid, row.href });
+        m_queue.append(row);
+    }
+    if (page.size() == RowsPerStep) {
+        QMetaObject::invokeMethod(this, &CalendarPush::collect, Qt::QueuedConnection);
+        return;
+    }
+    std::ranges::stable_sort(m_queue, {}, &PendingRow::rank);
     if (!m_queue.isEmpty())
         qCDebug(caldavLog).noquote() << "[CalDav] Push for" << m_session->calendarName()
                                      << "pending=" << m_queue.size();
@@ -58,11 +77,24 @@ void CalendarPush::pushNext()
     m_current.reset();
     if (m_queue.isEmpty())
         return emit finished();
-    m_current = m_table->open(m_queue.takeFirst());
+    m_current = openNext();
     if (!m_current)
         return pushNextSoon();
     m_hasRetried = false;
     prepare();
+}
+
+std::unique_ptr<PendingResource> CalendarPush::openNext()
+{
+    const PendingRow row = m_queue.takeFirst();
+    std::unique_ptr<PendingResource> resource = m_table->open(row.uid, row.href);
+    if (!resource || resource->href == row.href)
+        return resource;
+    // A new row of a resource that the server has goes along with it, once.
+    if (m_seen.contains({ row.uid, resource->href }))
+        return nullptr;
+    m_seen.insert({ row.uid, resource->href });
+    return resource;
 }
 
 void CalendarPush::prepare()
@@ -86,6 +118,7 @@ void CalendarPush::prepare()
 
 void CalendarPush::fetchText()
 {
+    m_kind = Kind::Update;
     m_session->client()->get(CalDavPath::resourceUrl(m_session->calendarUrl(), m_current->href),
                              m_session->watched(SilenceGuard::SilenceMs, std::bind_front(&CalendarPush::onText, this)));
 }
@@ -94,15 +127,25 @@ void CalendarPush::onText(const CalDavClient::Response &response)
 {
     if (!response.error.isEmpty())
         return emit failed(m_policy.networkMessage(response.error));
-    if (isMissing(response.status)) {
-        m_current->forgetAddress();
-        return send({});
-    }
+    if (isMissing(response.status))
+        return onLost(response.status);
     if (!response.isSuccess() || !response.isWhole)
         return refuse(response.status);
+    // A page of somebody else must not pass for the server's copy, nor must another event that has the address now.
+    if (!m_current->isIn(response.body))
+        return response.body.contains("BEGIN:VCALENDAR") ? onLost(response.status) : refuse(response.status);
     send({ .href = m_current->href,
            .etag = CalDavPath::etagFromHeader(response.header("ETag")),
            .calendarData = QString::fromUtf8(response.body) });
+}
+
+/// What was listed is not there. Rows that do not wait would be missing from a new resource: the next listing tells.
+void CalendarPush::onLost(int status)
+{
+    if (m_current->hasSynced)
+        return refuse(status);
+    m_current->forgetAddress();
+    send({});
 }
 
 /// Over \p newest, the server's copy; without an address it is a new resource.
@@ -112,8 +155,15 @@ void CalendarPush::send(const CalDavParse::EventResource &newest)
     m_href =
         newest.href.isEmpty() ? CalDavPath::newResourcePath(m_session->calendarUrl(), m_current->uid) : newest.href;
     m_etag = newest.etag;
-    const ResourceComposer::Composed composed = m_current->compose(
-        newest.calendarData.toUtf8(), { .now = QDateTime::currentDateTimeUtc(), .ownAddresses = m_ownAddresses });
+    const ResourceComposer::Composed composed =
+        m_current->compose(newest.calendarData.toUtf8(), newest.etag,
+                           { .now = QDateTime::currentDateTimeUtc(), .ownAddresses = m_ownAddresses });
+    if (composed.text.isEmpty() && m_kind == Kind::Create) {
+        m_current->deleted(); // what the server never had
+        return pushNextSoon();
+    }
+    if (composed.text.isEmpty() && !m_current->isDeletion)
+        return refuse(0); // nobody deleted the whole: the text could not be read
     if (composed.text.isEmpty()) {
         m_kind = Kind::Delete;
         return sendDeletion(m_etag);

@@ -6,11 +6,13 @@
 
 #include <QList>
 #include <QObject>
+#include <QSet>
 #include <QStringList>
 
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 class CalDavSession;
 
@@ -43,11 +45,14 @@ signals:
 private:
     enum class Kind { Create, Update, Delete };
 
+    void collect();
     void pushNext();
+    [[nodiscard]] std::unique_ptr<PendingResource> openNext();
     void pushNextSoon();
     void prepare();
     void fetchText();
     void onText(const CalDavClient::Response &response);
+    void onLost(int status);
     void send(const CalDavParse::EventResource &newest);
     void sendText(const std::optional<QString> &etag);
     void sendDeletion(const std::optional<QString> &etag);
@@ -65,7 +70,9 @@ private:
     CalendarPull::Texts m_texts;
     QStringList m_ownAddresses;
     Policy m_policy;
-    QList<SyncTable::Resource> m_queue;
+    QList<PendingRow> m_queue; // one of each resource
+    QSet<std::pair<QString, QString>> m_seen; // their UIDs and addresses
+    qint64 m_lastRowid = -1;
     std::unique_ptr<PendingResource> m_current;
     Kind m_kind = Kind::Update;
     QString m_href; // where the current resource goes

@@ -19,16 +19,21 @@ SilenceGuard::SilenceGuard(CalDavClient *client, QObject *parent)
 {
     m_timer->setSingleShot(true);
     connect(m_timer, &QTimer::timeout, this, &SilenceGuard::onTimeout);
-    connect(client, &CalDavClient::heard, this, [this] {
-        if (m_timer->isActive())
-            m_timer->start(SilenceMs / haste);
-    });
+    connect(client, &CalDavClient::sent, this, [this] { wait(m_firstByteMs); });
+    connect(client, &CalDavClient::heard, this, [this] { wait(SilenceMs); });
 }
 
 void SilenceGuard::watch(int firstByteMs, std::function<void()> onSilence)
 {
     m_onSilence = std::move(onSilence);
+    m_firstByteMs = firstByteMs;
     m_timer->start(firstByteMs / haste);
+}
+
+void SilenceGuard::wait(int silenceMs)
+{
+    if (m_timer->isActive())
+        m_timer->start(silenceMs / haste);
 }
 
 void SilenceGuard::stop()

@@ -19,8 +19,8 @@ public:
 
     explicit SilenceGuard(CalDavClient *client, QObject *parent = nullptr);
 
-    /// Until stop(): if the client hears nothing for \p firstByteMs, and later for SilenceMs, it aborts, and
-    /// \p onSilence runs instead of the request's continuation.
+    /// Until stop(): if the client hears nothing for \p firstByteMs after the request went out, and later for
+    /// SilenceMs, it aborts, and \p onSilence runs instead of the request's continuation.
     void watch(int firstByteMs, std::function<void()> onSilence);
     void stop();
 
@@ -29,9 +29,11 @@ public:
     static void setHaste(int factor);
 
 private:
+    void wait(int silenceMs);
     void onTimeout();
 
     CalDavClient *m_client;
     QTimer *m_timer;
+    int m_firstByteMs = SilenceMs;
     std::function<void()> m_onSilence;
 };

@@ -26,6 +26,7 @@ struct Events {
     QString calendarId;
 
     static QList<Event> parse(const QString &text) { return ICalParser::parse(text); }
+    static constexpr bool CountsPending = true;
     static bool isReadable(const Event &event) { return event.startTime.isValid(); }
     static QString key(const Event &event) { return event.recurrenceId; }
     static QString when(const Event &event) { return event.startTime.toString(Qt::ISODate); }
@@ -53,6 +54,7 @@ struct Tasks {
     QString calendarId;
 
     static QList<Task> parse(const QString &text) { return ICalParser::parseTasks(text); }
+    static constexpr bool CountsPending = false;
     static bool isReadable(const Task &) { return true; }
     static QString key(const Task &) { return {}; }
     static QString when(const Task &task) { return task.dueDate ? task.dueDate->toString(Qt::ISODate) : QString(); }
@@ -105,10 +107,13 @@ template <typename Kind> class PendingResourceOf : public PendingResource {
     using Record = typename Kind::Record;
 
 public:
-    PendingResourceOf(Database *database, Kind kind, const QList<Record> &rows)
+    /// \p family: every row of the UID. \p rows: those of this resource.
+    PendingResourceOf(Database *database, Kind kind, const QList<Record> &family, const QList<Record> &rows)
         : m_database(database)
         , m_kind(std::move(kind))
     {
+        for (const Record &row : family)
+            m_keys.insert(Kind::key(row));
         for (const Record &row : rows) {
             if (!isPending(row))
                 m_others.append(row);
@@ -125,6 +130,7 @@ public:
         title = first.title;
         href = commonHref(rows);
         isDeletion = m_changed.isEmpty() && m_others.isEmpty();
+        hasSynced = !m_others.isEmpty();
         for (const Record &row : rows) {
             if (row.href == href && etag.isEmpty())
                 etag = row.etag;
@@ -133,9 +139,18 @@ public:
 
     [[nodiscard]] bool isEmpty() const { return m_changed.isEmpty() && m_removed.isEmpty(); }
 
-    ResourceComposer::Composed compose(const QByteArray &newest, const ResourceComposer::Context &context) override
+    ResourceComposer::Composed compose(const QByteArray &newest, const QString &newestEtag,
+                                       const ResourceComposer::Context &context) override
     {
-        const ResourceComposer::Composed composed = m_kind.compose(newest, m_changed, m_removed, context);
+        QList<Record> removed = m_removed;
+        // What has been read from this very text and has no row any more goes under another name now.
+        if (!etag.isEmpty() && newestEtag == etag) {
+            for (const Record &record : Kind::parse(QString::fromUtf8(newest))) {
+                if (record.uid == uid && Kind::isReadable(record) && !m_keys.contains(Kind::key(record)))
+                    removed.append(record);
+            }
+        }
+        const ResourceComposer::Composed composed = m_kind.compose(newest, m_changed, removed, context);
         m_sent = composed.text;
         return composed;
     }
@@ -161,7 +176,10 @@ public:
                 m_kind.repository->setAddress(row.id, newHref, newEtag);
         }
         for (const Record &row : std::as_const(m_others)) {
-            if (row.href != newHref || row.etag != newEtag)
+            // An instance that was renamed here had come back under its old name with the server's copy.
+            if (!row.href.isEmpty() && !findIn(sent, row))
+                m_kind.repository->hardDelete(row.id);
+            else if (row.href != newHref || row.etag != newEtag)
                 m_kind.repository->setAddress(row.id, newHref, newEtag);
         }
         if (!savepoint.commit())
@@ -193,14 +211,20 @@ public:
     }
 
 private:
+    static const Record *findIn(const QList<Record> &records, const Record &row)
+    {
+        const auto found = std::ranges::find_if(
+            records, [&row](const Record &r) { return r.uid == row.uid && Kind::key(r) == Kind::key(row); });
+        return found == records.end() ? nullptr : &*found;
+    }
+
     void acceptRow(const Record &row, const QList<Record> &sent, const QString &newHref, const QString &newEtag)
     {
         const auto stored = m_kind.repository->getById(row.id);
         if (!stored)
             return;
-        const auto text = std::ranges::find_if(
-            sent, [&row](const Record &r) { return r.uid == row.uid && Kind::key(r) == Kind::key(row); });
-        if (text == sent.end() || contentOf(*stored) != contentOf(row))
+        const Record *text = findIn(sent, row);
+        if (!text || contentOf(*stored) != contentOf(row))
             m_kind.repository->setAddress(row.id, newHref, newEtag);
         else
             m_kind.repository->markPushed(
@@ -210,6 +234,7 @@ private:
 
     Database *m_database;
     Kind m_kind;
+    QSet<QString> m_keys; // of the family
     QList<Record> m_changed;
     QList<Record> m_removed;
     QList<Record> m_others;
@@ -225,6 +250,8 @@ public:
         , m_kind(std::move(kind))
     {
     }
+
+    [[nodiscard]] bool countsPending() const override { return Kind::CountsPending; }
 
     QList<SyncRow> rows(qint64 afterRowid, int limit) override
     {
@@ -270,25 +297,18 @@ public:
             && m_kind.repository->setAddress(id, {}, {});
     }
 
-    QList<Resource> pendingResources() override
+    QList<PendingRow> pendingRows(qint64 afterRowid, int limit) override
     {
-        QList<Resource> resources;
-        QSet<std::pair<QString, QString>> seen;
-        for (const Record &row : m_kind.repository->getPending(m_kind.calendarId)) {
-            const QString href = row.href.isEmpty() ? commonHref(m_kind.family(row.uid)) : row.href;
-            if (!seen.contains({ row.uid, href })) {
-                seen.insert({ row.uid, href });
-                resources.append({ .uid = row.uid, .href = href });
-            }
-        }
-        return resources;
+        return m_kind.repository->pendingRows(m_kind.calendarId, afterRowid, limit);
     }
 
-    std::unique_ptr<PendingResource> open(const Resource &resource) override
+    std::unique_ptr<PendingResource> open(const QString &uid, const QString &href) override
     {
-        QList<Record> rows = m_kind.family(resource.uid);
-        rows.removeIf([&](const Record &row) { return !row.href.isEmpty() && row.href != resource.href; });
-        auto pending = std::make_unique<PendingResourceOf<Kind>>(m_database, m_kind, rows);
+        const QList<Record> family = m_kind.family(uid);
+        QList<Record> rows = family;
+        const QString address = href.isEmpty() ? commonHref(rows) : href;
+        rows.removeIf([&](const Record &row) { return !row.href.isEmpty() && row.href != address; });
+        auto pending = std::make_unique<PendingResourceOf<Kind>>(m_database, m_kind, family, rows);
         if (pending->isEmpty())
             return nullptr;
         return pending;
@@ -313,18 +333,22 @@ private:
     void storeRecord(Record record, const std::optional<Record> &stored, const CalDavParse::EventResource &resource,
                      const QSet<QString> &listed, Stored &result)
     {
-        ++result.read;
+        const bool waits = stored && isPending(*stored);
+        result.read += Kind::CountsPending || !waits;
         logPulled(record, stored);
         // Another resource that holds the same UID keeps the row: else the two would take it from each other for ever.
         if (stored && !stored->href.isEmpty() && stored->href != resource.href && listed.contains(stored->href))
             return;
-        if (stored && isPending(*stored)) {
+        if (waits) {
             result.hasPending = true;
             const QString href = resource.href.isEmpty() ? stored->href : resource.href;
             if (stored->etag != resource.etag || stored->href != href)
                 m_kind.repository->setAddress(stored->id, href, resource.etag);
             return;
         }
+        // Another row of the resource was behind, or the listing spells its address differently.
+        if (stored && !resource.etag.isEmpty() && stored->etag == resource.etag && stored->href == resource.href)
+            return;
         record.calendarId = m_kind.calendarId;
         record.href = resource.href;
         record.etag = resource.etag;

@@ -25,9 +25,11 @@ public:
     QString href; ///< empty: not on the server yet
     QString etag;
     bool isDeletion = false; ///< no live row of it is left
+    bool hasSynced = false; ///< rows that do not wait are of it too
 
-    /// See ResourceComposer. The text is kept for accepted().
-    virtual ResourceComposer::Composed compose(const QByteArray &newest, const ResourceComposer::Context &context) = 0;
+    /// See ResourceComposer. The text is kept for accepted(). \p newestEtag is that of the text \p newest.
+    virtual ResourceComposer::Composed compose(const QByteArray &newest, const QString &newestEtag,
+                                               const ResourceComposer::Context &context) = 0;
     /// True if this text of a resource holds something of this UID.
     [[nodiscard]] virtual bool isIn(const QByteArray &text) const = 0;
     /// The server has what was composed last.
@@ -41,18 +43,16 @@ public:
 /// One kind of a calendar's rows as a sync run sees them: events, or tasks.
 class SyncTable {
 public:
-    struct Resource {
-        QString uid;
-        QString href; ///< empty: not on the server yet
-    };
     struct Stored {
-        int read = 0; ///< components with a UID that can be read
+        int read = 0; ///< components that can be read; see countsPending()
         int written = 0; ///< rows that took the server's content
         bool hasPending = false; ///< a row waits to be pushed over this resource
     };
 
     virtual ~SyncTable() = default;
 
+    /// Whether rows that wait are told among those that were read.
+    [[nodiscard]] virtual bool countsPending() const = 0;
     virtual QList<SyncRow> rows(qint64 afterRowid, int limit) = 0;
 
     /// Takes what \p resource holds: new rows, and synced ones that exist. A pending row takes address and etag
@@ -65,10 +65,10 @@ public:
     /// Makes a row that still waits with this address new to the server; a deletion stays one of that address.
     virtual bool forgetAddress(const QString &id, const QString &href) = 0;
 
-    /// Each resource once, in the order of its first pending row.
-    virtual QList<Resource> pendingResources() = 0;
-    /// As its rows are now; null if nothing of it waits any more.
-    virtual std::unique_ptr<PendingResource> open(const Resource &resource) = 0;
+    virtual QList<PendingRow> pendingRows(qint64 afterRowid, int limit) = 0;
+    /// The resource at \p href with its rows as they are now; without an address the one that the rows of \p uid are
+    /// of, if the server has one. Null if nothing of it waits any more.
+    virtual std::unique_ptr<PendingResource> open(const QString &uid, const QString &href) = 0;
 
     static std::unique_ptr<SyncTable> events(AppState *state, const QString &calendarId);
     static std::unique_ptr<SyncTable> tasks(AppState *state, const QString &calendarId);

@@ -35,17 +35,18 @@ QStringList sortedParts(const QString &rule)
     return parts;
 }
 
-/// UNTIL is a date where the start is one, else an instant. RFC 5545 §3.3.10.
+/// UNTIL is a date where the start is one, else an instant in UTC: the one that the expander takes it for.
 QString ruleText(const QString &rule, bool isAllDay)
 {
     if (isAllDay)
         return RuleEnd::asDay(rule, true);
-    QStringList parts = RuleEnd::asInstant(rule).split(u';', Qt::SkipEmptyParts);
+    constexpr QLatin1StringView until("UNTIL=");
+    QStringList parts = rule.split(u';', Qt::SkipEmptyParts);
     for (QString &part : parts) {
-        // Without "Z" it is read as UTC all the same.
-        if (part.startsWith(u"UNTIL=", Qt::CaseInsensitive) && part.contains(u'T', Qt::CaseInsensitive)
-            && part.back().isDigit())
-            part += u'Z';
+        if (!part.startsWith(until, Qt::CaseInsensitive) || !part.back().isDigit())
+            continue;
+        const bool isDay = !part.sliced(until.size()).contains(u'T');
+        part += isDay ? QLatin1StringView("T000000Z") : QLatin1StringView("Z");
     }
     return parts.join(u';');
 }

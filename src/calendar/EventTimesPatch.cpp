@@ -79,9 +79,10 @@ TimeForm EventTimesPatch::wantedStartForm() const
         return TimeForm(TimeForm::Kind::Date);
     const bool isUtc = isUtcName(m_event.timezone);
     const QTimeZone zone = isUtc ? QTimeZone() : TimeZones::find(m_event.timezone);
-    const bool keepsZone =
-        isUtc ? isUtcName(m_before.timezone) : m_event.timezone == m_before.timezone || !zone.isValid();
     const std::optional<TimeForm> present = startForm(m_vevent);
+    const bool isZoned = present && present->kind() == TimeForm::Kind::Zoned;
+    const bool keepsZone =
+        isUtc ? isUtcName(m_before.timezone) : !zone.isValid() || (isZoned && m_event.timezone == m_before.timezone);
     if (present && m_before.startTime.isValid() && !present->isDate() && keepsZone)
         return *present;
     if (zone.isValid())
@@ -126,10 +127,10 @@ TimeForm EventTimesPatch::wantedEndForm(const QDateTime &end) const
 void EventTimesPatch::patchEnd()
 {
     if (!m_event.endTime || !m_event.endTime->isValid()) {
-        if (!m_before.endTime)
-            return;
-        m_vevent.removeLines("DTEND");
-        m_vevent.removeLines("DURATION");
+        if (m_before.endTime)
+            m_vevent.removeLines("DTEND");
+        if (m_before.endTime || m_isStartChanged) // beside a start that could not be read it meant nothing
+            m_vevent.removeLines("DURATION");
         return;
     }
     const QDateTime &end = *m_event.endTime;

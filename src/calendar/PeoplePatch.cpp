@@ -3,6 +3,8 @@
 #include "calendar/ICalEventBuilder.h"
 #include "calendar/ICalLineText.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 using namespace ICal;
@@ -114,26 +116,28 @@ void PeoplePatch::setOrganizer(TreeComponent &vevent, const Event &before, const
 void PeoplePatch::setAttendees(TreeComponent &vevent, const Event &before, const Event &event,
                                const QStringList &ownAddresses)
 {
+    QSet<QString> ownKeys;
+    for (const QString &own : ownAddresses)
+        ownKeys.insert(addressKey(own));
     QList<Attendee> missing = event.attendees;
-    missing.removeIf([](const Attendee &attendee) { return addressKey(attendee.email).isEmpty(); });
-    const auto isOwn = [&ownAddresses](const QString &key) {
-        return std::ranges::any_of(ownAddresses, [&](const QString &own) { return addressKey(own) == key; });
-    };
+    for (Attendee &attendee : missing)
+        attendee.id = addressKey(attendee.email); // made once, compared often
+    missing.removeIf([](const Attendee &attendee) { return attendee.id.isEmpty(); });
+
     qsizetype next = 0;
     vevent.rewriteLines("ATTENDEE", [&](const TreeLine &line) -> std::optional<QByteArray> {
         if (addressOf(line.content().value()).isEmpty() || next >= before.attendees.size())
             return line.text(); // no reader has seen it
         const Attendee &read = before.attendees[next++];
         const QString key = addressKey(read.email);
-        const auto wanted = std::ranges::find_if(
-            missing, [&key](const Attendee &attendee) { return addressKey(attendee.email) == key; });
+        const auto wanted = std::ranges::find(missing, key, &Attendee::id);
         if (wanted == missing.end())
             return std::nullopt;
         KeptLine kept(line.text());
-        kept.setAttendee(read, *wanted, isOwn(key));
+        kept.setAttendee(read, *wanted, ownKeys.contains(key));
         missing.erase(wanted);
         return kept.text();
     });
-    for (const Attendee &attendee : std::as_const(missing).first(std::min(missing.size(), EventBuilder::MaxAttendees)))
+    for (const Attendee &attendee : missing.first(std::min(missing.size(), EventBuilder::MaxAttendees)))
         vevent.addLine(newLine(attendee));
 }

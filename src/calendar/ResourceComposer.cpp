@@ -10,6 +10,8 @@
 #include "calendar/ResourceText.h"
 #include "calendar/TaskPatch.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <deque>
 #include <limits>
@@ -27,16 +29,28 @@ QString uidKey(const QString &uid)
     return ICal::unescapedText(ICal::textValue(uid));
 }
 
-/// The same text for the same instant; empty for what is no instance of a series.
-QString instanceKey(const QString &recurrenceId)
+/// Names an event of a resource; the same text for the same instant.
+QString eventKey(const QString &uid, const QString &recurrenceId)
 {
     const std::optional<InstanceName> name = InstanceName::parse(recurrenceId);
-    return name ? QString::number(name->startMs) : recurrenceId;
+    return uidKey(uid) + u'\n' + (name ? QString::number(name->startMs) : recurrenceId);
 }
 
-bool isSameEvent(const Event &a, const Event &b)
+QString eventKey(const Event &event)
 {
-    return uidKey(a.uid) == uidKey(b.uid) && instanceKey(a.recurrenceId) == instanceKey(b.recurrenceId);
+    return eventKey(event.uid, event.recurrenceId);
+}
+
+/// What the row was in the text that it came with, if that is another instance of the same series.
+std::optional<Event> formerEvent(const Event &row)
+{
+    if (row.recurrenceId.isEmpty() || row.rawIcalendar.isEmpty())
+        return std::nullopt;
+    const QList<Event> stored = ICalParser::parse(row.rawIcalendar);
+    const auto former = std::ranges::find_if(stored, [&row](const Event &event) {
+        return uidKey(event.uid) == uidKey(row.uid) && !event.recurrenceId.isEmpty();
+    });
+    return former == stored.end() || eventKey(*former) == eventKey(row) ? std::nullopt : std::optional(*former);
 }
 
 std::optional<Event> readEvent(const TreeComponent &vevent)
@@ -80,20 +94,18 @@ public:
         , m_context(context)
     {
         for (TreeComponent *component : resource.components("VEVENT")) {
-            if (std::optional<Event> event = readEvent(*component))
-                m_present.push_back({ .component = component, .event = *std::move(event) });
+            std::optional<Event> event = readEvent(*component);
+            if (!event)
+                continue;
+            const QString key = eventKey(*event);
+            if (!m_present.contains(key)) // one that is there twice is left alone
+                m_present.insert(key, { .component = component, .event = *std::move(event) });
         }
     }
 
     void write(const QList<Event> &rows)
     {
-        std::vector<Present *> places;
-        for (const Event &row : rows)
-            places.push_back(claimed(findFormer(row)));
-        for (qsizetype i = 0; i < rows.size(); ++i) {
-            if (!places[size_t(i)])
-                places[size_t(i)] = claimed(find(rows[i]));
-        }
+        const std::vector<Present *> places = placesOf(rows);
         // Overrides name their instance in the form in which their series begins.
         for (const bool isOverride : { false, true }) {
             for (qsizetype i = 0; i < rows.size(); ++i) {
@@ -107,9 +119,10 @@ public:
     void finish(const QList<Event> &rows)
     {
         for (const Event &row : rows) {
-            Present *former = findFormer(row);
-            if (const Present *present = claimed(former ? former : find(row)))
+            if (const Present *present = claimed(eventKey(row)))
                 m_removed.push_back(present->component);
+            else
+                removeFormer(row);
         }
         m_resource.removeComponents(m_removed);
         for (TreeComponent &added : m_added)
@@ -123,50 +136,86 @@ private:
         bool isClaimed = false;
     };
 
-    static Present *claimed(Present *present)
+    Present *unclaimed(const QString &key)
     {
+        const auto found = m_present.find(key);
+        return found == m_present.end() || found->isClaimed ? nullptr : &*found;
+    }
+
+    Present *claimed(const QString &key)
+    {
+        Present *present = unclaimed(key);
         if (present)
             present->isClaimed = true;
         return present;
     }
 
-    Present *find(const Event &event)
+    /// Another instance may have come to the former name meanwhile: it has to be the same event still.
+    void removeFormer(const Event &row)
     {
-        const auto found = std::ranges::find_if(m_present, [&event](const Present &present) {
-            return !present.isClaimed && isSameEvent(present.event, event);
-        });
-        return found == m_present.end() ? nullptr : &*found;
+        const std::optional<Event> former = formerEvent(row);
+        const Present *present = former ? unclaimed(eventKey(*former)) : nullptr;
+        if (present && present->event.startTime == former->startTime && present->event.title == former->title)
+            m_removed.push_back(present->component);
     }
 
-    /// An instance that went elsewhere with its series still has its former name in the text that it came with.
-    Present *findFormer(const Event &row)
+    /// Where each row stands in the text, or null.
+    ///
+    /// The instances of a series that moved may have each other's former names: the one that has a name of its own now
+    /// gives its place away, and so on. Without such a one the text has the new names already.
+    std::vector<Present *> placesOf(const QList<Event> &rows)
     {
-        if (row.recurrenceId.isEmpty())
-            return nullptr;
-        const QList<Event> stored = ICalParser::parse(row.rawIcalendar);
-        const auto former = std::ranges::find_if(stored, [&row](const Event &event) {
-            return uidKey(event.uid) == uidKey(row.uid) && !event.recurrenceId.isEmpty();
-        });
-        return former == stored.end() ? nullptr : find(*former);
-    }
-
-    [[nodiscard]] const TreeComponent *seriesOf(const Event &row) const
-    {
-        const auto isSeries = [&row](const TreeComponent &component) {
-            return !component.lastLine("RECURRENCE-ID") && uidOf(component) == uidKey(row.uid);
-        };
-        for (const Present &present : m_present) {
-            if (isSeries(*present.component))
-                return present.component;
+        std::vector<Present *> places(size_t(rows.size()));
+        QStringList formerKeys;
+        for (const Event &row : rows) {
+            const std::optional<Event> former = formerEvent(row);
+            formerKeys.append(former ? eventKey(*former) : QString());
         }
-        const auto added = std::ranges::find_if(m_added, isSeries);
-        return added == m_added.end() ? nullptr : &*added;
+        for (bool isAnyFound = true; isAnyFound;) {
+            isAnyFound = false;
+            for (qsizetype i = 0; i < rows.size(); ++i) {
+                Present *&place = places[size_t(i)];
+                if (place || formerKeys[i].isEmpty() || unclaimed(eventKey(rows[i])))
+                    continue;
+                place = claimed(formerKeys[i]);
+                isAnyFound = isAnyFound || place;
+            }
+        }
+        for (qsizetype i = 0; i < rows.size(); ++i) {
+            if (!places[size_t(i)])
+                places[size_t(i)] = claimed(eventKey(rows[i]));
+        }
+        return places;
     }
 
-    void patch(TreeComponent &vevent, const Event &before, const Event &row) const
+    /// What an override has to know of its series; nothing of one that is not in the text.
+    struct Series {
+        QString uid;
+        const TreeComponent *component = nullptr;
+        std::optional<TimeForm> startForm;
+    };
+
+    const Series &seriesOf(const Event &row)
     {
-        const TreeComponent *series = row.recurrenceId.isEmpty() ? nullptr : seriesOf(row);
-        EventPatch::apply(vevent, before, row, series ? EventTimesPatch::startForm(*series) : std::nullopt,
+        const QString uid = uidKey(row.uid);
+        if (m_series.uid == uid)
+            return m_series;
+        m_series = { .uid = uid, .component = nullptr, .startForm = {} };
+        const auto isSeries = [&uid](const TreeComponent &component) {
+            return uidOf(component) == uid && !component.lastLine("RECURRENCE-ID");
+        };
+        if (const auto present = m_present.constFind(eventKey(row.uid, {})); present != m_present.cend())
+            m_series.component = present->component;
+        else if (const auto added = std::ranges::find_if(m_added, isSeries); added != m_added.end())
+            m_series.component = &*added;
+        if (m_series.component)
+            m_series.startForm = EventTimesPatch::startForm(*m_series.component);
+        return m_series;
+    }
+
+    void patch(TreeComponent &vevent, const Event &before, const Event &row)
+    {
+        EventPatch::apply(vevent, before, row, row.recurrenceId.isEmpty() ? std::nullopt : seriesOf(row).startForm,
                           m_context.ownAddresses);
     }
 
@@ -174,9 +223,6 @@ private:
     {
         if (!present)
             return add(row);
-        // An instance that was renamed takes the place of one that has not been.
-        if (const Present *displaced = isSameEvent(present->event, row) ? nullptr : claimed(find(row)))
-            m_removed.push_back(displaced->component);
         TreeComponent &vevent = *present->component;
         patch(vevent, present->event, row);
         if (vevent.isChanged())
@@ -190,13 +236,13 @@ private:
         int sequence = row.sequence;
         for (TreeComponent &stored : m_resource.stored(row.rawIcalendar, "VEVENT")) {
             std::optional<Event> event = readEvent(stored);
-            if (!event || !isSameEvent(*event, row))
+            if (!event || eventKey(*event) != eventKey(row))
                 continue;
             vevent = std::move(stored);
             before = *std::move(event);
             break;
         }
-        if (const TreeComponent *series = row.recurrenceId.isEmpty() ? nullptr : seriesOf(row)) {
+        if (const TreeComponent *series = row.recurrenceId.isEmpty() ? nullptr : seriesOf(row).component) {
             takeOver(vevent, *series);
             // An invitation to one instance must not look older than the one to all.
             const TreeLine *line = series->lastLine("SEQUENCE");
@@ -218,8 +264,9 @@ private:
 
     ResourceText &m_resource;
     const Context &m_context;
-    std::vector<Present> m_present;
+    QHash<QString, Present> m_present; // by key
     std::deque<TreeComponent> m_added;
+    Series m_series; // the last one asked for
     std::vector<const TreeComponent *> m_removed;
 };
 

@@ -1,6 +1,7 @@
 #include "calendar/TimeZoneText.h"
 
 #include "calendar/ICalLineText.h"
+#include "calendar/TimeZones.h"
 
 #include <QDateTime>
 
@@ -61,15 +62,11 @@ Onsets onsetsFrom(const QTimeZone &zone, int firstYear, int lastYear)
                                        .standardTimeOffset = zone.standardTimeOffset(from),
                                        .daylightTimeOffset = zone.daylightTimeOffset(from) };
     Onsets onsets{ onset(from, first.offsetFromUtc, first) };
-    // Not transitions(), which ends with those that the zone's file lists.
-    for (QDateTime after = from;;) {
-        const QTimeZone::OffsetData transition = zone.nextTransition(after);
-        if (!transition.atUtc.isValid() || transition.atUtc > to || transition.atUtc <= after)
-            break;
-        Onset next = onset(transition.atUtc, onsets.back().offsetTo, transition);
+    const QTimeZone::OffsetDataList changes = TimeZones::changes(zone, from, to);
+    for (const QTimeZone::OffsetData &change : changes) {
+        Onset next = onset(change.atUtc, onsets.back().offsetTo, change);
         if (next.offsetFrom != next.offsetTo || next.name != onsets.back().name)
             onsets.push_back(std::move(next));
-        after = transition.atUtc.addSecs(1);
     }
     return onsets;
 }

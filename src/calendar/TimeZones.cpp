@@ -132,6 +132,18 @@ QTimeZone TimeZones::ianaZone(const QString &id)
     return id.size() > MaxNameLength ? QTimeZone() : remembered(cache, id, strictZone);
 }
 
+QTimeZone::OffsetDataList TimeZones::changes(const QTimeZone &zone, const QDateTime &from, const QDateTime &to)
+{
+    QTimeZone::OffsetDataList changes;
+    for (QDateTime after = from;;) {
+        const QTimeZone::OffsetData change = zone.nextTransition(after);
+        if (!change.atUtc.isValid() || change.atUtc <= after || change.atUtc > to)
+            return changes;
+        changes.append(change);
+        after = change.atUtc.addSecs(1); // at the very last one of the file the search would end
+    }
+}
+
 QString TimeZones::systemName()
 {
     const QString name = QString::fromUtf8(QTimeZone::systemTimeZoneId());

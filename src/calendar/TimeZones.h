@@ -15,6 +15,10 @@ QTimeZone find(QStringView tzid);
 /// none. Answers from a cache.
 QTimeZone ianaZone(const QString &id);
 
+/// The clock changes of \p zone after \p from and up to \p to, also those that only its yearly rules tell.
+/// QTimeZone::transitions() ends with the ones that the zone's file lists, mostly in 2037.
+QTimeZone::OffsetDataList changes(const QTimeZone &zone, const QDateTime &from, const QDateTime &to);
+
 /// The IANA name of the machine's zone; "UTC" if it has none.
 QString systemName();
 

@@ -1,6 +1,7 @@
 #include "calendar/WallClock.h"
 
 #include "calendar/CivilDate.h"
+#include "calendar/TimeZones.h"
 
 #include <QHash>
 
@@ -84,10 +85,10 @@ private:
         m_to = utcMs + TableReachMs;
         m_firstOffsetMs = zoneOffsetMs(m_zone, m_from);
         m_changes.clear();
-        const auto transitions = m_zone.transitions(QDateTime::fromMSecsSinceEpoch(m_from, Qt::UTC),
-                                                    QDateTime::fromMSecsSinceEpoch(m_to, Qt::UTC));
-        for (const QTimeZone::OffsetData &transition : transitions)
-            m_changes.push_back({ transition.atUtc.toMSecsSinceEpoch(), transition.offsetFromUtc * MsPerSecond });
+        const auto changes = TimeZones::changes(m_zone, QDateTime::fromMSecsSinceEpoch(m_from, Qt::UTC),
+                                                QDateTime::fromMSecsSinceEpoch(m_to, Qt::UTC));
+        for (const QTimeZone::OffsetData &change : changes)
+            m_changes.push_back({ change.atUtc.toMSecsSinceEpoch(), change.offsetFromUtc * MsPerSecond });
     }
 
     QTimeZone m_zone;

@@ -13,8 +13,11 @@ ChangeNotifier::ChangeNotifier(QObject *parent)
 
 void ChangeNotifier::notify(const QString &calendarId, ChangeOrigin origin)
 {
+    m_calendarId = calendarId;
+    // A pull writes for minutes on end: what the user did meanwhile is shown at once all the same.
+    const bool userWaits = m_origin == ChangeOrigin::User && m_timer.isActive();
     if (origin == ChangeOrigin::User)
         m_origin = origin;
-    m_calendarId = calendarId;
-    m_timer.start();
+    if (origin == ChangeOrigin::User || !userWaits)
+        m_timer.start();
 }

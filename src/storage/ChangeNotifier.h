@@ -7,7 +7,7 @@
 #include <QTimer>
 
 /// Gathers a burst of writes into one signal: 150 ms after the last one, with the last id. The user caused it if any
-/// of the writes was the user's.
+/// of the writes was the user's; those of a sync do not put it off.
 class ChangeNotifier : public QObject {
     Q_OBJECT
 

@@ -254,14 +254,19 @@ int EventRepository::discardEdits(const QString &calendarId)
     return count;
 }
 
-bool EventRepository::clearEtags(const QString &calendarId)
+bool EventRepository::clearEtags(const QString &calendarId, qint64 afterRowid, int count)
 {
-    return SyncRows::clearEtags(m_database, TableName, calendarId);
+    return SyncRows::clearEtags(m_database, TableName, calendarId, afterRowid, count);
 }
 
 QStringList EventRepository::pendingCalendarIds()
 {
     return SyncRows::pendingCalendarIds(m_database, TableName);
+}
+
+QList<PendingRow> EventRepository::pendingRows(const QString &calendarId, qint64 afterRowid, int limit)
+{
+    return SyncRows::listPending(m_database, TableName, "start_time", calendarId, afterRowid, limit);
 }
 
 QList<SyncRow> EventRepository::syncRows(const QString &calendarId, qint64 afterRowid, int limit)

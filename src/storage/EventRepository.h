@@ -63,6 +63,8 @@ public:
 
     /// A page of the calendar's rows in order of rowid, tombstones included.
     QList<SyncRow> syncRows(const QString &calendarId, qint64 afterRowid, int limit);
+    /// The same of those that wait, with little of each: getPending() of thousands takes seconds.
+    QList<PendingRow> pendingRows(const QString &calendarId, qint64 afterRowid, int limit);
 
     /// The master of a series, or a single event, then its overrides; tombstones too.
     QList<Event> getSeries(const QString &uid, const QString &calendarId);
@@ -85,8 +87,9 @@ public:
     bool markPushed(const QString &id, const PushedResource &pushed); ///< and synced
     /// Gives up edits of rows that the server knows; it has to send them again. Returns how many; -1 on an error.
     int discardEdits(const QString &calendarId);
-    /// The next sync reads the synced rows of the calendar anew.
-    bool clearEtags(const QString &calendarId);
+    /// The next sync reads the synced rows of the calendar anew. Looks at \p count rowids after \p afterRowid; false
+    /// when there are none left after these.
+    bool clearEtags(const QString &calendarId, qint64 afterRowid, int count);
     /// Brings a deleted event back for undo, also after a sync purged the row.
     bool restoreDeleted(const Event &event);
 

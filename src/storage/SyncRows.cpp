@@ -68,6 +68,26 @@ QStringList SyncRows::pendingCalendarIds(Database *database, const char *table)
     return ids;
 }
 
+QList<PendingRow> SyncRows::listPending(Database *database, const char *table, const char *rankColumn,
+                                        const QString &calendarId, qint64 afterRowid, int limit)
+{
+    Statement row(database,
+                  forTable("SELECT rowid, uid, href, %2 FROM %1 WHERE calendar_id = ? AND sync_status = 'pending'"
+                           " AND rowid > ? ORDER BY rowid LIMIT ?",
+                           table)
+                      .arg(QLatin1StringView(rankColumn)));
+    QList<PendingRow> rows;
+    if (!row.bindAll({ calendarId, afterRowid, limit }).run("Reading failed:"))
+        return rows;
+    while (row.next()) {
+        rows.append({ .rowid = row.value(0).toLongLong(),
+                      .uid = row.value(1).toString(),
+                      .href = row.value(2).toString(),
+                      .rank = row.value(3).toString() });
+    }
+    return rows;
+}
+
 bool SyncRows::setAddress(Database *database, const char *table, const QString &id, const QString &href,
                           const QString &etag)
 {
@@ -106,11 +126,17 @@ int SyncRows::discardEdits(Database *database, const char *table, const QString 
     return changes.run("Reading failed:") && changes.next() ? changes.value(0).toInt() : -1;
 }
 
-bool SyncRows::clearEtags(Database *database, const char *table, const QString &calendarId)
+bool SyncRows::clearEtags(Database *database, const char *table, const QString &calendarId, qint64 afterRowid,
+                          int count)
 {
-    return runStatement(database, "Clearing etags failed:",
-                        forTable("UPDATE %1 SET etag = NULL WHERE calendar_id = ? AND sync_status = 'synced'"
-                                 " AND etag IS NOT NULL",
-                                 table),
-                        { calendarId });
+    const qint64 lastRowid = afterRowid + count;
+    // The plus keeps SQLite from walking through the whole calendar for each part of it.
+    if (!runStatement(database, "Clearing etags failed:",
+                      forTable("UPDATE %1 SET etag = NULL WHERE rowid > ? AND rowid <= ? AND +calendar_id = ?"
+                               " AND +sync_status = 'synced' AND etag IS NOT NULL",
+                               table),
+                      { afterRowid, lastRowid, calendarId }))
+        return false;
+    Statement more(database, forTable("SELECT 1 FROM %1 WHERE rowid > ? LIMIT 1", table));
+    return more.bind(lastRowid).run("Reading failed:") && more.next();
 }

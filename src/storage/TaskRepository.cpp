@@ -287,14 +287,19 @@ int TaskRepository::discardEdits(const QString &calendarId)
     return count;
 }
 
-bool TaskRepository::clearEtags(const QString &calendarId)
+bool TaskRepository::clearEtags(const QString &calendarId, qint64 afterRowid, int count)
 {
-    return SyncRows::clearEtags(m_database, TableName, calendarId);
+    return SyncRows::clearEtags(m_database, TableName, calendarId, afterRowid, count);
 }
 
 QStringList TaskRepository::pendingCalendarIds()
 {
     return SyncRows::pendingCalendarIds(m_database, TableName);
+}
+
+QList<PendingRow> TaskRepository::pendingRows(const QString &calendarId, qint64 afterRowid, int limit)
+{
+    return SyncRows::listPending(m_database, TableName, "last_modified", calendarId, afterRowid, limit);
 }
 
 QList<SyncRow> TaskRepository::syncRows(const QString &calendarId, qint64 afterRowid, int limit)

@@ -35,6 +35,8 @@ public:
 
     /// A page of the calendar's rows in order of rowid, tombstones included.
     QList<SyncRow> syncRows(const QString &calendarId, qint64 afterRowid, int limit);
+    /// The same of those that wait, with little of each: getPending() of thousands takes seconds.
+    QList<PendingRow> pendingRows(const QString &calendarId, qint64 afterRowid, int limit);
 
     bool insert(const Task &task);
     /// lastModified becomes now. When due or start moved, reminders are due again.
@@ -46,8 +48,9 @@ public:
     bool markPushed(const QString &id, const PushedResource &pushed); ///< and synced
     /// Gives up edits of rows that the server knows; it has to send them again. Returns how many; -1 on an error.
     int discardEdits(const QString &calendarId);
-    /// The next sync reads the synced rows of the calendar anew.
-    bool clearEtags(const QString &calendarId);
+    /// The next sync reads the synced rows of the calendar anew. Looks at \p count rowids after \p afterRowid; false
+    /// when there are none left after these.
+    bool clearEtags(const QString &calendarId, qint64 afterRowid, int count);
 
     /// Completes a task or takes that back. A repeating task is not completed: it moves on to its next
     /// date, from its due date or from now (Task::repeatMode), if its rule has one left.

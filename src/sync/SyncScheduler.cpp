@@ -12,6 +12,7 @@
 #include "storage/EventRepository.h"
 #include "storage/PreferencesRepository.h"
 #include "storage/TaskRepository.h"
+#include "sync/EtagClearing.h"
 
 #include <QDebug>
 
@@ -29,6 +30,11 @@ constexpr int RestSecs = 60;
 bool isCloudOrFeed(const Account &account)
 {
     return account.type == AccountType::Quillon || account.type == AccountType::Webcal;
+}
+
+QString nothingWaits()
+{
+    return SyncScheduler::tr("All caught up, nothing waiting to sync.");
 }
 
 QDateTime now()
@@ -73,10 +79,15 @@ QString SyncScheduler::passwordMissing()
     return tr("Password missing");
 }
 
-bool SyncScheduler::canPush(const QString &calendarId) const
+std::optional<Account> SyncScheduler::accountOf(const QString &calendarId) const
 {
     const auto calendar = m_state->calendars()->getById(calendarId);
-    const auto account = calendar ? m_state->accounts()->getById(calendar->accountId) : std::nullopt;
+    return calendar ? m_state->accounts()->getById(calendar->accountId) : std::nullopt;
+}
+
+bool SyncScheduler::canPush(const QString &calendarId) const
+{
+    const auto account = accountOf(calendarId);
     return account && account->enabled && isCalDavFamily(*account) && account->lastSyncError != passwordMissing()
         && !isResting(calendarId);
 }
@@ -93,8 +104,7 @@ void SyncScheduler::onChanged(ChangeOrigin origin)
 
 void SyncScheduler::scheduleCalendarSync(const QString &calendarId)
 {
-    const auto calendar = m_state->calendars()->getById(calendarId);
-    const auto account = calendar ? m_state->accounts()->getById(calendar->accountId) : std::nullopt;
+    const auto account = accountOf(calendarId);
     // The product's cloud moves on a schedule of its own; a local calendar has nowhere to go.
     if (!account || account->type == AccountType::Quillon || isResting(calendarId))
         return;
@@ -123,22 +133,24 @@ void SyncScheduler::runQueuedAutoSyncs()
 {
     const QSet<QString> ids = std::exchange(m_pendingCalendars, {});
     for (const QString &id : ids) {
-        const auto calendar = m_state->calendars()->getById(id);
-        const auto account = calendar ? m_state->accounts()->getById(calendar->accountId) : std::nullopt;
-        if (!account || !account->enabled || account->type != AccountType::CalDAV)
+        const auto account = accountOf(id);
+        // The run before this one may have failed after the edit.
+        if (!account || !account->enabled || account->type != AccountType::CalDAV || isResting(id))
             continue;
         m_credentials->caldavPassword(account->id, Credentials::Unlock::Never, this,
-                                      [this, calendar = *calendar, account = *account](const QString &password) {
-                                          autoSync(calendar, account, password);
-                                      });
+                                      [this, id](const QString &password) { autoSync(id, password); });
     }
 }
 
-void SyncScheduler::autoSync(const Calendar &calendar, const Account &account, const QString &password)
+void SyncScheduler::autoSync(const QString &calendarId, const QString &password)
 {
+    const auto calendar = m_state->calendars()->getById(calendarId);
+    const auto account = accountOf(calendarId);
+    if (!account || !account->enabled)
+        return;
     if (password.isEmpty()) {
-        qInfo().noquote() << "[AutoSync] skip — no password for account" << account.name << "(" << account.id << ")";
-        return setAccountError(account, passwordMissing());
+        qInfo().noquote() << "[AutoSync] skip — no password for account" << account->name << "(" << account->id << ")";
+        return setAccountError(*account, passwordMissing());
     }
     CalDavSyncClient *client = makeClient();
     connect(client, &CalDavSyncClient::calendarSyncCompleted, this, [this](const QString &, int count) {
@@ -149,7 +161,7 @@ void SyncScheduler::autoSync(const Calendar &calendar, const Account &account, c
             [this](const QString &id, const QString &message) { onFailed(id, message, 5000); });
     // A notice of a rejected task is no end: the run completes after it.
     connect(client, &CalDavSyncClient::calendarSyncEnded, client, &QObject::deleteLater);
-    client->syncCalendar(calendar, account.serverUrl, account.username, password, account.trustedCertSha256);
+    client->syncCalendar(*calendar, account->serverUrl, account->username, password, account->trustedCertSha256);
 }
 
 void SyncScheduler::runPeriodicSyncTick()
@@ -177,7 +189,6 @@ void SyncScheduler::runSyncForAccount(const Account &)
 void SyncScheduler::runRound(Credentials::Unlock unlock)
 {
     m_syncedTotal = 0;
-    m_startedAccounts = 0;
     QList<Account> accounts;
     for (Account &account : m_state->accounts()->getAll()) {
         if (!account.enabled || isCloudOrFeed(account))
@@ -189,47 +200,50 @@ void SyncScheduler::runRound(Credentials::Unlock unlock)
             accounts.append(account);
     }
     if (accounts.isEmpty())
-        return finishRound();
-    // The store answers in the order of the questions.
+        return finishRound(0);
+    struct Lookups {
+        qsizetype open;
+        int started = 0;
+    };
+    const auto lookups = std::make_shared<Lookups>(Lookups{ .open = accounts.size() });
     for (const Account &account : std::as_const(accounts)) {
-        const bool isLast = account.id == accounts.last().id;
-        m_credentials->caldavPassword(
-            account.id, unlock, this,
-            [this, id = account.id, isLast](const QString &password) { onRoundPassword(id, password, isLast); });
+        m_credentials->caldavPassword(account.id, unlock, this,
+                                      [this, id = account.id, lookups](const QString &password) {
+                                          lookups->started += beginAccount(id, password);
+                                          if (--lookups->open == 0)
+                                              finishRound(lookups->started);
+                                      });
     }
 }
 
-void SyncScheduler::onRoundPassword(const QString &accountId, const QString &password, bool isLast)
+/// False if there is nothing to do with it.
+bool SyncScheduler::beginAccount(const QString &accountId, const QString &password)
 {
     const auto account = m_state->accounts()->getById(accountId);
-    if (account && account->enabled) {
-        if (password.isEmpty()) {
-            qInfo().noquote() << "[Sync] Skipping account" << account->name << "— no password in keyring for"
-                              << Platform::tokenStoreAppId();
-            setAccountError(*account, passwordMissing());
-        } else {
-            if (account->lastSyncError == passwordMissing())
-                setAccountError(*account, {});
-            ++m_startedAccounts;
-            discover(*account, password);
-        }
+    if (!account || !account->enabled)
+        return false;
+    if (password.isEmpty()) {
+        qInfo().noquote() << "[Sync] Skipping account" << account->name << "— no password in keyring for"
+                          << Platform::tokenStoreAppId();
+        setAccountError(*account, passwordMissing());
+        return false;
     }
-    if (isLast)
-        finishRound();
+    if (account->lastSyncError == passwordMissing())
+        setAccountError(*account, {});
+    discover(*account, password);
+    return true;
 }
 
-void SyncScheduler::finishRound()
+void SyncScheduler::finishRound(int startedAccounts)
 {
-    if (m_startedAccounts > 0)
-        return say(tr("Syncing %1 account(s)…").arg(m_startedAccounts), 0);
+    if (startedAccounts > 0)
+        return say(tr("Syncing %1 account(s)…").arg(startedAccounts), 0);
     const QList<Account> accounts = m_state->accounts()->getAll();
     const bool hasAny = std::ranges::any_of(accounts, [](const Account &account) {
         return account.enabled && account.type != AccountType::ICloud && account.type != AccountType::Zoho
             && account.id != LocalDefaults::LocalAccountId && account.id != LocalDefaults::SampleAccountId;
     });
-    say(hasAny ? tr("All caught up, nothing waiting to sync.")
-               : tr("No sync accounts configured. Add one in Calendar Accounts."),
-        5000);
+    say(hasAny ? nothingWaits() : tr("No sync accounts configured. Add one in Calendar Accounts."), 5000);
 }
 
 void SyncScheduler::discover(const Account &account, const QString &password)
@@ -239,30 +253,33 @@ void SyncScheduler::discover(const Account &account, const QString &password)
     if (!account.trustedCertSha256.isEmpty())
         client->setTrustedCertSha256(account.trustedCertSha256);
     auto *discovery = new CalDavDiscovery(client, client);
-    const auto goOn = [this, client, account, password] {
+    const auto goOn = [this, client, id = account.id, password](const QString &failure) {
         client->deleteLater();
-        syncAccount(account, password);
+        syncAccount(id, password, failure);
     };
     connect(discovery, &CalDavDiscovery::completed, this,
-            [this, account, goOn](const QList<CalDavParse::DiscoveredCalendar> &calendars) {
-                const int inserted = CalDavRediscover::upsertDiscoveredCalendars(m_state, account.id, calendars);
+            [this, id = account.id, goOn](const QList<CalDavParse::DiscoveredCalendar> &calendars) {
+                const int inserted = CalDavRediscover::upsertDiscoveredCalendars(m_state, id, calendars);
                 if (inserted > 0)
                     say(tr("Discovered %n new calendar(s).", nullptr, inserted), 4000);
-                goOn();
+                goOn({});
             });
     connect(discovery, &CalDavDiscovery::failed, this, [goOn](const QString &message) {
         qWarning().noquote() << "[Sync] Rediscovery skipped:" << message;
-        goOn();
+        goOn(message);
     });
     discovery->start(QUrl(account.serverUrl));
 }
 
-void SyncScheduler::syncAccount(const Account &account, const QString &password)
+/// A failed discovery does not stop the calendars that are known. Without any it is what there is to tell.
+void SyncScheduler::syncAccount(const QString &accountId, const QString &password, const QString &discoveryFailure)
 {
-    const auto current = m_state->accounts()->getById(account.id);
-    const QList<Calendar> calendars = m_state->calendars()->getByAccount(account.id);
-    if (!current || !current->enabled || calendars.isEmpty())
+    const auto account = m_state->accounts()->getById(accountId);
+    const QList<Calendar> calendars = m_state->calendars()->getByAccount(accountId);
+    if (!account || !account->enabled)
         return;
+    if (calendars.isEmpty())
+        return discoveryFailure.isEmpty() ? say(nothingWaits(), 5000) : sayFailure(discoveryFailure, 6000);
     CalDavSyncClient *client = makeClient();
     const auto remaining = std::make_shared<qsizetype>(calendars.size());
     connect(client, &CalDavSyncClient::calendarSyncCompleted, this, [this](const QString &, int count) {
@@ -276,7 +293,7 @@ void SyncScheduler::syncAccount(const Account &account, const QString &password)
             client->deleteLater();
     });
     for (const Calendar &calendar : calendars)
-        client->syncCalendar(calendar, current->serverUrl, current->username, password, current->trustedCertSha256);
+        client->syncCalendar(calendar, account->serverUrl, account->username, password, account->trustedCertSha256);
 }
 
 CalDavSyncClient *SyncScheduler::makeClient()
@@ -290,22 +307,23 @@ CalDavSyncClient *SyncScheduler::makeClient()
 void SyncScheduler::wire(CalDavSyncClient *client)
 {
     const auto open = std::make_shared<int>(0);
-    connect(client, &CalDavSyncClient::calendarSyncStarted, m_state, [this, open] {
+    connect(client, &CalDavSyncClient::calendarSyncStarted, m_state, [state = m_state, open] {
         ++*open;
-        m_state->syncOpBegan();
+        state->syncOpBegan();
     });
-    const auto end = [this, open](bool failed) {
+    // The client may outlive this by a little.
+    const auto end = [state = m_state, open](bool failed) {
         if (*open == 0)
             return false;
         --*open;
-        m_state->syncOpEnded(failed);
+        state->syncOpEnded(failed);
         return true;
     };
     connect(client, &CalDavSyncClient::calendarSyncCompleted, m_state, [end] { end(false); });
     connect(client, &CalDavSyncClient::calendarSyncFailed, m_state,
-            [this, open, end](const QString &calendarId, const QString &message) {
+            [state = m_state, open, end](const QString &calendarId, const QString &message) {
                 if (*open > 0)
-                    m_state->recordSyncError(calendarId, message);
+                    state->recordSyncError(calendarId, message);
                 end(true);
             });
     connect(client, &QObject::destroyed, m_state, [end] {
@@ -332,6 +350,7 @@ void SyncScheduler::runForceFullSync()
 {
     int discarded = 0;
     int cleared = 0;
+    QStringList toReadAnew;
     for (Calendar &calendar : m_state->calendars()->getAll()) {
         const auto account = m_state->accounts()->getById(calendar.accountId);
         const bool canSync =
@@ -339,8 +358,7 @@ void SyncScheduler::runForceFullSync()
         if (canSync) {
             discarded += std::max(m_state->events()->discardEdits(calendar.id), 0);
             discarded += std::max(m_state->tasks()->discardEdits(calendar.id), 0);
-            m_state->events()->clearEtags(calendar.id);
-            m_state->tasks()->clearEtags(calendar.id);
+            toReadAnew.append(calendar.id);
         }
         if (calendar.ctag.isEmpty() && calendar.syncToken.isEmpty() && calendar.deltaSyncToken.isEmpty())
             continue;
@@ -361,7 +379,12 @@ void SyncScheduler::runForceFullSync()
     }
     m_state->preferences()->remove(QStringLiteral("config/sync/since"));
     say(tr("Cleared %n calendar sync token(s), running full sync…", nullptr, cleared), 4000);
-    runSyncNow();
+    auto *clearing = new EtagClearing(m_state, toReadAnew, this);
+    connect(clearing, &EtagClearing::finished, this, [this, clearing] {
+        clearing->deleteLater();
+        runSyncNow();
+    });
+    clearing->start();
 }
 
 /// Good news does not hide bad news while that is to be read.

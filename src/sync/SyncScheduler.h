@@ -13,7 +13,7 @@
 #include <QString>
 #include <QTimer>
 
-#include <functional>
+#include <optional>
 
 class AppState;
 class CalDavSyncClient;
@@ -57,17 +57,18 @@ private:
     void onChanged(ChangeOrigin origin);
     void onBusyChanged(bool busy);
     void runRound(Credentials::Unlock unlock);
-    void onRoundPassword(const QString &accountId, const QString &password, bool isLast);
-    void finishRound();
+    bool beginAccount(const QString &accountId, const QString &password);
+    void finishRound(int startedAccounts);
     void discover(const Account &account, const QString &password);
-    void syncAccount(const Account &account, const QString &password);
-    void autoSync(const Calendar &calendar, const Account &account, const QString &password);
+    void syncAccount(const QString &accountId, const QString &password, const QString &discoveryFailure);
+    void autoSync(const QString &calendarId, const QString &password);
     CalDavSyncClient *makeClient();
     void wire(CalDavSyncClient *client);
     void onFailed(const QString &calendarId, const QString &message, int timeoutMs);
     void setAccountError(Account account, const QString &error);
     void say(const QString &text, int timeoutMs);
     void sayFailure(const QString &text, int timeoutMs);
+    [[nodiscard]] std::optional<Account> accountOf(const QString &calendarId) const;
     [[nodiscard]] bool isResting(const QString &calendarId) const;
 
     AppState *m_state;
@@ -77,6 +78,5 @@ private:
     QSet<QString> m_pendingCalendars;
     QHash<QString, QDateTime> m_failureStamps; // calendar to UTC
     int m_syncedTotal = 0;
-    int m_startedAccounts = 0; // of the round that is being started
     QDeadlineTimer m_failureShown;
 };

@@ -140,7 +140,7 @@ void MainWindow::buildStatusBar()
     auto *pill = new FiltersPill(m_state);
     connect(pill, &FiltersPill::addRequested, this, &MainWindow::openAddFilterDialog);
     connect(pill, &FiltersPill::manageRequested, this, &MainWindow::openManageFiltersDialog);
-    auto *accounts = new AccountPill(m_state);
+    auto *accounts = new AccountPill(m_state, statusBar()); // it shows itself
     connect(accounts, &QToolButton::clicked, this, &MainWindow::openCalendarAccounts);
     statusBar()->addPermanentWidget(accounts);
     statusBar()->addPermanentWidget(pill);

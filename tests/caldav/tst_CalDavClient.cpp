@@ -252,10 +252,12 @@ private slots:
         HttpServer server;
         server.enqueue({ .status = 200, .body = {}, .headers = {}, .fault = Fault::Hang });
         Caller caller;
-        QSignalSpy heard(&caller.client, &CalDavClient::heard);
+        const QSignalSpy sent(&caller.client, &CalDavClient::sent);
+        const QSignalSpy heard(&caller.client, &CalDavClient::heard);
         caller.call("PUT", server.url());
         QTRY_COMPARE(server.requests().size(), 1);
-        QTRY_VERIFY(!heard.isEmpty());
+        QTRY_VERIFY(!sent.isEmpty());
+        QVERIFY(heard.isEmpty());
         caller.client.abort();
 
         auto *inFlight = new CalDavClient;

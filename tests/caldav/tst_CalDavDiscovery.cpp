@@ -152,6 +152,13 @@ private slots:
             QVERIFY(calendar.url.startsWith(u"https://dav.a.example/cal/"_s));
         QCOMPARE(state->calendars()->getById(renamed.id)->name, u"Mine"_s);
 
+        // Paths may differ in case alone.
+        const QList<DiscoveredCalendar> twins{ found(u"https://dav.a.example/cal/work"_s),
+                                               found(u"https://dav.a.example/cal/Work"_s) };
+        QCOMPARE(upsert(twins), 1);
+        QCOMPARE(upsert(twins), 0);
+        QCOMPARE(calendars().size(), 3);
+
         CalDavRediscover::decline(state.state(), account.id, { u"http://a.example/cal/old/"_s });
         QCOMPARE(upsert({ found(u"https://dav.a.example/cal/old/"_s) }), 0);
         CalDavRediscover::accept(state.state(), account.id, { u"https://dav.a.example/cal/old/"_s });

@@ -5,6 +5,7 @@
 #include "support/SyncWorld.h"
 #include "support/TestData.h"
 
+#include <QElapsedTimer>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -77,6 +78,16 @@ private slots:
             QCOMPARE(world.device.writes(), writes);
             QCOMPARE(world.server.count("PUT"), puts);
         }
+    }
+
+    void aListingMayTakeLongToBegin()
+    {
+        SyncWorld world;
+        world.server.fail(1, { FakeCalDav::Fault::Silence, 0 });
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(!world.device.sync().isEmpty());
+        QVERIFY2(clock.elapsed() > 550, "ten minutes are 600 ms here");
     }
 
     void answersWithoutEtagsConverge()

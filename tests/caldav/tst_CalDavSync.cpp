@@ -225,6 +225,41 @@ private slots:
         QCOMPARE(m_phone->event(u"weekly"_s, SecondWeek).href, u"/alice/work/s.ics"_s);
     }
 
+    void aMovedSeriesTakesItsOverridesAlong()
+    {
+        m_server->store("s.ics", series("Review", "Late review"));
+        QCOMPARE(m_phone->sync(), QString());
+        m_phone->edit(u"weekly"_s, [](Event &event) {
+            event.startTime = utc("2026-03-15T10:00");
+            event.endTime = utc("2026-03-15T11:00");
+        });
+        m_phone->edit(
+            u"weekly"_s, [](Event &event) { event.recurrenceId = u"20260322T100000Z"_s; }, SecondWeek);
+        m_server->store("s.ics", series("Their review", "Late review"));
+        QCOMPARE(m_phone->sync(), QString());
+        QCOMPARE(m_phone->sync(), QString());
+        QCOMPARE(m_server->text("s.ics").count("BEGIN:VEVENT"), 2);
+        QVERIFY(m_server->text("s.ics").contains("RECURRENCE-ID:20260322T100000Z"));
+        QCOMPARE(m_phone->state()->events()->getSeries(u"weekly"_s, m_phone->calendarId()).size(), 2);
+        QCOMPARE(m_phone->pendingCount(), 0);
+    }
+
+    void anInstanceThatForgotItsOldNameLeavesItOnTheServerToo()
+    {
+        m_server->store("s.ics", series("Review", "Late review"));
+        QCOMPARE(m_phone->sync(), QString());
+        m_phone->edit(
+            u"weekly"_s,
+            [](Event &event) {
+                event.recurrenceId = u"20260322T100000Z"_s;
+                event.rawIcalendar.clear();
+            },
+            SecondWeek);
+        m_phone->edit(u"weekly"_s, [](Event &event) { event.startTime = utc("2026-03-15T10:00"); });
+        QCOMPARE(m_phone->sync(), QString());
+        QCOMPARE(m_server->text("s.ics").count("RECURRENCE-ID"), 1);
+    }
+
     void whatChangesWhileItIsPushedStaysPending()
     {
         m_server->store("a.ics", calendarText(eventText("a", "Standup")));
@@ -284,6 +319,65 @@ private slots:
         m_server->whenAsked("PUT", [this] { m_server->store("t.ics", calendarText(taskText("t", "Theirs"))); });
         QCOMPARE(m_phone->sync(), QString());
         QVERIFY(m_server->text("t.ics").contains("SUMMARY:Mine"));
+    }
+
+    void aForeignPageDoesNotPassForTheServersCopy()
+    {
+        m_server->givesTexts = false;
+        m_server->store("a.ics", calendarText(eventText("a", "Standup", Foreign)));
+        QCOMPARE(m_phone->sync(), QString());
+        m_phone->edit(u"a"_s, [](Event &event) { event.title = u"Mine"_s; });
+        m_server->fail(2, { .kind = FakeCalDav::Fault::ForeignXml, .status = 200 }); // the GET
+        QVERIFY(!m_phone->sync().isEmpty());
+        QVERIFY(m_server->text("a.ics").contains("SUMMARY:Standup"));
+        QCOMPARE(m_phone->sync(), QString());
+        QVERIFY(m_server->text("a.ics").contains("SUMMARY:Mine"));
+    }
+
+    void aSeriesIsNotLostWithTheAddressOfItsOverride()
+    {
+        m_server->givesTexts = false;
+        m_server->store("s.ics", series("Review", "Late review"));
+        QCOMPARE(m_phone->sync(), QString());
+        m_phone->edit(
+            u"weekly"_s, [](Event &event) { event.title = u"Mine"_s; }, SecondWeek);
+        m_server->fail(2, { .kind = FakeCalDav::Fault::Status, .status = 404 }); // the GET
+        QVERIFY(!m_phone->sync().isEmpty());
+        QCOMPARE(m_phone->sync(), QString());
+        QCOMPARE(m_server->objects().keys().join(' '), QByteArray("s.ics"));
+        QVERIFY(m_server->text("s.ics").contains("SUMMARY:Review"));
+        QVERIFY(m_server->text("s.ics").contains("SUMMARY:Mine"));
+    }
+
+    void aRefusedResourceIsTriedOncePerRun()
+    {
+        m_server->store("s.ics", calendarText(eventText("weekly", "Review", "RRULE:FREQ=WEEKLY;COUNT=5\r\n")));
+        QCOMPARE(m_phone->sync(), QString());
+        m_phone->edit(u"weekly"_s, [](Event &event) { event.title = u"Mine"_s; });
+        Event added = m_phone->event(u"weekly"_s);
+        added.id = u"override"_s;
+        added.masterEventUid = added.uid;
+        added.recurrenceId = SecondWeek;
+        added.recurrenceRule.clear();
+        added.href.clear();
+        added.startTime = utc("2026-03-08T15:00"); // its turn comes first
+        QVERIFY(m_phone->state()->events()->insert(added));
+        m_server->fail(2, { .kind = FakeCalDav::Fault::Status, .status = 507 });
+        QVERIFY(!m_phone->sync().isEmpty());
+        QCOMPARE(m_server->count("PUT"), 1);
+    }
+
+    void countsTellWhatWasReadOrTaken()
+    {
+        m_server->store("a.ics", calendarText(eventText("a", "Standup")));
+        m_server->store("t.ics", calendarText(taskText("t", "Pay rent")));
+        m_server->store("u.ics", calendarText(taskText("u", "Buy milk")));
+        QCOMPARE(m_phone->sync(), QString());
+        QCOMPARE(m_phone->lastCount(), 3);
+        m_phone->edit(u"a"_s, [](Event &event) { event.title = u"Mine"_s; });
+        m_phone->editTask(u"t"_s, [](Task &task) { task.title = u"Mine"_s; });
+        QCOMPARE(m_phone->sync(), QString());
+        QCOMPARE(m_phone->lastCount(), 2); // a task that waits does not count
     }
 
     void aRemovedAccountEndsTheRunQuietly()

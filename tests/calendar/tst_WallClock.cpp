@@ -20,6 +20,13 @@ private slots:
         QVERIFY(!WallClock(QTimeZone()).at(QDate(), time).isValid());
     }
 
+    void clocksChangeInYearsThatNoFileLists()
+    {
+        const WallClock clock{ QTimeZone("Europe/Berlin") };
+        QCOMPARE(clock.at(QDate(2040, 7, 2), QTime(9, 0)), utc("2040-07-02T07:00"));
+        QCOMPARE(clock.at(QDate(2040, 12, 2), QTime(9, 0)), utc("2040-12-02T08:00"));
+    }
+
     void wallClockSharesOnlyEqualTimes()
     {
         const QDateTime nine = utc("2026-05-04T09:00");

@@ -147,6 +147,32 @@ private slots:
         QVERIFY(m_server->objects().contains("mine.ics"));
     }
 
+    void anEditBeforeAFailureWaitsForTheRest()
+    {
+        givePassword();
+        syncNow();
+        m_scheduler->start();
+        m_server->fail(3, { .kind = FakeCalDav::Fault::Status, .status = 500 });
+        m_server->whenAsked("PROPFIND", [this] { addPending(u"mine"_s); });
+        syncNow();
+        const int before = m_server->requestCount();
+        QSignalSpy changed((*m_state)->events(), &EventRepository::eventsChanged);
+        QVERIFY(changed.wait());
+        for (QTimer *timer : m_scheduler->findChildren<QTimer *>(Qt::FindDirectChildrenOnly))
+            QTRY_VERIFY(!timer->isSingleShot() || !timer->isActive());
+        waitForRound();
+        QCOMPARE(m_server->requestCount(), before);
+    }
+
+    void aServerThatGivesNothingEndsTheRoundWithAReason()
+    {
+        givePassword();
+        m_account.serverUrl = u"http://127.0.0.1:1/"_s;
+        QVERIFY((*m_state)->accounts()->update(m_account));
+        syncNow();
+        QVERIFY2(messages().last().startsWith(u"Could not reach the server: "_s), qPrintable(messages().last()));
+    }
+
     void declinedAndRemovedCalendarsStayAway()
     {
         givePassword();
@@ -173,8 +199,8 @@ private slots:
         const Event local = m_state->addEvent(u"At home"_s, utc("2026-03-01T09:00"), utc("2026-03-01T10:00"));
         (*m_state)->events()->remove(local.id);
         m_scheduler->runForceFullSync();
+        QTRY_COMPARE((*m_state)->events()->getByUid(u"a"_s, id)->title, u"Theirs"_s);
         waitForRound();
-        QCOMPARE((*m_state)->events()->getByUid(u"a"_s, id)->title, u"Theirs"_s);
         QCOMPARE(m_server->objects().keys().join(' '), QByteArray("a.ics new.ics"));
         QVERIFY((*m_state)->events()->getById(local.id)->deletedAt);
     }
