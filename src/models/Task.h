@@ -42,6 +42,8 @@ struct Task {
     QList<Reminder> reminders;
 
     [[nodiscard]] bool isCompleted() const { return status == TaskStatus::Completed; }
+    /// True if the date it repeats from, due else start, is a day: then its rule ends with a day too.
+    [[nodiscard]] bool repeatsByDay() const { return dueDate ? dueIsDateOnly : startIsDateOnly; }
 
     bool operator==(const Task &) const = default;
 };

@@ -118,15 +118,18 @@ QDateTime nextOccurrence(const Task &task)
 // Moves a repeating task on to its next date. False, and unchanged, if there is none.
 bool advance(Task &task)
 {
+    if (!task.dueDate && !task.startDate)
+        return false; // with nothing to move, it could never be completed
     const QDateTime next = nextOccurrence(task);
     if (!next.isValid())
         return false;
     if (task.dueDate)
         task.dueDate = repeated(next, task.dueIsDateOnly);
-    else if (task.startDate)
+    else
         task.startDate = repeated(next, task.startIsDateOnly);
     task.status = TaskStatus::NeedsAction;
     task.percentComplete = 0;
+    task.completedDate.reset();
     return true;
 }
 

@@ -59,7 +59,7 @@ void MainMenus::buildFileMenu()
              m_window->openNewCalendarDialog();
          } }));
     menu->addAction(m_table->add(
-        { .id = QStringLiteral("calendarAccounts"), .group = group, .text = tr("Calendar &Accounts…"), .run = [this] {
+        { .id = QStringLiteral("calendarAccounts"), .group = group, .text = tr("Calendar Acc&ounts…"), .run = [this] {
              m_window->openCalendarAccounts();
          } }));
     menu->addSeparator();

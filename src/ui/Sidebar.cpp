@@ -5,9 +5,9 @@
 #include "storage/CalendarRepository.h"
 #include "storage/ViewRepository.h"
 #include "ui/CalendarListWidget.h"
-#include "ui/ElidedLabel.h"
 #include "ui/accounts/CalendarFormDialog.h"
 #include "ui/surfaces/MiniMonthCalendar.h"
+#include "ui/theme/ElidedLabel.h"
 #include "ui/theme/Theme.h"
 #include "ui/theme/ThemeManager.h"
 

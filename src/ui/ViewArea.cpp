@@ -6,7 +6,6 @@
 #include "storage/EventRepository.h"
 #include "storage/FilterRuleRepository.h"
 #include "storage/ViewRepository.h"
-#include "ui/ElidedLabel.h"
 #include "ui/GroupButton.h"
 #include "ui/ModeBar.h"
 #include "ui/ViewModes.h"
@@ -14,6 +13,7 @@
 #include "ui/actions/TaskDropHandler.h"
 #include "ui/surfaces/DayView.h"
 #include "ui/surfaces/WeekView.h"
+#include "ui/theme/ElidedLabel.h"
 #include "ui/theme/Theme.h"
 
 #include <QApplication>

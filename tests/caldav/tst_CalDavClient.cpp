@@ -4,14 +4,11 @@
 #include "caldav/CredentialScope.h"
 
 #include "support/HttpServer.h"
+#include "support/SelfSigned.h"
 #include "support/TestData.h"
 
-#include <QProcess>
 #include <QSignalSpy>
-#include <QSslCertificate>
 #include <QSslConfiguration>
-#include <QSslKey>
-#include <QTemporaryDir>
 #include <QTestEventLoop>
 
 using namespace Qt::StringLiterals;
@@ -68,23 +65,6 @@ private:
 HttpServer::Reply redirectTo(const QUrl &url, int status = 302)
 {
     return { .status = status, .body = {}, .headers = { { "Location", url.toEncoded() } } };
-}
-
-// A certificate for "wire.test" that nobody has signed, and its key.
-QSslConfiguration selfSigned()
-{
-    const QTemporaryDir dir;
-    const QString key = dir.filePath(u"key"_s), certificate = dir.filePath(u"certificate"_s);
-    const QString options =
-        u"req -x509 -newkey ec -pkeyopt ec_paramgen_curve:P-256 -nodes -batch -subj /CN=wire.test"_s;
-    QProcess::execute(u"openssl"_s, options.split(u' ') + QStringList{ u"-keyout"_s, key, u"-out"_s, certificate });
-    QFile keyFile(key);
-    if (!keyFile.open(QIODevice::ReadOnly))
-        qFatal("openssl made no certificate");
-    QSslConfiguration tls;
-    tls.setLocalCertificate(QSslCertificate::fromPath(certificate).value(0));
-    tls.setPrivateKey(QSslKey(&keyFile, QSsl::Ec));
-    return tls;
 }
 
 }

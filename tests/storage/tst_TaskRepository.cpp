@@ -206,6 +206,8 @@ private slots:
         row("last one, from now", "FREQ=DAILY;COUNT=1", "fromCompletionDate");
         row("ended", "FREQ=DAILY;UNTIL=20260501T120000Z", "fromDueDate");
         row("unreadable", "FREQ=SOMETIMES", "fromDueDate");
+        row("undated", "FREQ=DAILY", "fromDueDate");
+        row("undated, from now", "FREQ=DAILY", "fromCompletionDate");
     }
     void completesWhatHasNoFurtherDate()
     {
@@ -214,6 +216,8 @@ private slots:
         task.recurrenceRule = rule;
         QFETCH(QString, repeatMode);
         task.repeatMode = repeatMode;
+        if (QByteArray(QTest::currentDataTag()).startsWith("undated"))
+            task.dueDate.reset();
         QVERIFY(m_tasks->insert(task));
         QVERIFY(m_tasks->setCompleted(u"t"_s, true));
         QVERIFY(storedTask().isCompleted());

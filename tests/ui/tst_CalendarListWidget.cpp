@@ -2,7 +2,7 @@
 #include "support/ScratchState.h"
 #include "ui/CalendarListWidget.h"
 #include "ui/CalendarMenu.h"
-#include "ui/ElidedLabel.h"
+#include "ui/theme/ElidedLabel.h"
 #include "ui/Sidebar.h"
 #include "ui/dialogs/Prompt.h"
 

@@ -8,8 +8,9 @@
 #include "ui/PlainKeyGuard.h"
 #include "ui/Sidebar.h"
 #include "ui/ViewArea.h"
-#include "ui/actions/EventDetailsPopover.h"
+#include "ui/accounts/CalDavConnectionDialog.h"
 #include "ui/accounts/CalendarFormDialog.h"
+#include "ui/actions/EventDetailsPopover.h"
 #include "ui/dialogs/ImportDialog.h"
 #include "ui/dialogs/Prompt.h"
 #include "ui/dialogs/WelcomeDialog.h"
@@ -187,8 +188,9 @@ private slots:
         QVERIFY(!action("importIcs")->isEnabled());
         QVERIFY(action("newCalendar")->isEnabled());
         page->findChild<QPushButton *>()->click();
+        QVERIFY(m_window->findChild<CalDavConnectionDialog *>());
+        action("newCalendar")->trigger();
         auto *dialog = m_window->findChild<CalendarFormDialog *>();
-        QVERIFY(dialog);
         dialog->findChild<QLineEdit *>()->setText(u"Home"_qs);
         dialog->accept();
         QVERIFY(m_window->viewArea()->isVisible());

@@ -28,11 +28,21 @@ bool isDone(const Task &task)
     return task.isCompleted() || task.status == TaskStatus::Cancelled;
 }
 
-auto orderOf(const Task &task)
+// When the time is up. A day lasts until it ends where the user is, as isOverdue() has it; before that and
+// after it come times. Days alone keep their order on any clock, and the one they are stored on is quick.
+qint64 dueMs(const Task &task, bool isAmongTimes)
+{
+    if (!task.dueDate)
+        return LLONG_MAX;
+    return task.dueIsDateOnly && isAmongTimes ? task.dueDate->date().endOfDay().toMSecsSinceEpoch()
+                                              : task.dueDate->toMSecsSinceEpoch();
+}
+
+auto orderOf(const Task &task, bool isAmongTimes)
 {
     // What is to be done comes first; then by date, what has none last; then by priority, none last.
-    const qint64 due = task.dueDate ? task.dueDate->toMSecsSinceEpoch() : LLONG_MAX;
-    return std::tuple(isDone(task), due, task.priority > 0 ? task.priority : INT_MAX, task.title, task.uid);
+    return std::tuple(isDone(task), dueMs(task, isAmongTimes), task.priority > 0 ? task.priority : INT_MAX, task.title,
+                      task.uid);
 }
 
 QList<TaskListing::Row> rowsOf(const QList<Task> &tasks)
@@ -96,7 +106,8 @@ bool TaskListing::isOverdue(const Task &task, QDate today)
 
 bool TaskListing::isBefore(const Task &a, const Task &b)
 {
-    return orderOf(a) < orderOf(b);
+    const bool isMixed = a.dueIsDateOnly != b.dueIsDateOnly;
+    return orderOf(a, isMixed) < orderOf(b, isMixed);
 }
 
 QList<TaskListing::Section> TaskListing::load(AppState *state, const Options &options, QDate today)

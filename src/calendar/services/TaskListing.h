@@ -21,6 +21,8 @@ struct Options {
 
 struct Row : TreeTask {
     bool isCutOff = false; ///< its parent is not in the list
+
+    bool operator==(const Row &) const = default;
 };
 
 struct Section {
@@ -35,7 +37,8 @@ bool matches(const Task &task, Filter filter, QDate today);
 /// Due before today, and neither completed nor cancelled.
 bool isOverdue(const Task &task, QDate today);
 
-/// How siblings without a place of their own are ordered: to do before done, then by due date and priority.
+/// How siblings without a place of their own are ordered: to do before done, then by due date and priority. On the
+/// user's clock: a date without a time comes after the times of its day.
 bool isBefore(const Task &a, const Task &b);
 
 /// The tasks of the visible calendars; no reminders. One section, or one for each calendar that has rows.

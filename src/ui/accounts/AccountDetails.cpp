@@ -80,15 +80,16 @@ void AccountDetails::buildForm()
     m_server = makeLabel();
     m_username = makeLabel();
     m_calendars = makeLabel();
-    m_sync = makeLabel();
+    m_lastSync = makeLabel();
     m_interval = new QComboBox;
+    m_interval->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_color = new ColorButton;
     m_enabled = new QCheckBox(tr("S&ync this account"));
     m_excluded = new QCheckBox(tr("E&xclude from cloud sync"));
     m_form->addRow(tr("Server"), m_server);
     m_form->addRow(tr("Username"), m_username);
     m_form->addRow(tr("Calendars"), m_calendars);
-    m_form->addRow(tr("State"), m_sync);
+    m_form->addRow(tr("Last sync"), m_lastSync);
     m_form->addRow(QString(), m_enabled);
     m_form->addRow(tr("Sync &interval"), m_interval);
     m_form->addRow(tr("C&olor"), m_color);
@@ -140,7 +141,6 @@ void AccountDetails::showAccount(const QString &accountId)
 void AccountDetails::showHealth(const AccountHealth &health)
 {
     using State = AccountHealth::State;
-    m_sync->setText(health.summary);
     m_message->showText(health.state == State::Failing ? InlineMessage::Kind::Problem : InlineMessage::Kind::Warning,
                         PlainText::breakLongWords(health.detail));
     m_needsPassword = health.state == State::PasswordMissing;
@@ -165,6 +165,7 @@ void AccountDetails::showSettings(const Account &account)
     m_username->setText(PlainText::breakLongWords(account.username));
     m_calendars->setText(names.isEmpty() ? tr("None")
                                          : PlainText::breakLongWords(QLocale().createSeparatedList(names)));
+    m_lastSync->setText(AccountHealth::lastSync(m_state, account));
     m_enabled->setChecked(account.enabled);
     m_excluded->setChecked(account.excludeFromSync);
     m_color->setColor(account.color);
@@ -173,7 +174,7 @@ void AccountDetails::showSettings(const Account &account)
     setRow(m_server, !account.serverUrl.isEmpty());
     setRow(m_username, !account.username.isEmpty());
     for (QWidget *field :
-         { static_cast<QWidget *>(m_sync), static_cast<QWidget *>(m_enabled), static_cast<QWidget *>(m_interval),
+         { static_cast<QWidget *>(m_lastSync), static_cast<QWidget *>(m_enabled), static_cast<QWidget *>(m_interval),
            static_cast<QWidget *>(m_color), static_cast<QWidget *>(m_excluded) })
         setRow(field, !isLocal);
     m_interval->setEnabled(account.enabled);

@@ -57,7 +57,7 @@ private:
     QLabel *m_server = nullptr;
     QLabel *m_username = nullptr;
     QLabel *m_calendars = nullptr;
-    QLabel *m_sync = nullptr;
+    QLabel *m_lastSync = nullptr;
     QComboBox *m_interval = nullptr;
     ColorButton *m_color = nullptr;
     QCheckBox *m_enabled = nullptr;

@@ -15,15 +15,6 @@ struct Text {
     Q_DECLARE_TR_FUNCTIONS(AccountHealth)
 };
 
-QString lastSync(AppState *state, const Account &account)
-{
-    if (!account.lastSyncTime)
-        return Text::tr("Not synced yet");
-    const QDateTime local = account.lastSyncTime->toLocalTime();
-    return Text::tr("Last sync: %1, %2", "date, time")
-        .arg(QLocale().toString(local.date(), QLocale::ShortFormat), TimeFormat::formatTime(state, local));
-}
-
 /// What the last run of each calendar left behind.
 QString calendarErrors(AppState *state, const Account &account)
 {
@@ -68,7 +59,18 @@ AccountHealth AccountHealth::of(AppState *state, const Account &account)
     errors.removeAll(QString());
     if (!errors.isEmpty())
         return { .state = State::Failing, .summary = Text::tr("Sync failed"), .detail = errors.join(u'\n') };
-    return { .state = State::Fine, .summary = lastSync(state, account), .detail = {} };
+    const QString summary =
+        account.lastSyncTime ? Text::tr("Last sync: %1").arg(lastSync(state, account)) : Text::tr("Not synced yet");
+    return { .state = State::Fine, .summary = summary, .detail = {} };
+}
+
+QString AccountHealth::lastSync(AppState *state, const Account &account)
+{
+    if (!account.lastSyncTime)
+        return Text::tr("Never");
+    const QDateTime local = account.lastSyncTime->toLocalTime();
+    return Text::tr("%1, %2", "date, time")
+        .arg(QLocale().toString(local.date(), QLocale::ShortFormat), TimeFormat::formatTime(state, local));
 }
 
 QString AccountHealth::typeName(const Account &account)

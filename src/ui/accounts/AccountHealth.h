@@ -23,5 +23,6 @@ struct AccountHealth {
     QString detail; ///< what went wrong, a line for each calendar; empty if nothing did
 
     static AccountHealth of(AppState *state, const Account &account);
+    static QString lastSync(AppState *state, const Account &account); ///< when that was, in local time
     static QString typeName(const Account &account);
 };

@@ -77,5 +77,6 @@ bool AccountSetup::store(AppState *state, const Account &account, const QList<Di
         pickedUrls.append(discovered.url);
     CalDavRediscover::accept(state, account.id, pickedUrls);
     CalDavRediscover::decline(state, account.id, leftUrls);
+    CalDavRediscover::upsertDiscoveredCalendars(state, account.id, picked);
     return savepoint.commit();
 }

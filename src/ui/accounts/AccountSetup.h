@@ -20,8 +20,8 @@ QString defaultName(const QString &serverUrl); ///< "CalDAV (dav.example.com)"
 /// The account's calendar at this address, which may by now have another host name or scheme.
 std::optional<Calendar> knownCalendar(AppState *state, const QString &accountId, const QString &url);
 
-/// Inserts or updates the account, inserts the calendars of \p picked that it has not got, and remembers that
-/// \p leftUrls are not wanted. All of it, or nothing and false.
+/// Inserts or updates the account, inserts the calendars of \p picked that it has not got, gives the others their
+/// present address, and remembers that \p leftUrls are not wanted. All of it, or nothing and false.
 bool store(AppState *state, const Account &account, const QList<CalDavParse::DiscoveredCalendar> &picked,
            const QStringList &leftUrls);
 

@@ -3,6 +3,7 @@
 #include "app/state/AppState.h"
 #include "caldav/CalDavRediscover.h"
 #include "storage/AccountRepository.h"
+#include "storage/CalendarRepository.h"
 #include "sync/SyncScheduler.h"
 #include "ui/accounts/AccountSetup.h"
 #include "ui/accounts/CalendarRemoval.h"
@@ -22,7 +23,7 @@
 
 namespace {
 
-constexpr int ListLines = 8;
+constexpr int ListLines = 7;
 
 }
 
@@ -46,10 +47,16 @@ CalDavConnectionDialog::CalDavConnectionDialog(AppState *state, const Account &a
     build(tr("Save"));
     showName(m_name, account.name);
     m_url->setText(account.serverUrl);
+    m_url->setCursorPosition(0);
     m_username->setText(account.username);
     m_password->edit()->setPlaceholderText(tr("Leave empty to keep the stored one"));
     m_lookup->setTrustedCertSha256(account.trustedCertSha256);
     chooseDefaultButton();
+}
+
+CalDavConnectionDialog::~CalDavConnectionDialog()
+{
+    m_url->disconnect(this); // losing the focus it would say once more that it was edited
 }
 
 void CalDavConnectionDialog::build(const QString &acceptText)
@@ -70,6 +77,7 @@ void CalDavConnectionDialog::build(const QString &acceptText)
 
     m_accept = addSaveButtons(acceptText);
     m_discover = addSideButton(tr("Discover Calendars"));
+    m_discover->setObjectName(QStringLiteral("discover"));
     chooseDefaultButton();
     connect(m_discover, &QPushButton::clicked, this, &CalDavConnectionDialog::onDiscoverClicked);
     connect(m_url, &QLineEdit::editingFinished, this, &CalDavConnectionDialog::readAddress);
@@ -90,6 +98,7 @@ void CalDavConnectionDialog::buildList()
     section->setBuddy(m_list);
     m_list->setAccessibleName(tr("Calendars"));
     m_list->setMinimumHeight(fontMetrics().lineSpacing() * ListLines);
+    m_list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // what is left over
     m_hint->setMinimumHeight(m_list->minimumHeight());
     body()->addWidget(m_list, 1);
     body()->addWidget(m_hint, 1);
@@ -178,7 +187,7 @@ void CalDavConnectionDialog::onFound(const QList<CalDavParse::DiscoveredCalendar
     m_list->clear();
     for (const CalDavParse::DiscoveredCalendar &calendar : calendars) {
         auto *item = new QListWidgetItem(calendar.displayName.simplified(), m_list);
-        item->setIcon(Theme::calendarDotIcon(calendar.color));
+        item->setIcon(Theme::calendarDotIcon(Theme::eventColor(calendar.color).name()));
         item->setToolTip(Theme::plainToolTip(calendar.url));
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         const bool wasLeft = m_editing && CalDavRediscover::isDeclined(m_state, m_original.id, calendar.url);
@@ -208,7 +217,7 @@ bool CalDavConnectionDialog::save()
     readAddress();
     if (!isReadyToStore())
         return false;
-    const QList<Calendar> removed = uncheckedCalendars();
+    const QList<Calendar> removed = unwantedCalendars();
     if (removed.isEmpty())
         store();
     else
@@ -242,15 +251,22 @@ bool CalDavConnectionDialog::isReadyToStore()
     return true;
 }
 
-QList<Calendar> CalDavConnectionDialog::uncheckedCalendars() const
+QList<Calendar> CalDavConnectionDialog::unwantedCalendars() const
 {
+    if (!m_editing || !m_hasFound)
+        return {};
     QList<Calendar> unchecked;
-    for (int row = 0; m_editing && row < m_list->count(); ++row) {
+    QList<Calendar> notFound = m_state->calendars()->getByAccount(m_original.id);
+    for (int row = 0; row < m_list->count(); ++row) {
         const auto known = AccountSetup::knownCalendar(m_state, m_original.id, m_found.at(row).url);
-        if (known && !isChecked(row))
+        if (!known)
+            continue;
+        notFound.removeIf([&known](const Calendar &calendar) { return calendar.id == known->id; });
+        if (!isChecked(row))
             unchecked.append(*known);
     }
-    return unchecked;
+    // Those of another server or login must not be asked for with the new password.
+    return leadsElsewhere() ? unchecked + notFound : unchecked;
 }
 
 void CalDavConnectionDialog::askToRemove(const QList<Calendar> &calendars)

@@ -25,6 +25,8 @@ public:
     explicit CalDavConnectionDialog(AppState *state, QWidget *parent = nullptr);
     CalDavConnectionDialog(AppState *state, const Account &account, QWidget *parent = nullptr);
 
+    ~CalDavConnectionDialog() override;
+
     void focusPassword(); ///< for an account that has lost it
     [[nodiscard]] QString resultAccountId() const { return m_resultId; } ///< of the account that was stored
 
@@ -45,7 +47,7 @@ private:
     [[nodiscard]] bool isChecked(int row) const;
     [[nodiscard]] bool leadsElsewhere() const;
     [[nodiscard]] bool isReadyToStore();
-    [[nodiscard]] QList<Calendar> uncheckedCalendars() const;
+    [[nodiscard]] QList<Calendar> unwantedCalendars() const;
     [[nodiscard]] Account enteredAccount(const Account &base) const;
     void askToRemove(const QList<Calendar> &calendars);
     void store();

@@ -59,14 +59,14 @@ void CalendarFormDialog::build()
     m_name = new QLineEdit(this);
     m_name->setMaxLength(MaxNameLength);
     m_name->setPlaceholderText(tr("Calendar name"));
-    m_color = new ColorButton(this);
-    m_description = new QPlainTextEdit(this);
-    m_description->setTabChangesFocus(true);
-    m_description->setFixedHeight(fontMetrics().lineSpacing() * 4 + 16);
     QFormLayout *form = addForm();
     form->addRow(tr("&Name"), m_name);
     if (!m_editing)
         addAccounts(form);
+    m_color = new ColorButton(this);
+    m_description = new QPlainTextEdit(this);
+    m_description->setTabChangesFocus(true);
+    m_description->setFixedHeight(fontMetrics().lineSpacing() * 4 + 16);
     form->addRow(tr("&Color"), m_color);
     form->addRow(tr("&Description"), m_description);
     if (m_editing)

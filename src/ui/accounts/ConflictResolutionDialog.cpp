@@ -46,14 +46,14 @@ ConflictResolutionDialog::ConflictResolutionDialog(AppState *state, QWidget *par
     body()->addWidget(text);
     m_list->setAccessibleName(windowTitle());
     m_list->setMinimumHeight(fontMetrics().lineSpacing() * ListLines);
+    m_list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // what is left over
     m_empty->setAlignment(Qt::AlignCenter);
     body()->addWidget(m_list, 1);
     body()->addWidget(m_empty, 1);
     buildPanels();
     buildButtons();
     addCloseButton();
-    const int lineHeight = fontMetrics().height();
-    resize(qMax(640, lineHeight * 40), qMax(480, lineHeight * 26));
+    m_panels->setMinimumWidth(fontMetrics().height() * 36);
 
     connect(m_list, &QListWidget::currentRowChanged, this, &ConflictResolutionDialog::showConflict);
     connect(state->conflicts(), &Sync::ConflictResolutionService::conflictsChanged, this,
@@ -118,7 +118,7 @@ void ConflictResolutionDialog::rebuildList()
         auto *item = new QListWidgetItem(EventText::title(conflict.local), m_list);
         item->setData(IdRole, conflict.id);
     }
-    m_list->setCurrentRow(qBound(0, oldRow, m_list->count() - 1));
+    m_list->setCurrentRow(qMin(qMax(0, oldRow), m_list->count() - 1));
     m_list->setVisible(!conflicts.isEmpty());
     m_empty->setVisible(conflicts.isEmpty());
     showConflict(m_list->currentRow());
@@ -137,6 +137,7 @@ void ConflictResolutionDialog::showConflict(int row)
     m_heading->setText(tr("Conflict: %1").arg(EventText::title(conflict.local)));
     m_local->setText(describe(conflict.local));
     m_remote->setText(describe(conflict.remote));
+    growToFit();
 }
 
 QString ConflictResolutionDialog::describe(const Event &event) const

@@ -50,9 +50,6 @@ ManageSourcesDialog::ManageSourcesDialog(AppState *state, QWidget *parent)
     row->addWidget(m_details, 3);
     body()->addLayout(row, 1);
     addCloseButton();
-    const int lineHeight = fontMetrics().height();
-    resize(qMax(720, lineHeight * 44), qMax(480, lineHeight * 28));
-
     connect(m_details, &AccountDetails::editRequested, this, [this] { editCurrent(false); });
     connect(m_details, &AccountDetails::passwordRequested, this, [this] { editCurrent(true); });
     connect(m_details, &AccountDetails::refreshRequested, this, &ManageSourcesDialog::refreshCurrent);
@@ -77,6 +74,9 @@ void ManageSourcesDialog::buildList()
     m_list->setAccessibleName(tr("Accounts"));
     m_list->setItemDelegate(new TwoLineDelegate(m_list));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const int lineHeight = fontMetrics().height();
+    m_list->setMinimumSize(lineHeight * 11, lineHeight * 12);
+    m_details->setMinimumWidth(lineHeight * 22);
     m_add->setAutoDefault(false);
     connect(m_list, &QListWidget::currentRowChanged, this, &ManageSourcesDialog::showCurrent);
     connect(m_list, &QListWidget::itemDoubleClicked, this, [this] { editCurrent(false); });
@@ -108,7 +108,7 @@ void ManageSourcesDialog::refill()
             m_list->setCurrentItem(item);
     }
     if (m_list->currentRow() < 0)
-        m_list->setCurrentRow(qBound(0, oldRow, m_list->count() - 1));
+        m_list->setCurrentRow(qMin(qMax(0, oldRow), m_list->count() - 1));
     showCurrent();
 }
 
@@ -130,6 +130,7 @@ void ManageSourcesDialog::showCurrent()
 {
     m_details->showAccount(currentId());
     m_details->setRefreshing(!m_refreshedId.isEmpty() && m_refreshedId == currentId());
+    growToFit();
 }
 
 void ManageSourcesDialog::openAddMenu()

@@ -9,13 +9,11 @@ ServerAddress ServerAddress::read(const QString &typed)
         return {};
     // Not by QUrl: it takes "localhost:5232" and "alice:pw@example.com" for a scheme and a path.
     const bool hasScheme = text.contains(QLatin1StringView("://"));
-    QUrl url(hasScheme ? text : QStringLiteral("https://") + text);
+    const QString whole = hasScheme ? text : QStringLiteral("https://") + text;
+    const QUrl url(whole);
     if (!url.isValid() || url.host().isEmpty())
         return { .url = text, .username = {}, .password = {} };
-    ServerAddress address;
-    address.username = url.userName(QUrl::FullyDecoded);
-    address.password = url.password(QUrl::FullyDecoded);
-    url.setUserInfo(QString());
-    address.url = url.toString();
-    return address;
+    return { .url = url.userInfo().isEmpty() ? whole : url.toString(QUrl::RemoveUserInfo),
+             .username = url.userName(QUrl::FullyDecoded),
+             .password = url.password(QUrl::FullyDecoded) };
 }

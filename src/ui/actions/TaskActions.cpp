@@ -1,6 +1,7 @@
 #include "ui/actions/TaskActions.h"
 
 #include "app/state/AppState.h"
+#include "calendar/services/TaskText.h"
 #include "storage/TaskRepository.h"
 #include "ui/actions/Later.h"
 #include "ui/actions/TaskDetailsPopover.h"
@@ -86,7 +87,9 @@ void TaskActions::remove(const QString &id)
     const auto task = liveTask(m_state, id);
     if (!task)
         return;
-    later(this, [this, id, title = task->title] {
+    if (TaskEdits::isReadOnly(m_state, *task))
+        return report(TaskEdits::remove(m_state, id)); // refuses, and says why
+    later(this, [this, id, title = TaskText::title(*task)] {
         Prompt::question(m_window, tr("Delete task?"), tr("Delete \"%1\"? Its subtasks stay.").arg(title), this,
                          [this, id] { report(TaskEdits::remove(m_state, id)); });
     });
@@ -112,7 +115,8 @@ void TaskActions::showContextMenu(const QString &id, const QPoint &globalPos)
     menu->addAction(task->isCompleted() ? tr("Mark as Not Completed") : tr("Mark as Completed"), this,
                     [this, id, done = !task->isCompleted()] { setCompleted(id, done); })
         ->setEnabled(isWritable);
-    menu->addAction(tr("Add Subtask…"), this, [this, id] { createSubtask(id); })->setEnabled(isWritable);
+    menu->addAction(tr("Add Subtask…"), this, [this, id] { createSubtask(id); })
+        ->setEnabled(TaskEdits::writableCalendarIds(m_state).contains(task->calendarId));
     menu->addSeparator();
     menu->addAction(tr("Delete"), this, [this, id] { remove(id); })->setEnabled(isWritable);
     menu->popup(globalPos);

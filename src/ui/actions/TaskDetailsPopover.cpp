@@ -14,6 +14,7 @@
 #include "ui/actions/DetailGlyphs.h"
 #include "ui/theme/Theme.h"
 
+#include <QLabel>
 #include <QPushButton>
 
 namespace {
@@ -68,13 +69,19 @@ void TaskDetailsPopover::populate()
 
 void TaskDetailsPopover::addDates()
 {
+    // The two look alike: each says which it is.
+    const auto add = [this](const QString &name, const QDateTime &date, bool isDateOnly) {
+        const QString text = DetailsPopover::tr("%1: %2", "kind of detail, its text")
+                                 .arg(name, TaskText::date(m_state, date, isDateOnly));
+        addLine(DetailGlyphs::Clock, name, text)->setAccessibleName(text);
+    };
     if (m_task.dueDate)
-        addLine(DetailGlyphs::Clock, tr("Due"), TaskText::date(m_state, *m_task.dueDate, m_task.dueIsDateOnly));
+        add(tr("Due"), *m_task.dueDate, m_task.dueIsDateOnly);
     if (m_task.startDate)
-        addLine(DetailGlyphs::Clock, tr("Starts"), TaskText::date(m_state, *m_task.startDate, m_task.startIsDateOnly));
+        add(tr("Starts"), *m_task.startDate, m_task.startIsDateOnly);
     if (!m_task.recurrenceRule.isEmpty())
         addLine(DetailGlyphs::Repeat, tr("Repeats"),
-                RruleFormat::humanReadable(RuleEnd::asDay(m_task.recurrenceRule, m_task.dueIsDateOnly)));
+                RruleFormat::humanReadable(RuleEnd::asDay(m_task.recurrenceRule, m_task.repeatsByDay())));
     QStringList reminders;
     for (const Reminder &reminder : std::as_const(m_task.reminders))
         reminders.append(RruleFormat::humanReadableReminder(reminder.minutesBefore));

@@ -19,6 +19,7 @@
 namespace {
 
 constexpr qint64 EventSeconds = 3600;
+constexpr int MessageMs = 5000;
 
 struct Drop {
     Q_DECLARE_TR_FUNCTIONS(TaskDropHandler)
@@ -72,7 +73,7 @@ QString Drop::whenText() const
 void Drop::say(const QString &text) const
 {
     if (auto *window = qobject_cast<QMainWindow *>(parent->window()))
-        window->statusBar()->showMessage(text);
+        window->statusBar()->showMessage(text, MessageMs);
 }
 
 void showMenu(const Drop &drop, const QPoint &globalPos)

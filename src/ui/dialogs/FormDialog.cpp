@@ -250,7 +250,7 @@ void FormDialog::addCloseButton()
 
 void FormDialog::showProblem(const QString &text, QWidget *at)
 {
-    m_message->showText(InlineMessage::Kind::Problem, text);
+    showMessage(InlineMessage::Kind::Problem, text);
     if (at)
         at->setFocus(Qt::OtherFocusReason);
 }
@@ -262,7 +262,21 @@ void FormDialog::clearProblem()
 
 void FormDialog::showStatus(const QString &text)
 {
-    m_message->showText(InlineMessage::Kind::Information, text);
+    showMessage(InlineMessage::Kind::Information, text);
+}
+
+void FormDialog::showMessage(InlineMessage::Kind kind, const QString &text)
+{
+    m_message->showText(kind, text);
+    growToFit();
+}
+
+void FormDialog::growToFit()
+{
+    if (!isVisible())
+        return;
+    layout()->activate();
+    resize(size().expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
 }
 
 void FormDialog::setBusy(bool busy)

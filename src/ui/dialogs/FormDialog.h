@@ -1,10 +1,11 @@
 #pragma once
 
+#include "ui/dialogs/InlineMessage.h"
+
 #include <QDialog>
 #include <QPointer>
 #include <QString>
 
-class InlineMessage;
 class QDialogButtonBox;
 class QFormLayout;
 class QLabel;
@@ -56,6 +57,7 @@ protected:
     void showEvent(QShowEvent *event) override;
     void showProblem(const QString &text, QWidget *at); ///< and puts the focus on \p at
     void clearProblem();
+    void growToFit(); ///< after the content of a visible form has got more
     /// How work that takes a while goes on, in the place of the error.
     void showStatus(const QString &text);
     /// While work is under way the form can be read and closed, and neither changed nor accepted.
@@ -63,6 +65,7 @@ protected:
     [[nodiscard]] bool isBusy() const { return m_busy; }
 
 private:
+    void showMessage(InlineMessage::Kind kind, const QString &text);
     [[nodiscard]] QString messageText(bool isProblem) const;
 
     QVBoxLayout *m_body;

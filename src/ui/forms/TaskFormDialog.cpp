@@ -36,6 +36,22 @@ constexpr int MediumPriority = 5;
 constexpr int LowPriority = 9;
 constexpr int MaxParents = 500; // more would be no list to choose from
 
+bool hasChangedDates(const Task &before, const Task &after)
+{
+    return before.dueDate != after.dueDate || before.startDate != after.startDate
+        || before.dueIsDateOnly != after.dueIsDateOnly || before.startIsDateOnly != after.startIsDateOnly;
+}
+
+// A day without a time begins before all of its times and ends after them.
+bool isDueBeforeStart(const Task &task)
+{
+    if (!task.dueDate || !task.startDate)
+        return false;
+    if (!task.dueIsDateOnly && !task.startIsDateOnly)
+        return *task.dueDate < *task.startDate;
+    return TaskText::day(*task.dueDate, task.dueIsDateOnly) < TaskText::day(*task.startDate, task.startIsDateOnly);
+}
+
 }
 
 TaskFormDialog::TaskFormDialog(AppState *state, QWidget *parent)
@@ -44,6 +60,7 @@ TaskFormDialog::TaskFormDialog(AppState *state, QWidget *parent)
 {
     build();
     prefill(m_shown);
+    connectControls();
     addSaveButtons(tr("Create task"));
     m_baseline = edited();
 }
@@ -57,6 +74,7 @@ TaskFormDialog::TaskFormDialog(AppState *state, const Task &task, QWidget *paren
 {
     build();
     prefill(task);
+    connectControls();
     if (m_isReadOnly)
         setReadOnly();
     else
@@ -66,9 +84,10 @@ TaskFormDialog::TaskFormDialog(AppState *state, const Task &task, QWidget *paren
 
 void TaskFormDialog::setParentTask(const Task &parentTask)
 {
+    m_shown.parentTaskUid = parentTask.uid;
+    m_chosenParentUid = parentTask.uid;
     m_calendar->select(parentTask.calendarId);
     populateParents();
-    m_parent->setCurrentIndex(std::max(0, m_parent->findData(parentTask.uid)));
     m_baseline = edited();
 }
 
@@ -91,7 +110,6 @@ void TaskFormDialog::build()
     form->addRow(tr("Color"), m_color);
     form->addRow(tr("&Notes"), m_notes);
     body()->addStretch();
-    connectControls();
     m_title->setFocus();
 }
 
@@ -153,6 +171,7 @@ void TaskFormDialog::connectControls()
         m_color->setCalendarColor(m_calendar->calendarColor());
         populateParents();
     });
+    connect(m_parent, &QComboBox::activated, this, [this] { m_chosenParentUid = m_parent->currentData().toString(); });
     connect(m_status, &QComboBox::activated, this, &TaskFormDialog::onStatusChosen);
     connect(m_progress, &QSpinBox::valueChanged, this, &TaskFormDialog::onProgressChanged);
     connect(m_due, &OptionalDateField::changed, this, &TaskFormDialog::onDueChanged);
@@ -176,7 +195,6 @@ void TaskFormDialog::populateCalendars()
 // A task may hang below any other of its calendar, but not below itself or what hangs below it.
 void TaskFormDialog::populateParents()
 {
-    const QString before = m_parent->currentData().toString();
     m_parent->clear();
     m_parent->addItem(tr("No other task"), QString());
     const QList<TreeTask> tasks = TaskTree::flatten(m_state->tasks()->getByCalendar(m_calendar->calendarId()), {});
@@ -185,13 +203,14 @@ void TaskFormDialog::populateParents()
         if (ownDepth >= 0 && task.depth > ownDepth)
             continue;
         ownDepth = !m_isNew && task.uid == m_shown.uid ? task.depth : -1;
-        const bool isOffered = task.itemType == QLatin1StringView("task") && !task.isCompleted();
+        const bool isOffered =
+            task.itemType == QLatin1StringView("task") && !task.isCompleted() && m_parent->count() <= MaxParents;
         const bool isCurrent = task.uid == m_shown.parentTaskUid;
-        if (ownDepth >= 0 || !(isOffered || isCurrent) || m_parent->count() > MaxParents)
+        if (ownDepth >= 0 || !(isOffered || isCurrent))
             continue;
         m_parent->addItem(QString(task.depth * 2, u' ') + TaskText::title(task), task.uid);
     }
-    m_parent->setCurrentIndex(std::max(0, m_parent->findData(before)));
+    m_parent->setCurrentIndex(std::max(0, m_parent->findData(m_chosenParentUid)));
 }
 
 void TaskFormDialog::prefill(const Task &task)
@@ -199,11 +218,11 @@ void TaskFormDialog::prefill(const Task &task)
     m_title->setText(task.title);
     m_color->setCalendarColor(m_calendar->calendarColor());
     m_color->setColor(task.color);
+    m_chosenParentUid = task.parentTaskUid;
     populateParents();
-    m_parent->setCurrentIndex(std::max(0, m_parent->findData(task.parentTaskUid)));
     m_due->setValue(task.dueDate, task.dueIsDateOnly);
     m_start->setValue(task.startDate, task.startIsDateOnly);
-    m_repeat->setRule(RuleEnd::asDay(task.recurrenceRule, task.dueIsDateOnly));
+    m_repeat->setRule(RuleEnd::asDay(task.recurrenceRule, task.repeatsByDay()));
     m_repeatMode->setCurrentIndex(std::max(0, m_repeatMode->findData(task.repeatMode)));
     QList<int> minutes;
     for (const Reminder &reminder : task.reminders)
@@ -242,7 +261,7 @@ void TaskFormDialog::onStatusChosen()
     const QString status = m_status->currentData().toString();
     if (status == TaskStatus::Completed)
         m_progress->setValue(100);
-    else if (m_progress->value() == 100)
+    else if (status == TaskStatus::NeedsAction || m_progress->value() == 100)
         m_progress->setValue(0);
 }
 
@@ -290,8 +309,9 @@ Task TaskFormDialog::edited() const
     task.startDate = m_start->value();
     task.startIsDateOnly = m_start->isDateOnly();
     const QString rule = m_repeat->rule();
-    if (rule != RuleEnd::asDay(m_shown.recurrenceRule, m_shown.dueIsDateOnly))
-        task.recurrenceRule = task.dueIsDateOnly ? rule : RuleEnd::asInstant(rule);
+    const bool byDay = task.repeatsByDay();
+    if (byDay != m_shown.repeatsByDay() || rule != RuleEnd::asDay(m_shown.recurrenceRule, byDay))
+        task.recurrenceRule = byDay ? rule : RuleEnd::asInstant(rule);
     task.repeatMode = m_repeatMode->currentData().toString();
     task.reminders = ReminderList::withMinutes(m_shown.reminders, m_reminders->minutes());
     task.priority = m_priority->currentData().toInt();
@@ -320,7 +340,7 @@ bool TaskFormDialog::save()
         showProblem(tr("No calendar can hold tasks. Create a local calendar first."), m_calendar);
         return false;
     }
-    if (task.dueDate && task.startDate && *task.dueDate < *task.startDate) {
+    if (hasChangedDates(m_baseline, task) && isDueBeforeStart(task)) {
         showProblem(tr("The task is due before it starts."), m_due);
         return false;
     }

@@ -53,6 +53,7 @@ private:
     bool m_isNew = true;
     bool m_isReadOnly = false;
     QString m_taskId;
+    QString m_chosenParentUid; // also while another calendar, which does not hold it, is chosen
 
     QLineEdit *m_title = nullptr;
     CalendarCombo *m_calendar = nullptr;

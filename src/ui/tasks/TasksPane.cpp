@@ -6,9 +6,11 @@
 #include "storage/TaskRepository.h"
 #include "storage/ViewRepository.h"
 #include "ui/actions/TaskActions.h"
+#include "ui/theme/ElidedLabel.h"
 #include "ui/theme/Theme.h"
 
 #include <QActionGroup>
+#include <QCursor>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
@@ -20,12 +22,16 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
-constexpr int RowsPerSlice = 60;
+constexpr int LinesPerSlice = 60; // new ones or moved ones; what stays costs next to nothing
 constexpr int MarginPx = 12;
+constexpr int DragScrollMs = 30;
+constexpr int DragScrollPx = 8; // each time
+constexpr int DragEdgePx = 24; // at the top and the bottom
 const QString FilterKey = QStringLiteral("ui/tasksFilter");
 const QString GroupKey = QStringLiteral("ui/tasksGroupByCalendar");
 const QString HideKey = QStringLiteral("ui/tasksHideCompleted");
@@ -68,7 +74,9 @@ TasksPane::TasksPane(AppState *state, TaskActions *actions, QWidget *parent)
     , m_actions(actions)
     , m_reloadTimer(new QTimer(this))
     , m_sliceTimer(new QTimer(this))
+    , m_dragScrollTimer(new QTimer(this))
     , m_scroll(new QScrollArea)
+    , m_list(new QVBoxLayout)
 {
     PreferencesRepository *preferences = state->preferences();
     m_options.filter = filterFromName(preferences->get(FilterKey, QStringLiteral("all")));
@@ -87,6 +95,12 @@ TasksPane::TasksPane(AppState *state, TaskActions *actions, QWidget *parent)
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setFocusPolicy(Qt::NoFocus);
     column->addWidget(m_scroll, 1);
+    auto *content = new QWidget;
+    m_list->setContentsMargins(0, 0, 0, 0);
+    m_list->setSpacing(0);
+    m_list->addStretch();
+    content->setLayout(m_list);
+    m_scroll->setWidget(content);
     for (QTimer *timer : { m_reloadTimer, m_sliceTimer }) {
         timer->setSingleShot(true);
         timer->setInterval(0);
@@ -96,6 +110,8 @@ TasksPane::TasksPane(AppState *state, TaskActions *actions, QWidget *parent)
             reload();
     });
     connect(m_sliceTimer, &QTimer::timeout, this, &TasksPane::buildSlice);
+    m_dragScrollTimer->setInterval(DragScrollMs);
+    connect(m_dragScrollTimer, &QTimer::timeout, this, &TasksPane::scrollWhileDragging);
     connectSources();
 }
 
@@ -117,16 +133,16 @@ QWidget *TasksPane::buildToolbar()
     auto *menu = new QMenu(m_filterButton);
     buildFilterMenu(menu);
     m_filterButton->setMenu(menu);
-    auto *add = new QToolButton;
-    add->setAutoRaise(true);
-    add->setText(QStringLiteral("+"));
-    add->setToolTip(tr("New task"));
-    add->setAccessibleName(tr("New task"));
-    add->setFocusPolicy(Qt::TabFocus);
-    connect(add, &QToolButton::clicked, m_actions, &TaskActions::create);
+    m_addButton = new QToolButton;
+    m_addButton->setAutoRaise(true);
+    m_addButton->setText(QStringLiteral("+"));
+    m_addButton->setToolTip(tr("New task"));
+    m_addButton->setAccessibleName(tr("New task"));
+    m_addButton->setFocusPolicy(Qt::TabFocus);
+    connect(m_addButton, &QToolButton::clicked, m_actions, &TaskActions::create);
     row->addWidget(title, 1);
     row->addWidget(m_filterButton);
-    row->addWidget(add);
+    row->addWidget(m_addButton);
     showFilterName();
     return bar;
 }
@@ -204,6 +220,8 @@ void TasksPane::showFilterName()
         if (action->data().isValid() && Filter(action->data().toInt()) == m_options.filter)
             m_filterButton->setText(action->text());
     }
+    //: %1 is the name of a filter
+    m_filterButton->setAccessibleName(tr("Filter tasks: %1").arg(m_filterButton->text()));
 }
 
 void TasksPane::storeFlag(bool *flag, bool on, const QString &key)
@@ -237,18 +255,12 @@ void TasksPane::setShowCategories(bool on)
 void TasksPane::reload()
 {
     m_isStale = false;
-    m_scrolledTo = m_scroll->verticalScrollBar()->value();
-    for (const TasksPaneRow *row : std::as_const(m_rows)) {
-        if (row->hasFocus())
-            m_focusedTaskId = row->row().id;
-    }
     m_sections = TaskListing::load(m_state, m_options, QDate::currentDate());
     m_calendarColors.clear();
     const QList<Calendar> calendars = m_state->calendars()->getAll();
     for (const Calendar &calendar : calendars)
         m_calendarColors.insert(calendar.id, calendar.color);
     m_syncableCalendarIds = m_state->syncableCalendarIds();
-    setUpdatesEnabled(false);
     clearContent();
     for (int section = 0; section < m_sections.size(); ++section) {
         if (!m_sections.at(section).calendarId.isEmpty())
@@ -259,62 +271,99 @@ void TasksPane::reload()
     if (m_pending.isEmpty())
         buildEmptyState();
     buildSlice();
-    setUpdatesEnabled(true);
 }
 
+// The rows stay where they are until the new list has placed them.
 void TasksPane::clearContent()
 {
     m_sliceTimer->stop();
     m_pending.clear();
+    m_placed = 0;
+    for (TasksPaneRow *row : std::as_const(m_rows))
+        m_oldRows.insert(row->row().id, row);
     m_rows.clear();
-    auto *content = new QWidget;
-    m_list = new QVBoxLayout(content);
-    m_list->setContentsMargins(0, 0, 0, 0);
-    m_list->setSpacing(0);
-    m_list->addStretch();
-    // A row may be the origin of the signal that led here, so the old ones go later.
-    if (QWidget *old = m_scroll->takeWidget()) {
-        old->hide();
-        old->deleteLater();
-    }
-    m_scroll->setWidget(content);
+    for (QWidget *line : std::as_const(m_otherLines))
+        discard(line);
+    m_otherLines.clear();
 }
 
 void TasksPane::buildSlice()
 {
-    const qsizetype count = std::min<qsizetype>(RowsPerSlice, m_pending.size());
-    for (qsizetype i = 0; i < count; ++i) {
-        const TaskListing::Section &section = m_sections.at(m_pending.at(i).section);
-        const int row = m_pending.at(i).row;
-        QWidget *line = row < 0 ? buildSectionHeader(section.title, section.color, int(section.rows.size()))
-                                : buildRow(section.rows.at(row));
-        m_list->insertWidget(m_list->count() - 1, line);
+    m_list->setEnabled(false); // else each row that shows would lay out all the others
+    for (int moved = 0; moved < LinesPerSlice && !m_pending.isEmpty();) {
+        const Pending next = m_pending.takeFirst();
+        const TaskListing::Section &section = m_sections.at(next.section);
+        if (next.row >= 0) {
+            moved += placeRow(section.rows.at(next.row)) ? 1 : 0;
+        } else {
+            m_otherLines.append(buildSectionHeader(section.title, section.color, int(section.rows.size())));
+            moved += place(m_otherLines.constLast()) ? 1 : 0;
+        }
     }
-    m_pending.remove(0, count);
-    if (!m_pending.isEmpty())
-        return m_sliceTimer->start();
-    m_focusedTaskId.clear();
-    m_scroll->widget()->adjustSize();
-    m_scroll->verticalScrollBar()->setValue(m_scrolledTo);
+    if (m_pending.isEmpty()) {
+        for (TasksPaneRow *row : std::as_const(m_oldRows))
+            discard(row);
+        m_oldRows.clear();
+    } else {
+        m_sliceTimer->start();
+    }
+    m_list->setEnabled(true);
 }
 
-TasksPaneRow *TasksPane::buildRow(const TaskListing::Row &row)
+// Later, as it may be the origin of the signal that led here.
+void TasksPane::discard(QWidget *line)
+{
+    m_list->removeWidget(line);
+    line->hide();
+    line->deleteLater();
+}
+
+bool TasksPane::place(QWidget *line)
+{
+    const int index = m_placed++;
+    if (m_list->itemAt(index)->widget() == line)
+        return false;
+    m_list->removeWidget(line);
+    m_list->insertWidget(index, line);
+    line->show();
+    return true;
+}
+
+bool TasksPane::placeRow(const TaskListing::Row &row)
 {
     const QString color = row.color.isEmpty() ? m_calendarColors.value(row.calendarId) : row.color;
     const bool waits = row.syncStatus == SyncStatus::Pending && m_syncableCalendarIds.contains(row.calendarId);
-    auto *widget = new TasksPaneRow(m_state, row, { m_showNotes, m_showCategories, waits, color });
+    const TasksPaneRow::Look look{ m_showNotes, m_showCategories, waits, color };
+    QWidget *before = m_rows.isEmpty() ? static_cast<QWidget *>(m_addButton) : m_rows.constLast();
+    if (TasksPaneRow *known = m_oldRows.take(row.id)) {
+        known->setRow(row, look);
+        m_rows.append(known);
+    } else {
+        m_rows.append(buildRow(row, look));
+    }
+    if (!place(m_rows.constLast()))
+        return false;
+    setTabOrder(before, m_rows.constLast()); // the key goes where the eye goes
+    return true;
+}
+
+TasksPaneRow *TasksPane::buildRow(const TaskListing::Row &row, const TasksPaneRow::Look &look)
+{
+    auto *widget = new TasksPaneRow(m_state, row, look);
     widget->setDraggable(true);
     connect(widget, &TasksPaneRow::rowSelected, m_actions, &TaskActions::open);
     connect(widget, &TasksPaneRow::rowActivated, m_actions, &TaskActions::edit);
     connect(widget, &TasksPaneRow::contextRequested, m_actions, &TaskActions::showContextMenu);
     connect(widget, &TasksPaneRow::completionToggled, m_actions, &TaskActions::setCompleted);
     connect(widget, &TasksPaneRow::deleteRequested, m_actions, &TaskActions::remove);
+    connect(widget, &TasksPaneRow::draggedOver, this, [this] {
+        if (!m_dragScrollTimer->isActive())
+            m_dragScrollTimer->start();
+    });
+    connect(widget, &TasksPaneRow::dragEnded, m_dragScrollTimer, &QTimer::stop);
     connect(widget, &TasksPaneRow::taskDropped, this, &TasksPane::onTaskDropped);
     connect(widget, &TasksPaneRow::walkRequested, this, &TasksPane::onWalk);
-    m_rows.append(widget);
-    if (row.id == m_focusedTaskId)
-        QMetaObject::invokeMethod(
-            widget, [widget] { widget->setFocus(); }, Qt::QueuedConnection);
+    connect(widget, &TasksPaneRow::moveRequested, this, &TasksPane::onMove);
     return widget;
 }
 
@@ -325,8 +374,8 @@ QWidget *TasksPane::buildSectionHeader(const QString &title, const QString &colo
     row->setContentsMargins(MarginPx, MarginPx, MarginPx, MarginPx / 3);
     auto *dot = new QLabel;
     dot->setPixmap(Theme::calendarDotIcon(color.isEmpty() ? NoCalendarColor : color).pixmap(12, 12));
-    auto *name = new QLabel(title);
-    name->setTextFormat(Qt::PlainText);
+    auto *name = new ElidedLabel;
+    name->setText(title);
     QFont font = name->font();
     font.setBold(true);
     name->setFont(font);
@@ -373,17 +422,49 @@ void TasksPane::buildEmptyState()
         connect(add, &QPushButton::clicked, m_actions, &TaskActions::create);
         column->addWidget(add, 0, Qt::AlignHCenter);
     }
-    m_list->insertWidget(0, box);
+    m_otherLines.append(box);
+    place(box);
 }
 
 void TasksPane::onWalk(int step)
 {
     const auto index = m_rows.indexOf(static_cast<TasksPaneRow *>(sender()));
-    const qsizetype next = index + step;
-    if (index < 0 || next < 0 || next >= m_rows.size())
+    if (index < 0)
         return;
+    const qsizetype next = std::clamp<qsizetype>(index + step, 0, m_rows.size() - 1);
     m_rows.at(next)->setFocus(step > 0 ? Qt::TabFocusReason : Qt::BacktabFocusReason);
     m_scroll->ensureWidgetVisible(m_rows.at(next), 0, 0);
+}
+
+// Where the pointer stays at the edge: what is beyond comes nearer.
+void TasksPane::scrollWhileDragging()
+{
+    const QWidget *viewport = m_scroll->viewport();
+    const int y = viewport->mapFromGlobal(QCursor::pos()).y();
+    QScrollBar *bar = m_scroll->verticalScrollBar();
+    if (y < DragEdgePx)
+        bar->setValue(bar->value() - DragScrollPx);
+    else if (y >= viewport->height() - DragEdgePx)
+        bar->setValue(bar->value() + DragScrollPx);
+    else
+        m_dragScrollTimer->stop();
+}
+
+// Past the next task that hangs from the same one.
+void TasksPane::onMove(int step)
+{
+    const auto index = m_rows.indexOf(static_cast<TasksPaneRow *>(sender()));
+    if (index < 0)
+        return;
+    const TaskListing::Row &moved = m_rows.at(index)->row();
+    for (qsizetype i = index + step; i >= 0 && i < m_rows.size(); i += step) {
+        const TaskListing::Row &other = m_rows.at(i)->row();
+        if (other.depth < moved.depth)
+            return;
+        if (other.depth == moved.depth && other.calendarId == moved.calendarId)
+            return m_actions->place(moved.uid, other.uid,
+                                    step > 0 ? TaskEdits::DropZone::Below : TaskEdits::DropZone::Above);
+    }
 }
 
 void TasksPane::onTaskDropped(const QString &uid, const QString &targetUid, TasksPaneRow::Zone zone)

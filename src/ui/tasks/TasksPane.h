@@ -18,7 +18,7 @@ class QVBoxLayout;
 class TaskActions;
 
 /// The tasks of the visible calendars as an indented tree, with a filter, options, and dragging. A long list is
-/// built in slices of the event loop.
+/// built in slices of the event loop. A reload keeps the rows of the tasks that stay, and so focus and scrolling.
 class TasksPane : public QWidget {
     Q_OBJECT
 
@@ -54,10 +54,15 @@ private:
     void reloadSoon();
     void clearContent();
     void buildSlice();
+    void discard(QWidget *line);
+    bool place(QWidget *line); ///< below what is placed already; false if it was there
+    bool placeRow(const TaskListing::Row &row);
     void buildEmptyState();
     QWidget *buildSectionHeader(const QString &title, const QString &color, int count);
-    TasksPaneRow *buildRow(const TaskListing::Row &row);
+    TasksPaneRow *buildRow(const TaskListing::Row &row, const TasksPaneRow::Look &look);
     void onWalk(int step);
+    void onMove(int step);
+    void scrollWhileDragging();
     void onTaskDropped(const QString &uid, const QString &targetUid, TasksPaneRow::Zone zone);
     void storeFlag(bool *flag, bool on, const QString &key);
     void showFilterName();
@@ -70,14 +75,17 @@ private:
     bool m_isStale = true;
     QTimer *m_reloadTimer;
     QTimer *m_sliceTimer;
+    QTimer *m_dragScrollTimer;
     QToolButton *m_filterButton = nullptr;
+    QToolButton *m_addButton = nullptr;
     QScrollArea *m_scroll;
-    QVBoxLayout *m_list = nullptr;
+    QVBoxLayout *m_list; // what is placed, old rows, and a stretch
     QList<TaskListing::Section> m_sections;
     QList<Pending> m_pending;
-    QList<TasksPaneRow *> m_rows;
+    int m_placed = 0; // lines, headers too
+    QList<TasksPaneRow *> m_rows; // in order
+    QHash<QString, TasksPaneRow *> m_oldRows; // of the last list, by task; below what is placed
+    QList<QWidget *> m_otherLines; // headers, or what an empty list says
     QHash<QString, QString> m_calendarColors;
     QSet<QString> m_syncableCalendarIds;
-    QString m_focusedTaskId; // that gets the focus back when its row is there again
-    int m_scrolledTo = 0;
 };

@@ -18,22 +18,36 @@
 namespace {
 
 constexpr int WidenedPx = 2; // around the check box
+constexpr int MaxShownChars = 300;
+constexpr int PageRows = 10; // that Page Up and Page Down pass
+constexpr int AllRows = 1'000'000;
 
 }
 
 TasksPaneRow::TasksPaneRow(AppState *state, const TaskListing::Row &row, const Look &look, QWidget *parent)
     : QWidget(parent)
     , m_state(state)
-    , m_row(row)
-    , m_look(look)
 {
     setObjectName(QStringLiteral("tasksPaneRow"));
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setRow(row, look);
+}
+
+void TasksPaneRow::setRow(const TaskListing::Row &row, const Look &look)
+{
+    const QString dueText = row.dueDate ? TaskText::date(m_state, *row.dueDate, row.dueIsDateOnly) : QString();
+    if (row == m_row && look == m_look && dueText == m_dueText)
+        return; // as most are on a reload
+    m_row = row;
+    m_look = look;
+    m_dueText = dueText;
     setAccessibleName(sentence());
-    setToolTip(Theme::plainToolTip(TaskText::title(row)));
+    setToolTip(Theme::plainToolTip(wholeText()));
+    updateGeometry();
+    update();
 }
 
 bool TasksPaneRow::isOnCheckbox(QPoint point) const
@@ -54,14 +68,27 @@ TasksPaneRow::Zone TasksPaneRow::zoneForCursor(int y) const
 QString TasksPaneRow::sentence() const
 {
     QStringList parts{ TaskText::title(m_row) };
-    if (m_row.dueDate)
-        parts.append(tr("due %1", "date").arg(TaskText::date(m_state, *m_row.dueDate, m_row.dueIsDateOnly)));
+    if (!m_dueText.isEmpty())
+        parts.append(tr("due %1", "date").arg(m_dueText));
     if (const QString priority = TaskText::priority(m_row.priority); !priority.isEmpty())
         parts.append(tr("priority %1").arg(priority));
     parts.append(TaskText::status(m_row.status));
     if (m_row.depth > 0 || m_row.isCutOff)
         parts.append(tr("subtask"));
     return parts.join(QStringLiteral(", "));
+}
+
+// What a narrow pane cuts off.
+QString TasksPaneRow::wholeText() const
+{
+    QStringList lines{ TaskText::title(m_row), m_dueText };
+    lines += tags();
+    if (m_look.showCategories)
+        lines.append(m_row.categories.join(QStringLiteral(", ")).simplified());
+    if (m_look.showNotes)
+        lines.append(m_row.description.left(MaxShownChars).simplified());
+    lines.removeAll(QString());
+    return lines.join(u'\n');
 }
 
 void TasksPaneRow::toggle()
@@ -99,7 +126,8 @@ void TasksPaneRow::startDrag()
     auto *mime = new QMimeData;
     mime->setData(QLatin1StringView(TaskDragMime::kTaskUid), m_row.uid.toUtf8());
     mime->setData(QLatin1StringView(TaskDragMime::kTaskRowId), m_row.id.toUtf8());
-    auto *drag = new QDrag(this);
+    // The row may go while it is dragged: a sync may delete its task.
+    auto *drag = new QDrag(parentWidget());
     drag->setMimeData(mime);
     drag->setPixmap(grab());
     drag->setHotSpot(m_pressedAt);
@@ -144,10 +172,23 @@ void TasksPaneRow::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Backspace:
         emit deleteRequested(m_row.id);
         return;
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        emit walkRequested(event->key() == Qt::Key_Down ? 1 : -1);
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        emit walkRequested(event->key() == Qt::Key_End ? AllRows : -AllRows);
         return;
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        emit walkRequested(event->key() == Qt::Key_PageDown ? PageRows : -PageRows);
+        return;
+    case Qt::Key_Up:
+    case Qt::Key_Down: {
+        const int step = event->key() == Qt::Key_Down ? 1 : -1;
+        if (event->modifiers().testFlag(Qt::AltModifier))
+            emit moveRequested(step);
+        else
+            emit walkRequested(step);
+        return;
+    }
     default:
         QWidget::keyPressEvent(event);
     }
@@ -165,6 +206,7 @@ void TasksPaneRow::dragMoveEvent(QDragMoveEvent *event)
         setDropZone(Zone::None);
         return event->ignore();
     }
+    emit draggedOver();
     setDropZone(zoneForCursor(event->position().toPoint().y()));
     event->setDropAction(Qt::MoveAction);
     event->accept();
@@ -172,6 +214,7 @@ void TasksPaneRow::dragMoveEvent(QDragMoveEvent *event)
 
 void TasksPaneRow::dragLeaveEvent(QDragLeaveEvent *)
 {
+    emit dragEnded();
     setDropZone(Zone::None);
 }
 
@@ -179,6 +222,7 @@ void TasksPaneRow::dropEvent(QDropEvent *event)
 {
     const QString uid = QString::fromUtf8(event->mimeData()->data(QLatin1StringView(TaskDragMime::kTaskUid)));
     const Zone zone = zoneForCursor(event->position().toPoint().y());
+    emit dragEnded();
     setDropZone(Zone::None);
     if (uid.isEmpty() || uid == m_row.uid)
         return event->ignore();

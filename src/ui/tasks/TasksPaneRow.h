@@ -19,10 +19,13 @@ public:
         bool showCategories = false;
         bool isWaitingToSync = false;
         QString color; ///< of the task or its calendar
+
+        bool operator==(const Look &) const = default;
     };
 
     TasksPaneRow(AppState *state, const TaskListing::Row &row, const Look &look, QWidget *parent = nullptr);
 
+    void setRow(const TaskListing::Row &row, const Look &look);
     [[nodiscard]] const TaskListing::Row &row() const { return m_row; }
     [[nodiscard]] QRect checkboxRect() const;
     void setDraggable(bool draggable) { m_isDraggable = draggable; }
@@ -38,8 +41,11 @@ signals:
     void contextRequested(const QString &taskId, const QPoint &globalPos);
     void completionToggled(const QString &taskId, bool completed);
     void deleteRequested(const QString &taskId);
+    void draggedOver(); ///< with another task
+    void dragEnded(); ///< over this row: it left, or was dropped
     void taskDropped(const QString &uid, const QString &targetUid, TasksPaneRow::Zone zone);
-    void walkRequested(int step); ///< +1 or -1: to the next row or the one before
+    void walkRequested(int step); ///< to the row so many further down, or up; at most to the last or the first
+    void moveRequested(int step); ///< of the task, among its siblings
 
 protected:
     bool event(QEvent *event) override;
@@ -59,7 +65,7 @@ private:
     [[nodiscard]] bool isOnCheckbox(QPoint point) const;
     [[nodiscard]] int textLeft() const;
     [[nodiscard]] QString sentence() const;
-    [[nodiscard]] QString dueText() const;
+    [[nodiscard]] QString wholeText() const;
     [[nodiscard]] QStringList tags() const;
     [[nodiscard]] bool hasSecondLine() const;
     [[nodiscard]] int lineCount() const;
@@ -76,6 +82,7 @@ private:
     AppState *m_state;
     TaskListing::Row m_row;
     Look m_look;
+    QString m_dueText;
     bool m_isDraggable = false;
     bool m_isPressed = false;
     bool m_isPressOnCheckbox = false;

@@ -50,11 +50,6 @@ int TasksPaneRow::textLeft() const
     return checkboxRect().right() + 1 + GapPx;
 }
 
-QString TasksPaneRow::dueText() const
-{
-    return m_row.dueDate ? TaskText::date(m_state, *m_row.dueDate, m_row.dueIsDateOnly) : QString();
-}
-
 QStringList TasksPaneRow::tags() const
 {
     QStringList result;
@@ -165,14 +160,14 @@ void TasksPaneRow::paintFacts(QPainter &painter, QRect line) const
         painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, fitting);
         line.setLeft(line.left() + painter.fontMetrics().horizontalAdvance(fitting) + GapPx);
     };
-    if (m_row.isCutOff)
-        text(tr("↳ subtask"), Theme::textMuted());
-    text(dueText(), TaskListing::isOverdue(m_row, QDate::currentDate()) ? Theme::danger() : Theme::textMuted());
+    text(m_dueText, TaskListing::isOverdue(m_row, QDate::currentDate()) ? Theme::danger() : Theme::textMuted());
     if (m_row.priority > 0 && m_row.priority < HighestMedium)
         line.setLeft(paintPill(painter, line, TaskText::priority(m_row.priority), High, false));
     const QStringList words = tags();
     for (const QString &tag : words)
         line.setLeft(paintPill(painter, line, tag, Theme::textMuted(), false));
+    if (m_row.isCutOff)
+        text(tr("↳ subtask"), Theme::textMuted());
     if (m_look.isWaitingToSync)
         text(tr("Waiting to sync"), Theme::textMuted());
 }

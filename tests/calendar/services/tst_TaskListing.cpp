@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 using Filter = TaskListing::Filter;
 
 namespace {
@@ -62,6 +64,35 @@ private slots:
             shown.itemType = QStringLiteral("reminder");
             QVERIFY(!TaskListing::matches(shown, Filter::All, Today));
         }
+    }
+
+    void ordersOnTheClockOnTheWall()
+    {
+        const auto timed = [](const QString &title, QDate day, QTime time) {
+            Task result = task(title);
+            result.dueDate = QDateTime(day, time).toUTC();
+            result.dueIsDateOnly = false;
+            return result;
+        };
+        const QStringList expected{ QStringLiteral("late evening before"),
+                                    QStringLiteral("early"),
+                                    QStringLiteral("late"),
+                                    QStringLiteral("today"),
+                                    QStringLiteral("tomorrow early"),
+                                    QStringLiteral("tomorrow"),
+                                    QStringLiteral("some day") };
+        QList<Task> tasks{ task(expected.at(6)),
+                           task(expected.at(5), Today.addDays(1)),
+                           task(expected.at(3), Today),
+                           timed(expected.at(4), Today.addDays(1), QTime(0, 0)),
+                           timed(expected.at(2), Today, QTime(23, 59)),
+                           timed(expected.at(1), Today, QTime(0, 0)),
+                           timed(expected.at(0), Today.addDays(-1), QTime(23, 59)) };
+        std::ranges::sort(tasks, TaskListing::isBefore);
+        QStringList titles;
+        for (const Task &each : std::as_const(tasks))
+            titles.append(each.title);
+        QCOMPARE(titles, expected);
     }
 
     void loads_data()

@@ -118,6 +118,9 @@ private slots:
         row(QStringLiteral("a"))->setFocus();
         QTest::keyClick(m_window->focusWidget(), Qt::Key_Down);
         QCOMPARE(m_window->focusWidget(), row(QStringLiteral("b")));
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_PageDown);
+        QCOMPARE(m_window->focusWidget(), row(QStringLiteral("c")));
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Up);
         QTest::keyClick(m_window->focusWidget(), Qt::Key_Space);
         QVERIFY(stored(QStringLiteral("b")).isCompleted());
         QTRY_VERIFY(row(QStringLiteral("b"))->row().isCompleted()); // built anew
@@ -126,6 +129,24 @@ private slots:
         QTest::keyClick(m_window->focusWidget(), Qt::Key_Delete);
         QTRY_COMPARE(answers.asked.size(), 1);
         QTRY_COMPARE(outline(), QStringLiteral("a c"));
+        QTRY_COMPARE(m_window->focusWidget(), row(QStringLiteral("c")));
+    }
+
+    void reloadKeepsRowsAndTheirOrder()
+    {
+        TasksPaneRow *kept = row(QStringLiteral("a"));
+        kept->setFocus();
+        add(QStringLiteral("0"));
+        QTRY_COMPARE(outline(), QStringLiteral("0 a -b c"));
+        QCOMPARE(row(QStringLiteral("a")), kept);
+        QVERIFY(kept->hasFocus());
+        row(QStringLiteral("0"))->setFocus();
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
+        QCOMPARE(m_window->focusWidget(), kept);
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Down, Qt::AltModifier);
+        QTRY_COMPARE(outline(), QStringLiteral("0 c a -b"));
+        QVERIFY(kept->hasFocus());
+        QVERIFY(row(QStringLiteral("c"))->y() < kept->y() && kept->y() < row(QStringLiteral("b"))->y());
     }
 
     void optionsAreKept()

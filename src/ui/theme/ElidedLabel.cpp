@@ -1,4 +1,4 @@
-#include "ui/ElidedLabel.h"
+#include "ui/theme/ElidedLabel.h"
 
 #include "ui/theme/Theme.h"
 
