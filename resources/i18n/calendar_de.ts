@@ -29,6 +29,195 @@
     </message>
 </context>
 <context>
+    <name>AccountDetails</name>
+    <message>
+        <source>Manually</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n hour(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Every %n minute(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>S&amp;ync this account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E&amp;xclude from cloud sync</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calendars</source>
+        <translation type="unfinished">Kalender</translation>
+    </message>
+    <message>
+        <source>Last sync</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sync &amp;interval</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;olor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit…</source>
+        <translation type="unfinished">&amp;Bearbeiten…</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter &amp;Password…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Review &amp;Certificate…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished">Keine</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AccountHealth</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>calendar, error</comment>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>On this device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turned off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Certificate changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server shows a certificate that you have not trusted. Nothing syncs until you have reviewed it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The password of this account is not on this device. Nothing syncs until you enter it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sign in required</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sign-in of this account has ended.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sync failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last sync: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not synced yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>date, time</comment>
+        <translation type="unfinished">%1, %2</translation>
+    </message>
+    <message>
+        <source>Calendars on this device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Web feed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AccountPill</name>
+    <message numerus="yes">
+        <source>%n account(s) need attention</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Click to open Calendar Accounts and resolve the issues.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n account(s) need sign-in</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Click to open Calendar Accounts and sign in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n account(s) need password</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Click to open Calendar Accounts and re-enter the password.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AccountSetup</name>
+    <message>
+        <source>CalDAV (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AllDayStrip</name>
     <message>
         <source>All-day events</source>
@@ -97,6 +286,281 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     <message>
         <source>Remove attendee</source>
         <translation>Teilnehmer entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>CalDavCertificateDialog</name>
+    <message>
+        <source>Untrusted certificate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trust this certificate?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1:%2 presented a TLS certificate that doesn&apos;t chain to a trusted root. Review it before trusting it, anyone with this fingerprint can impersonate the server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(unknown)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Issuer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Valid from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SHA-256</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previously trusted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only trust this certificate if you control the server and recognize the fingerprint. Trusting a malicious certificate gives attackers full access to your calendar data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trust certificate</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CalDavClient</name>
+    <message>
+        <source>The connection was closed before the server answered.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CalDavConnectionDialog</name>
+    <message>
+        <source>Add CalDAV Account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Calendars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit CalDAV Account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished">Speichern</translation>
+    </message>
+    <message>
+        <source>Leave empty to keep the stored one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server&apos;s name, unless you give another</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server &amp;URL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User&amp;name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account na&amp;me</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discover Calendars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“Discover Calendars” shows what the server has, and lets you pick again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“Discover Calendars” shows here what the server has.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Calendars</source>
+        <translation type="unfinished">&amp;Kalender</translation>
+    </message>
+    <message>
+        <source>Calendars</source>
+        <translation type="unfinished">Kalender</translation>
+    </message>
+    <message>
+        <source>Enter the server URL and your username first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Found %1 calendar(s). Pick which to have on this device.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Found %1 calendar(s). Pick which to add.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discover first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Click &quot;Discover Calendars&quot; before saving.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pick at least one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select one or more calendars to add.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Already added</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This server is already added as &quot;%1&quot;. Its calendars are already available — no need to add it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove calendars?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This account was removed in the meantime.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Database Error</source>
+        <translation type="unfinished">Datenbankfehler</translation>
+    </message>
+    <message>
+        <source>Could not save the account.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving the password…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Password not saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The system&apos;s password store cannot be used. Calendars sync until Quillon Calendar is closed; after that you have to enter the password of &quot;%1&quot; again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CalDavDiscovery</name>
+    <message>
+        <source>Enter a CalDAV URL starting with http:// or https://</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server rejected the username or password.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not find a CalDAV account on that server. Check the URL.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not reach the server: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost connection during calendar-home-set discovery: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server returned HTTP %1 during home-set discovery.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lost connection during calendar enumeration: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server returned HTTP %1 during calendar enumeration.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No calendars found at the discovered home set.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CalDavSyncRun</name>
+    <message>
+        <source>Network error: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server returned HTTP %1 during ctag check</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server returned HTTP %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network error during task pull: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Task push error: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server returned HTTP %1 pushing task &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Push error: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server returned HTTP %1 pushing &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was moved to your local task list: this calendar does not accept tasks. Task support has been turned off for it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was rejected: this calendar does not accept tasks. Task support has been turned off for it.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -171,6 +635,26 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
         <source>The calendar could not be saved.</source>
         <translation>Der Kalender konnte nicht gespeichert werden.</translation>
     </message>
+    <message>
+        <source>On this device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Allow tasks on this calendar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missing password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No saved password for this account. Edit the account first to re-enter your credentials.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>CalendarListDelegate</name>
@@ -240,12 +724,109 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
         <source>Delete &quot;%1&quot; and all its events? This cannot be undone.</source>
         <translation>„%1“ und alle zugehörigen Termine löschen? Dies kann nicht rückgängig gemacht werden.</translation>
     </message>
+    <message>
+        <source>Re&amp;move from This Device…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CalendarPull</name>
+    <message>
+        <source>The server&apos;s answer was cut off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some of the calendar could not be stored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server&apos;s answer is not a list of calendar objects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CalendarRemoval</name>
+    <message numerus="yes">
+        <source>%n change(s) made here have not reached the server yet and will be lost.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove %1 from this device? The server keeps what is in it.</source>
+        <comment>names of calendars</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove calendar?</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ChoiceDialog</name>
     <message>
         <source>Apply</source>
         <translation>Anwenden</translation>
+    </message>
+</context>
+<context>
+    <name>CollectionJob</name>
+    <message>
+        <source>Creating calendar on server…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network error: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server refused (HTTP %1). Your account may not have permission to create calendars on this server.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server returned success but the new calendar isn&apos;t reachable. This server may not support MKCALENDAR.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This account was removed in the meantime.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Created on server, but couldn&apos;t save locally. Run sync to recover.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This calendar was deleted in the meantime.</source>
+        <translation type="unfinished">Dieser Kalender wurde inzwischen gelöscht.</translation>
+    </message>
+    <message>
+        <source>Checking whether this calendar accepts tasks…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t verify task support: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This calendar does not accept tasks (server returned HTTP %1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving changes to server…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server refused (HTTP %1). You may not have permission to rename or recolour this calendar.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved on server, but couldn&apos;t update locally.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -312,6 +893,61 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     <message>
         <source>Use calendar color</source>
         <translation>Kalenderfarbe verwenden</translation>
+    </message>
+</context>
+<context>
+    <name>ConflictResolutionDialog</name>
+    <message>
+        <source>Sync conflicts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No conflicts. Run a sync to detect any.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These events were edited both locally and on the server. Pick which version to keep for each one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your version (local)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep local</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use server version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decide later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Conflict: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Title:&lt;/b&gt; %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;When:&lt;/b&gt; %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Where:&lt;/b&gt; %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Notes:&lt;/b&gt; %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -696,8 +1332,12 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
         <translation>Datenbankfehler</translation>
     </message>
     <message>
-        <source>Could not save the event.</source>
-        <translation>Der Termin konnte nicht gespeichert werden.</translation>
+        <source>This is one event of a series, changed on its own.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -735,6 +1375,10 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     <message>
         <source>The end time is earlier than the start time.</source>
         <translation>Das Ende liegt vor dem Beginn.</translation>
+    </message>
+    <message>
+        <source>The series ends before its first event. Choose a later last day.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1565,6 +2209,26 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
         <source>Undo (drag/resize/delete)</source>
         <translation>Rückgängig (Ziehen/Größe ändern/Löschen)</translation>
     </message>
+    <message>
+        <source>Calendar Acc&amp;ounts…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sync Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Force F&amp;ull Sync…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re-pull every event from every account, ignoring sync tokens</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sync Conflicts…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1596,6 +2260,18 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
         <source>Quick-add couldn&apos;t parse: &quot;%1&quot;</source>
         <translation>Schnelleingabe nicht verstanden: „%1“</translation>
     </message>
+    <message>
+        <source>Force full sync?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re-fetch every event and task from every account, ignoring saved sync tokens. Useful when items look stale or out of date.
+
+Any unsynced local edits will be discarded in favour of the server&apos;s copy. Pending deletions are preserved.
+
+Heavy accounts may take a minute or two and use more bandwidth than usual.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ManageFiltersDialog</name>
@@ -1606,6 +2282,44 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     <message>
         <source>No filters yet. A filter hides or dims events on this device; it never changes them.</source>
         <translation>Noch keine Filter. Ein Filter blendet Termine auf diesem Gerät aus oder ab; er ändert sie nie.</translation>
+    </message>
+</context>
+<context>
+    <name>ManageSourcesDialog</name>
+    <message>
+        <source>Calendar Accounts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation type="unfinished">&amp;Hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;CalDAV account…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Local calendar…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove &quot;%1&quot; and its calendars from this device? The server keeps what is in them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove account?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Discovered %n new calendar(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1761,6 +2475,17 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     <message>
         <source>Move D&amp;own</source>
         <translation>Nach &amp;unten</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordField</name>
+    <message>
+        <source>Show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the password</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2448,10 +3173,6 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
         <translation>vorletzten</translation>
     </message>
     <message>
-        <source>%1st</source>
-        <translation>%1.</translation>
-    </message>
-    <message>
         <source>%1th-from-last</source>
         <translation>%1.-letzten</translation>
     </message>
@@ -2551,6 +3272,35 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
             <numerusform>%n Tage vorher</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1st</source>
+        <comment>weekday of a month</comment>
+        <translation type="unfinished">%1.</translation>
+    </message>
+    <message>
+        <source>%1st</source>
+        <comment>day of a month</comment>
+        <translation type="unfinished">%1.</translation>
+    </message>
+</context>
+<context>
+    <name>ServerLookup</name>
+    <message>
+        <source>Enter the password of this account first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connection cancelled, certificate not trusted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Certificate trusted. Retrying…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Sidebar</name>
@@ -2573,6 +3323,50 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     <message>
         <source>Showing group “%1”</source>
         <translation>Gruppe „%1“ wird angezeigt</translation>
+    </message>
+</context>
+<context>
+    <name>SilenceGuard</name>
+    <message>
+        <source>The server has stopped answering.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SyncScheduler</name>
+    <message>
+        <source>All caught up, nothing waiting to sync.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Password missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Synced %1 events</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Syncing %1 account(s)…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No sync accounts configured. Add one in Calendar Accounts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Discovered %n new calendar(s).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Cleared %n calendar sync token(s), running full sync…</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3036,6 +3830,11 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
         <source>+ New Task</source>
         <translation>+ Neue Aufgabe</translation>
     </message>
+    <message>
+        <source>Filter tasks: %1</source>
+        <extracomment>%1 is the name of a filter</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>TasksPaneRow</name>
@@ -3375,10 +4174,6 @@ d. MMM</translation>
         <translation>&amp;Zeitformat</translation>
     </message>
     <message>
-        <source>First &amp;day of the week</source>
-        <translation>Erster &amp;Tag der Woche</translation>
-    </message>
-    <message>
         <source>Your calendars</source>
         <translation>Ihre Kalender</translation>
     </message>
@@ -3397,6 +4192,10 @@ d. MMM</translation>
     <message>
         <source>&amp;Done</source>
         <translation>F&amp;ertig</translation>
+    </message>
+    <message>
+        <source>First day of the &amp;week</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
