@@ -268,6 +268,7 @@ void TasksPane::reload()
         for (int row = 0; row < m_sections.at(section).rows.size(); ++row)
             m_pending.append({ section, row });
     }
+    discardGoneRows();
     if (m_pending.isEmpty())
         buildEmptyState();
     buildSlice();
@@ -287,6 +288,21 @@ void TasksPane::clearContent()
     m_otherLines.clear();
 }
 
+// At first, so that those below need not move, and the focus goes to the next one.
+void TasksPane::discardGoneRows()
+{
+    QHash<QString, TasksPaneRow *> staying;
+    for (const TaskListing::Section &section : std::as_const(m_sections)) {
+        for (const TaskListing::Row &row : section.rows) {
+            if (TasksPaneRow *known = m_oldRows.take(row.id))
+                staying.insert(row.id, known);
+        }
+    }
+    for (TasksPaneRow *row : std::as_const(m_oldRows))
+        discard(row);
+    m_oldRows = staying;
+}
+
 void TasksPane::buildSlice()
 {
     m_list->setEnabled(false); // else each row that shows would lay out all the others
@@ -300,14 +316,9 @@ void TasksPane::buildSlice()
             moved += place(m_otherLines.constLast()) ? 1 : 0;
         }
     }
-    if (m_pending.isEmpty()) {
-        for (TasksPaneRow *row : std::as_const(m_oldRows))
-            discard(row);
-        m_oldRows.clear();
-    } else {
-        m_sliceTimer->start();
-    }
     m_list->setEnabled(true);
+    if (!m_pending.isEmpty())
+        m_sliceTimer->start();
 }
 
 // Later, as it may be the origin of the signal that led here.
@@ -321,8 +332,15 @@ void TasksPane::discard(QWidget *line)
 bool TasksPane::place(QWidget *line)
 {
     const int index = m_placed++;
-    if (m_list->itemAt(index)->widget() == line)
+    QWidget *other = m_list->itemAt(index)->widget();
+    if (other == line)
         return false;
+    if (other && m_list->itemAt(index + 1)->widget() == line) {
+        // One that goes further down makes way, or all below it would be moved up past it.
+        m_list->removeWidget(other);
+        m_list->insertWidget(m_list->count() - 1, other);
+        return true;
+    }
     m_list->removeWidget(line);
     m_list->insertWidget(index, line);
     line->show();
@@ -341,10 +359,8 @@ bool TasksPane::placeRow(const TaskListing::Row &row)
     } else {
         m_rows.append(buildRow(row, look));
     }
-    if (!place(m_rows.constLast()))
-        return false;
     setTabOrder(before, m_rows.constLast()); // the key goes where the eye goes
-    return true;
+    return place(m_rows.constLast());
 }
 
 TasksPaneRow *TasksPane::buildRow(const TaskListing::Row &row, const TasksPaneRow::Look &look)

@@ -53,6 +53,7 @@ private:
     void connectSources();
     void reloadSoon();
     void clearContent();
+    void discardGoneRows();
     void buildSlice();
     void discard(QWidget *line);
     bool place(QWidget *line); ///< below what is placed already; false if it was there
@@ -84,7 +85,7 @@ private:
     QList<Pending> m_pending;
     int m_placed = 0; // lines, headers too
     QList<TasksPaneRow *> m_rows; // in order
-    QHash<QString, TasksPaneRow *> m_oldRows; // of the last list, by task; below what is placed
+    QHash<QString, TasksPaneRow *> m_oldRows; // by task; to be placed anew, and until then below what is
     QList<QWidget *> m_otherLines; // headers, or what an empty list says
     QHash<QString, QString> m_calendarColors;
     QSet<QString> m_syncableCalendarIds;
