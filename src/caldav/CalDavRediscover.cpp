@@ -43,11 +43,16 @@ void fillPlaceholder(Calendar &calendar, const CalDavParse::DiscoveredCalendar &
     calendar.syncEnabled = true;
 }
 
+QString declinedKey(const QString &accountId)
+{
+    return QStringLiteral("caldav/declined/") + accountId;
+}
+
 class DeclinedAddresses {
 public:
     DeclinedAddresses(AppState *state, const QString &accountId)
         : m_preferences(state->preferences())
-        , m_settingsKey(QStringLiteral("caldav/declined/") + accountId)
+        , m_settingsKey(declinedKey(accountId))
     {
         const QString text = m_preferences->get(m_settingsKey, QString());
         const QJsonArray keys = QJsonDocument::fromJson(text.toUtf8()).array();
@@ -184,6 +189,11 @@ void CalDavRediscover::accept(AppState *state, const QString &accountId, const Q
     for (const QString &url : urls)
         declined.remove(url);
     declined.store();
+}
+
+void CalDavRediscover::forgetAccount(AppState *state, const QString &accountId)
+{
+    state->preferences()->remove(declinedKey(accountId));
 }
 
 bool CalDavRediscover::isDeclined(AppState *state, const QString &accountId, const QString &url)

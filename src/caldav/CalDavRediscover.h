@@ -26,6 +26,8 @@ int upsertDiscoveredCalendars(AppState *state, const QString &accountId,
 void decline(AppState *state, const QString &accountId, const QStringList &urls);
 /// Forgets that: the next upsert may add them.
 void accept(AppState *state, const QString &accountId, const QStringList &urls);
+/// For an account that goes.
+void forgetAccount(AppState *state, const QString &accountId);
 bool isDeclined(AppState *state, const QString &accountId, const QString &url);
 
 } // namespace CalDavRediscover

@@ -155,9 +155,9 @@ void CalendarPush::send(const CalDavParse::EventResource &newest)
     m_href =
         newest.href.isEmpty() ? CalDavPath::newResourcePath(m_session->calendarUrl(), m_current->uid) : newest.href;
     m_etag = newest.etag;
-    const ResourceComposer::Composed composed =
-        m_current->compose(newest.calendarData.toUtf8(), newest.etag,
-                           { .now = QDateTime::currentDateTimeUtc(), .ownAddresses = m_ownAddresses });
+    m_textBeneath = newest.calendarData.toUtf8();
+    const ResourceComposer::Composed composed = m_current->compose(
+        m_textBeneath, newest.etag, { .now = QDateTime::currentDateTimeUtc(), .ownAddresses = m_ownAddresses });
     if (composed.text.isEmpty() && m_kind == Kind::Create) {
         m_current->deleted(); // what the server never had
         return pushNextSoon();
@@ -247,9 +247,13 @@ bool CalendarPush::isStored(const CalDavClient::Response &response) const
 {
     if (!response.isSuccess() || !response.isWhole || !m_current->isIn(response.body))
         return false;
+    if (m_kind == Kind::Create || response.body == m_body)
+        return true;
     const QString etag = CalDavPath::etagFromHeader(response.header("ETag"));
-    return m_kind == Kind::Create || response.body == m_body
-        || (!m_etag.isEmpty() && !etag.isEmpty() && etag != m_etag);
+    if (!m_etag.isEmpty() && !etag.isEmpty())
+        return etag != m_etag;
+    // A server without etags: what differs from the copy beneath was written. XML leaves no carriage return in that.
+    return QByteArray(response.body).replace('\r', "") != QByteArray(m_textBeneath).replace('\r', "");
 }
 
 void CalendarPush::onAccepted()

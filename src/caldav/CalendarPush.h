@@ -77,6 +77,7 @@ private:
     Kind m_kind = Kind::Update;
     QString m_href; // where the current resource goes
     QString m_etag; // of the text under the current one
+    QByteArray m_textBeneath; // the server's copy
     QByteArray m_body;
     QString m_newEtag; // what the answer gave
     bool m_hasRetried = false;

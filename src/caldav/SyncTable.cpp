@@ -143,13 +143,8 @@ public:
                                        const ResourceComposer::Context &context) override
     {
         QList<Record> removed = m_removed;
-        // What has been read from this very text and has no row any more goes under another name now.
-        if (!etag.isEmpty() && newestEtag == etag) {
-            for (const Record &record : Kind::parse(QString::fromUtf8(newest))) {
-                if (record.uid == uid && Kind::isReadable(record) && !m_keys.contains(Kind::key(record)))
-                    removed.append(record);
-            }
-        }
+        if (!etag.isEmpty() && newestEtag == etag)
+            removed += formerNames(Kind::parse(QString::fromUtf8(newest)));
         const ResourceComposer::Composed composed = m_kind.compose(newest, m_changed, removed, context);
         m_sent = composed.text;
         return composed;
@@ -211,6 +206,21 @@ public:
     }
 
 private:
+    /// Components of a text that was read before and that have no row any more, if rows wait under names that the
+    /// text does not have: these are them. At most one for each.
+    [[nodiscard]] QList<Record> formerNames(const QList<Record> &there) const
+    {
+        const qsizetype renamed = std::ranges::count_if(
+            m_changed, [&there](const Record &row) { return !Kind::key(row).isEmpty() && !findIn(there, row); });
+        QList<Record> names;
+        for (const Record &record : there) {
+            const bool hasRow = m_keys.contains(Kind::key(record));
+            if (names.size() < renamed && record.uid == uid && Kind::isReadable(record) && !hasRow)
+                names.append(record);
+        }
+        return names;
+    }
+
     static const Record *findIn(const QList<Record> &records, const Record &row)
     {
         const auto found = std::ranges::find_if(

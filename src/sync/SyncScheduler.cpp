@@ -265,14 +265,27 @@ void SyncScheduler::discover(const Account &account, const QString &password)
                     say(tr("Discovered %n new calendar(s).", nullptr, inserted), 4000);
                 goOn({});
             });
-    connect(discovery, &CalDavDiscovery::failed, this, [goOn](const QString &message) {
+    connect(discovery, &CalDavDiscovery::failed, this, [this, client, id = account.id, goOn](const QString &message) {
         qWarning().noquote() << "[Sync] Rediscovery skipped:" << message;
+        if (client->hasPendingUntrustedCert())
+            noteRefusedCertificate(id, client->pendingUntrustedCert().sha256);
         goOn(message);
     });
     discovery->start(QUrl(account.serverUrl));
 }
 
 /// A failed discovery does not stop the calendars that are known. Without any it is what there is to tell.
+/// The accounts dialog tells of it, and shows it beside the one that was trusted.
+void SyncScheduler::noteRefusedCertificate(const QString &accountId, const QString &sha256)
+{
+    auto account = m_state->accounts()->getById(accountId);
+    if (!account || account->pendingCertSha256 == sha256)
+        return;
+    account->pendingCertSha256 = sha256;
+    account->updatedAt = now();
+    m_state->accounts()->update(*account);
+}
+
 void SyncScheduler::syncAccount(const QString &accountId, const QString &password, const QString &discoveryFailure)
 {
     const auto account = m_state->accounts()->getById(accountId);

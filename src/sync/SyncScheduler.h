@@ -60,6 +60,7 @@ private:
     bool beginAccount(const QString &accountId, const QString &password);
     void finishRound(int startedAccounts);
     void discover(const Account &account, const QString &password);
+    void noteRefusedCertificate(const QString &accountId, const QString &sha256);
     void syncAccount(const QString &accountId, const QString &password, const QString &discoveryFailure);
     void autoSync(const QString &calendarId, const QString &password);
     CalDavSyncClient *makeClient();

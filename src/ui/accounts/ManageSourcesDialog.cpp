@@ -171,8 +171,10 @@ void ManageSourcesDialog::askToRemoveCurrent()
     if (!loss.isEmpty())
         text += QLatin1StringView("\n\n") + loss;
     Prompt::question(this, tr("Remove account?"), text, m_state, [state = m_state, account = *account] {
-        if (state->accounts()->remove(account.id) && SyncScheduler::isCalDavFamily(account))
-            state->syncScheduler()->credentials()->removeCaldavPassword(account.id);
+        if (!state->accounts()->remove(account.id) || !SyncScheduler::isCalDavFamily(account))
+            return;
+        state->syncScheduler()->credentials()->removeCaldavPassword(account.id);
+        CalDavRediscover::forgetAccount(state, account.id);
     });
 }
 
