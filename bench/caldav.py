@@ -6,6 +6,7 @@ Needs radicale and curl, and vdirsyncer for the peer; build/release/bin/quillon-
 """
 import json
 import pathlib
+import random
 import resource
 import shutil
 import socket
@@ -15,6 +16,8 @@ import tempfile
 import time
 
 BENCH = pathlib.Path(__file__).resolve().parent.parent / "build/release/bin/quillon-bench"
+# Enough of them that the text packs no better than what people write.
+WORDS = ["".join(random.Random(n).choices("abcdefghiklmnoprstuvw", k=3 + n % 7)) for n in range(2000)]
 USER, PASSWORD = "alice", "secret"
 QUERY = """<?xml version="1.0" encoding="utf-8"?>
 <c:calendar-query xmlns:d="DAV:" xmlns:c="urn:ietf:params:xml:ns:caldav"><d:prop><d:getetag/><c:calendar-data/></d:prop>
@@ -23,7 +26,7 @@ QUERY = """<?xml version="1.0" encoding="utf-8"?>
 
 def event(number):
     rule = "RRULE:FREQ=WEEKLY;COUNT=30\r\n" if number % 7 == 0 else ""
-    notes = "Agenda item, decision and owner. " * 40
+    notes = " ".join(random.Random(number).choices(WORDS, k=180))
     return (f"BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Bench//EN\r\nBEGIN:VEVENT\r\nUID:event-{number}\r\n"
             f"DTSTAMP:20260101T000000Z\r\nSUMMARY:Review of the plan {number}\r\nDESCRIPTION:{notes}\r\n"
             f"LOCATION:Room {number % 90}\r\nDTSTART:2026{1 + number % 12:02}{1 + number % 28:02}T{7 + number % 12:02}0000Z\r\n"

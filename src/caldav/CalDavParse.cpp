@@ -11,10 +11,10 @@ namespace CalDavParse {
 
 namespace {
 
-constexpr QLatin1StringView Dav(CalDavNamespaces::Dav);
-constexpr QLatin1StringView CalDav(CalDavNamespaces::CalDav);
-constexpr QLatin1StringView CalendarServer(CalDavNamespaces::CalendarServer);
-constexpr QLatin1StringView AppleICal(CalDavNamespaces::AppleICal);
+constexpr QLatin1StringView Dav = CalDavNamespaces::Dav;
+constexpr QLatin1StringView CalDav = CalDavNamespaces::CalDav;
+constexpr QLatin1StringView CalendarServer = CalDavNamespaces::CalendarServer;
+constexpr QLatin1StringView AppleICal = CalDavNamespaces::AppleICal;
 
 bool isElement(const QXmlStreamReader &xml, QLatin1StringView ns, QLatin1StringView name)
 {

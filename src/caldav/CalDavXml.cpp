@@ -6,9 +6,9 @@ namespace CalDavXml {
 
 namespace {
 
-QByteArray xmlns(const char *prefix, const char *uri)
+QByteArray xmlns(const char *prefix, QLatin1StringView uri)
 {
-    return QByteArray(" xmlns:") + prefix + "=\"" + uri + '"';
+    return QByteArray(" xmlns:") + prefix + "=\"" + uri.data() + '"';
 }
 
 QByteArray calDavNs()
