@@ -274,7 +274,6 @@ void SyncScheduler::discover(const Account &account, const QString &password)
     discovery->start(QUrl(account.serverUrl));
 }
 
-/// A failed discovery does not stop the calendars that are known. Without any it is what there is to tell.
 /// The accounts dialog tells of it, and shows it beside the one that was trusted.
 void SyncScheduler::noteRefusedCertificate(const QString &accountId, const QString &sha256)
 {
@@ -286,6 +285,7 @@ void SyncScheduler::noteRefusedCertificate(const QString &accountId, const QStri
     m_state->accounts()->update(*account);
 }
 
+/// A failed discovery does not stop the calendars that are known. Without any it is what there is to tell.
 void SyncScheduler::syncAccount(const QString &accountId, const QString &password, const QString &discoveryFailure)
 {
     const auto account = m_state->accounts()->getById(accountId);
