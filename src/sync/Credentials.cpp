@@ -55,7 +55,7 @@ template <typename Work, typename Done> void Credentials::inBackground(QObject *
     // Jobs run one after the other: what is stored first is found by the next.
     QMetaObject::invokeMethod(m_worker, [work, done, context = QPointer(context), self = QPointer(this)] {
         const auto result = work();
-        QMetaObject::invokeMethod(qApp, [result, done, context, self] {
+        QMetaObject::invokeMethod(QCoreApplication::instance(), [result, done, context, self] {
             if (self && context)
                 done(result);
         });
