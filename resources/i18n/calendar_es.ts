@@ -32,81 +32,81 @@
     <name>AccountDetails</name>
     <message>
         <source>Manually</source>
-        <translation type="unfinished"></translation>
+        <translation>Manualmente</translation>
     </message>
     <message numerus="yes">
         <source>Every %n hour(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Cada %n hora</numerusform>
+            <numerusform>Cada %n horas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Every %n minute(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Cada %n minuto</numerusform>
+            <numerusform>Cada %n minutos</numerusform>
         </translation>
     </message>
     <message>
         <source>S&amp;ync this account</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sincronizar esta cuenta</translation>
     </message>
     <message>
         <source>E&amp;xclude from cloud sync</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xcluir de la sincronización en la nube</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Servidor</translation>
     </message>
     <message>
         <source>Username</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de usuario</translation>
     </message>
     <message>
         <source>Calendars</source>
-        <translation type="unfinished">Calendarios</translation>
+        <translation>Calendarios</translation>
     </message>
     <message>
         <source>Last sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Última sincronización</translation>
     </message>
     <message>
         <source>Sync &amp;interval</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Intervalo de sincronización</translation>
     </message>
     <message>
         <source>C&amp;olor</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;olor</translation>
     </message>
     <message>
         <source>&amp;Edit…</source>
-        <translation type="unfinished">&amp;Editar…</translation>
+        <translation>&amp;Editar…</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Act&amp;ualizar</translation>
     </message>
     <message>
         <source>Remo&amp;ve…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar…</translation>
     </message>
     <message>
         <source>Enter &amp;Password…</source>
-        <translation type="unfinished"></translation>
+        <translation>Introducir co&amp;ntraseña…</translation>
     </message>
     <message>
         <source>Review &amp;Certificate…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Revisar certificado…</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Ninguna</translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -114,107 +114,107 @@
     <message>
         <source>%1: %2</source>
         <comment>calendar, error</comment>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>On this device</source>
-        <translation type="unfinished"></translation>
+        <translation>En este dispositivo</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished"></translation>
+        <translation>Desactivada</translation>
     </message>
     <message>
         <source>Certificate changed</source>
-        <translation type="unfinished"></translation>
+        <translation>El certificado ha cambiado</translation>
     </message>
     <message>
         <source>The server shows a certificate that you have not trusted. Nothing syncs until you have reviewed it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor presenta un certificado que usted no ha marcado como de confianza. No se sincronizará nada hasta que lo revise.</translation>
     </message>
     <message>
         <source>The password of this account is not on this device. Nothing syncs until you enter it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La contraseña de esta cuenta no está en este dispositivo. No se sincronizará nada hasta que la introduzca.</translation>
     </message>
     <message>
         <source>Sign in required</source>
-        <translation type="unfinished"></translation>
+        <translation>Es necesario iniciar sesión</translation>
     </message>
     <message>
         <source>The sign-in of this account has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>La sesión de esta cuenta ha caducado.</translation>
     </message>
     <message>
         <source>Sync failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de sincronización</translation>
     </message>
     <message>
         <source>Last sync: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Última sincronización: %1</translation>
     </message>
     <message>
         <source>Not synced yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún sin sincronizar</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>Nunca</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <comment>date, time</comment>
-        <translation type="unfinished">%1, %2</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Calendars on this device</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendarios de este dispositivo</translation>
     </message>
     <message>
         <source>Web feed</source>
-        <translation type="unfinished"></translation>
+        <translation>Suscripción web</translation>
     </message>
 </context>
 <context>
     <name>AccountPill</name>
     <message numerus="yes">
         <source>%n account(s) need attention</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n cuenta requiere atención</numerusform>
+            <numerusform>%n cuentas requieren atención</numerusform>
         </translation>
     </message>
     <message>
         <source>Click to open Calendar Accounts and resolve the issues.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga clic para abrir las cuentas de calendario y resolver los problemas.</translation>
     </message>
     <message numerus="yes">
         <source>%n account(s) need sign-in</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n cuenta requiere iniciar sesión</numerusform>
+            <numerusform>%n cuentas requieren iniciar sesión</numerusform>
         </translation>
     </message>
     <message>
         <source>Click to open Calendar Accounts and sign in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga clic para abrir las cuentas de calendario e iniciar sesión.</translation>
     </message>
     <message numerus="yes">
         <source>%n account(s) need password</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n cuenta requiere contraseña</numerusform>
+            <numerusform>%n cuentas requieren contraseña</numerusform>
         </translation>
     </message>
     <message>
         <source>Click to open Calendar Accounts and re-enter the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga clic para abrir las cuentas de calendario y volver a introducir la contraseña.</translation>
     </message>
 </context>
 <context>
     <name>AccountSetup</name>
     <message>
         <source>CalDAV (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>CalDAV (%1)</translation>
     </message>
 </context>
 <context>
@@ -292,275 +292,275 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
     <name>CalDavCertificateDialog</name>
     <message>
         <source>Untrusted certificate</source>
-        <translation type="unfinished"></translation>
+        <translation>Certificado no fiable</translation>
     </message>
     <message>
         <source>Trust this certificate?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Confiar en este certificado?</translation>
     </message>
     <message>
         <source>%1:%2 presented a TLS certificate that doesn&apos;t chain to a trusted root. Review it before trusting it, anyone with this fingerprint can impersonate the server.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2 ha presentado un certificado TLS que no procede de una entidad raíz de confianza. Revíselo antes de confiar en él: cualquiera que tenga esta huella digital puede suplantar al servidor.</translation>
     </message>
     <message>
         <source>(unknown)</source>
-        <translation type="unfinished"></translation>
+        <translation>(desconocido)</translation>
     </message>
     <message>
         <source>Subject</source>
-        <translation type="unfinished"></translation>
+        <translation>Sujeto</translation>
     </message>
     <message>
         <source>Issuer</source>
-        <translation type="unfinished"></translation>
+        <translation>Emisor</translation>
     </message>
     <message>
         <source>Valid from</source>
-        <translation type="unfinished"></translation>
+        <translation>Válido desde</translation>
     </message>
     <message>
         <source>Valid until</source>
-        <translation type="unfinished"></translation>
+        <translation>Válido hasta</translation>
     </message>
     <message>
         <source>SHA-256</source>
-        <translation type="unfinished"></translation>
+        <translation>SHA-256</translation>
     </message>
     <message>
         <source>Previously trusted</source>
-        <translation type="unfinished"></translation>
+        <translation>De confianza hasta ahora</translation>
     </message>
     <message>
         <source>Errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Errores</translation>
     </message>
     <message>
         <source>Only trust this certificate if you control the server and recognize the fingerprint. Trusting a malicious certificate gives attackers full access to your calendar data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Confíe en este certificado solo si controla el servidor y reconoce la huella digital. Confiar en un certificado malicioso da a los atacantes acceso completo a los datos de su calendario.</translation>
     </message>
     <message>
         <source>Trust certificate</source>
-        <translation type="unfinished"></translation>
+        <translation>Confiar en el certificado</translation>
     </message>
 </context>
 <context>
     <name>CalDavClient</name>
     <message>
         <source>The connection was closed before the server answered.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conexión se cerró antes de que el servidor respondiera.</translation>
     </message>
 </context>
 <context>
     <name>CalDavConnectionDialog</name>
     <message>
         <source>Add CalDAV Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir cuenta CalDAV</translation>
     </message>
     <message>
         <source>Add Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir calendarios</translation>
     </message>
     <message>
         <source>Edit CalDAV Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar cuenta CalDAV</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished">Guardar</translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Leave empty to keep the stored one</source>
-        <translation type="unfinished"></translation>
+        <translation>Déjela en blanco para conservar la guardada</translation>
     </message>
     <message>
         <source>The server&apos;s name, unless you give another</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre del servidor, si no indica otro</translation>
     </message>
     <message>
         <source>Server &amp;URL</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;URL del servidor</translation>
     </message>
     <message>
         <source>User&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre de usuario</translation>
     </message>
     <message>
         <source>&amp;Password</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;ontraseña</translation>
     </message>
     <message>
         <source>Account na&amp;me</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de la cuen&amp;ta</translation>
     </message>
     <message>
         <source>Discover Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar calendarios</translation>
     </message>
     <message>
         <source>“Discover Calendars” shows what the server has, and lets you pick again.</source>
-        <translation type="unfinished"></translation>
+        <translation>«Buscar calendarios» muestra lo que hay en el servidor y le permite volver a elegir.</translation>
     </message>
     <message>
         <source>“Discover Calendars” shows here what the server has.</source>
-        <translation type="unfinished"></translation>
+        <translation>«Buscar calendarios» muestra aquí lo que hay en el servidor.</translation>
     </message>
     <message>
         <source>&amp;Calendars</source>
-        <translation type="unfinished">&amp;Calendarios</translation>
+        <translation>&amp;Calendarios</translation>
     </message>
     <message>
         <source>Calendars</source>
-        <translation type="unfinished">Calendarios</translation>
+        <translation>Calendarios</translation>
     </message>
     <message>
         <source>Enter the server URL and your username first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca primero la URL del servidor y su nombre de usuario.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Found %1 calendar(s). Pick which to have on this device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendarios encontrados: %1. Elija cuáles quiere tener en este dispositivo.</translation>
     </message>
     <message>
         <source>Found %1 calendar(s). Pick which to add.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendarios encontrados: %1. Elija cuáles quiere añadir.</translation>
     </message>
     <message>
         <source>Discover first</source>
-        <translation type="unfinished"></translation>
+        <translation>Busque primero</translation>
     </message>
     <message>
         <source>Click &quot;Discover Calendars&quot; before saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga clic en «Buscar calendarios» antes de guardar.</translation>
     </message>
     <message>
         <source>Pick at least one</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija al menos uno</translation>
     </message>
     <message>
         <source>Select one or more calendars to add.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione uno o más calendarios para añadir.</translation>
     </message>
     <message>
         <source>Already added</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya añadido</translation>
     </message>
     <message>
         <source>This server is already added as &quot;%1&quot;. Its calendars are already available — no need to add it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este servidor ya está añadido como «%1». Sus calendarios ya están disponibles; no hace falta añadirlo de nuevo.</translation>
     </message>
     <message>
         <source>Remove calendars?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Quitar calendarios?</translation>
     </message>
     <message>
         <source>This account was removed in the meantime.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta cuenta se ha quitado entretanto.</translation>
     </message>
     <message>
         <source>Database Error</source>
-        <translation type="unfinished">Error de la base de datos</translation>
+        <translation>Error de la base de datos</translation>
     </message>
     <message>
         <source>Could not save the account.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar la cuenta.</translation>
     </message>
     <message>
         <source>Saving the password…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardando la contraseña…</translation>
     </message>
     <message>
         <source>Password not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraseña no guardada</translation>
     </message>
     <message>
         <source>The system&apos;s password store cannot be used. Calendars sync until Quillon Calendar is closed; after that you have to enter the password of &quot;%1&quot; again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede usar el almacén de contraseñas del sistema. Los calendarios se sincronizarán hasta que cierre Quillon Calendar; después tendrá que volver a introducir la contraseña de «%1».</translation>
     </message>
 </context>
 <context>
     <name>CalDavDiscovery</name>
     <message>
         <source>Enter a CalDAV URL starting with http:// or https://</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca una URL de CalDAV que empiece por http:// o https://</translation>
     </message>
     <message>
         <source>The server rejected the username or password.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor rechazó el nombre de usuario o la contraseña.</translation>
     </message>
     <message>
         <source>Could not find a CalDAV account on that server. Check the URL.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró ninguna cuenta CalDAV en ese servidor. Compruebe la URL.</translation>
     </message>
     <message>
         <source>Could not reach the server: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo contactar con el servidor: %1</translation>
     </message>
     <message>
         <source>Lost connection during calendar-home-set discovery: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se perdió la conexión al buscar la carpeta de calendarios (calendar-home-set): %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 during home-set discovery.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor devolvió HTTP %1 al buscar la carpeta de calendarios.</translation>
     </message>
     <message>
         <source>Lost connection during calendar enumeration: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se perdió la conexión al enumerar los calendarios: %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 during calendar enumeration.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor devolvió HTTP %1 al enumerar los calendarios.</translation>
     </message>
     <message>
         <source>No calendars found at the discovered home set.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontraron calendarios en la carpeta de calendarios hallada.</translation>
     </message>
 </context>
 <context>
     <name>CalDavSyncRun</name>
     <message>
         <source>Network error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de red: %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 during ctag check</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor devolvió HTTP %1 al comprobar el ctag</translation>
     </message>
     <message>
         <source>Server returned HTTP %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor devolvió HTTP %1</translation>
     </message>
     <message>
         <source>Network error during task pull: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de red al descargar las tareas: %1</translation>
     </message>
     <message>
         <source>Task push error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al enviar la tarea: %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 pushing task &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor devolvió HTTP %1 al enviar la tarea «%2»</translation>
     </message>
     <message>
         <source>Push error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de envío: %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 pushing &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor devolvió HTTP %1 al enviar «%2»</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was moved to your local task list: this calendar does not accept tasks. Task support has been turned off for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» se ha trasladado a su lista de tareas local: este calendario no admite tareas. Se han desactivado las tareas en él.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was rejected: this calendar does not accept tasks. Task support has been turned off for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» se ha rechazado: este calendario no admite tareas. Se han desactivado las tareas en él.</translation>
     </message>
 </context>
 <context>
@@ -637,23 +637,23 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>On this device</source>
-        <translation type="unfinished"></translation>
+        <translation>En este dispositivo</translation>
     </message>
     <message>
         <source>&amp;Account</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;uenta</translation>
     </message>
     <message>
         <source>Allow tasks on this calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Permitir tareas en este calendario</translation>
     </message>
     <message>
         <source>Missing password</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta la contraseña</translation>
     </message>
     <message>
         <source>No saved password for this account. Edit the account first to re-enter your credentials.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna contraseña guardada para esta cuenta. Edite primero la cuenta para volver a introducir sus credenciales.</translation>
     </message>
 </context>
 <context>
@@ -726,45 +726,45 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Re&amp;move from This Device…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar de este dispositivo…</translation>
     </message>
 </context>
 <context>
     <name>CalendarPull</name>
     <message>
         <source>The server&apos;s answer was cut off.</source>
-        <translation type="unfinished"></translation>
+        <translation>La respuesta del servidor llegó incompleta.</translation>
     </message>
     <message>
         <source>Some of the calendar could not be stored.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar una parte del calendario.</translation>
     </message>
     <message>
         <source>The server&apos;s answer is not a list of calendar objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>La respuesta del servidor no es una lista de objetos de calendario.</translation>
     </message>
 </context>
 <context>
     <name>CalendarRemoval</name>
     <message numerus="yes">
         <source>%n change(s) made here have not reached the server yet and will be lost.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n cambio hecho aquí aún no ha llegado al servidor y se perderá.</numerusform>
+            <numerusform>%n cambios hechos aquí aún no han llegado al servidor y se perderán.</numerusform>
         </translation>
     </message>
     <message>
         <source>&quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1»</translation>
     </message>
     <message>
         <source>Remove %1 from this device? The server keeps what is in it.</source>
         <comment>names of calendars</comment>
-        <translation type="unfinished"></translation>
+        <translation>¿Quitar %1 de este dispositivo? El servidor conserva su contenido.</translation>
     </message>
     <message>
         <source>Remove calendar?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Quitar calendario?</translation>
     </message>
 </context>
 <context>
@@ -778,55 +778,55 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
     <name>CollectionJob</name>
     <message>
         <source>Creating calendar on server…</source>
-        <translation type="unfinished"></translation>
+        <translation>Creando el calendario en el servidor…</translation>
     </message>
     <message>
         <source>Network error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de red: %1</translation>
     </message>
     <message>
         <source>Server refused (HTTP %1). Your account may not have permission to create calendars on this server.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor lo ha rechazado (HTTP %1). Es posible que su cuenta no tenga permiso para crear calendarios en este servidor.</translation>
     </message>
     <message>
         <source>Server returned success but the new calendar isn&apos;t reachable. This server may not support MKCALENDAR.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor indicó que la operación se completó, pero no se puede acceder al nuevo calendario. Es posible que este servidor no admita MKCALENDAR.</translation>
     </message>
     <message>
         <source>This account was removed in the meantime.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta cuenta se ha quitado entretanto.</translation>
     </message>
     <message>
         <source>Created on server, but couldn&apos;t save locally. Run sync to recover.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se creó en el servidor, pero no se pudo guardar localmente. Sincronice para recuperarlo.</translation>
     </message>
     <message>
         <source>This calendar was deleted in the meantime.</source>
-        <translation type="unfinished">Este calendario se ha eliminado entretanto.</translation>
+        <translation>Este calendario se ha eliminado entretanto.</translation>
     </message>
     <message>
         <source>Checking whether this calendar accepts tasks…</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobando si este calendario admite tareas…</translation>
     </message>
     <message>
         <source>Couldn&apos;t verify task support: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo comprobar si admite tareas: %1</translation>
     </message>
     <message>
         <source>This calendar does not accept tasks (server returned HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Este calendario no admite tareas (el servidor devolvió HTTP %1).</translation>
     </message>
     <message>
         <source>Saving changes to server…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardando los cambios en el servidor…</translation>
     </message>
     <message>
         <source>Server refused (HTTP %1). You may not have permission to rename or recolour this calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor lo ha rechazado (HTTP %1). Es posible que no tenga permiso para cambiar el nombre o el color de este calendario.</translation>
     </message>
     <message>
         <source>Saved on server, but couldn&apos;t update locally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se guardó en el servidor, pero no se pudo actualizar localmente.</translation>
     </message>
 </context>
 <context>
@@ -899,55 +899,55 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
     <name>ConflictResolutionDialog</name>
     <message>
         <source>Sync conflicts</source>
-        <translation type="unfinished"></translation>
+        <translation>Conflictos de sincronización</translation>
     </message>
     <message>
         <source>No conflicts. Run a sync to detect any.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay conflictos. Sincronice para detectarlos.</translation>
     </message>
     <message>
         <source>These events were edited both locally and on the server. Pick which version to keep for each one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estos eventos se han editado tanto localmente como en el servidor. Elija qué versión conservar de cada uno.</translation>
     </message>
     <message>
         <source>Your version (local)</source>
-        <translation type="unfinished"></translation>
+        <translation>Su versión (local)</translation>
     </message>
     <message>
         <source>Server version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión del servidor</translation>
     </message>
     <message>
         <source>Keep local</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar la local</translation>
     </message>
     <message>
         <source>Use server version</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar la del servidor</translation>
     </message>
     <message>
         <source>Decide later</source>
-        <translation type="unfinished"></translation>
+        <translation>Decidir más tarde</translation>
     </message>
     <message>
         <source>Conflict: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conflicto: %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Title:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Título:&lt;/b&gt; %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;When:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Cuándo:&lt;/b&gt; %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Where:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Lugar:&lt;/b&gt; %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Notes:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Notas:&lt;/b&gt; %1</translation>
     </message>
 </context>
 <context>
@@ -1333,11 +1333,11 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>This is one event of a series, changed on its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este es un evento de una serie, modificado por separado.</translation>
     </message>
     <message>
         <source>Not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha guardado</translation>
     </message>
 </context>
 <context>
@@ -1378,7 +1378,7 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>The series ends before its first event. Choose a later last day.</source>
-        <translation type="unfinished"></translation>
+        <translation>La serie termina antes de su primer evento. Elija un último día posterior.</translation>
     </message>
 </context>
 <context>
@@ -2211,23 +2211,23 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Calendar Acc&amp;ounts…</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;uentas de calendario…</translation>
     </message>
     <message>
         <source>&amp;Sync Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Sincronizar &amp;ahora</translation>
     </message>
     <message>
         <source>Force F&amp;ull Sync…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Forzar sincronización completa…</translation>
     </message>
     <message>
         <source>Re-pull every event from every account, ignoring sync tokens</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a descargar todos los eventos de todas las cuentas, sin tener en cuenta los tokens de sincronización</translation>
     </message>
     <message>
         <source>&amp;Sync Conflicts…</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;nflictos de sincronización…</translation>
     </message>
 </context>
 <context>
@@ -2262,7 +2262,7 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Force full sync?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Forzar la sincronización completa?</translation>
     </message>
     <message>
         <source>Re-fetch every event and task from every account, ignoring saved sync tokens. Useful when items look stale or out of date.
@@ -2270,7 +2270,11 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
 Any unsynced local edits will be discarded in favour of the server&apos;s copy. Pending deletions are preserved.
 
 Heavy accounts may take a minute or two and use more bandwidth than usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se volverán a descargar todos los eventos y tareas de todas las cuentas, sin tener en cuenta los tokens de sincronización guardados. Resulta útil cuando hay elementos que parecen desactualizados.
+
+Los cambios locales sin sincronizar se descartarán en favor de la copia del servidor. Las eliminaciones pendientes se conservan.
+
+Las cuentas con mucho contenido pueden tardar uno o dos minutos y consumir más ancho de banda de lo habitual.</translation>
     </message>
 </context>
 <context>
@@ -2288,37 +2292,37 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <name>ManageSourcesDialog</name>
     <message>
         <source>Calendar Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuentas de calendario</translation>
     </message>
     <message>
         <source>&amp;Add…</source>
-        <translation type="unfinished">&amp;Añadir…</translation>
+        <translation>&amp;Añadir…</translation>
     </message>
     <message>
         <source>Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuentas</translation>
     </message>
     <message>
         <source>&amp;CalDAV account…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta &amp;CalDAV…</translation>
     </message>
     <message>
         <source>&amp;Local calendar…</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendario &amp;local…</translation>
     </message>
     <message>
         <source>Remove &quot;%1&quot; and its calendars from this device? The server keeps what is in them.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Quitar «%1» y sus calendarios de este dispositivo? El servidor conserva su contenido.</translation>
     </message>
     <message>
         <source>Remove account?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Quitar cuenta?</translation>
     </message>
     <message numerus="yes">
         <source>Discovered %n new calendar(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Se ha encontrado %n calendario nuevo.</numerusform>
+            <numerusform>Se han encontrado %n calendarios nuevos.</numerusform>
         </translation>
     </message>
 </context>
@@ -2481,11 +2485,11 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <name>PasswordField</name>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar</translation>
     </message>
     <message>
         <source>Show the password</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la contraseña</translation>
     </message>
 </context>
 <context>
@@ -3275,31 +3279,31 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <message>
         <source>%1st</source>
         <comment>weekday of a month</comment>
-        <translation type="unfinished">%1</translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>%1st</source>
         <comment>day of a month</comment>
-        <translation type="unfinished">%1</translation>
+        <translation>%1</translation>
     </message>
 </context>
 <context>
     <name>ServerLookup</name>
     <message>
         <source>Enter the password of this account first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca primero la contraseña de esta cuenta.</translation>
     </message>
     <message>
         <source>Connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectando…</translation>
     </message>
     <message>
         <source>Connection cancelled, certificate not trusted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión cancelada: el certificado no es de confianza.</translation>
     </message>
     <message>
         <source>Certificate trusted. Retrying…</source>
-        <translation type="unfinished"></translation>
+        <translation>Certificado de confianza. Reintentando…</translation>
     </message>
 </context>
 <context>
@@ -3329,43 +3333,43 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <name>SilenceGuard</name>
     <message>
         <source>The server has stopped answering.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor ha dejado de responder.</translation>
     </message>
 </context>
 <context>
     <name>SyncScheduler</name>
     <message>
         <source>All caught up, nothing waiting to sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo al día, nada pendiente de sincronizar.</translation>
     </message>
     <message>
         <source>Password missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta la contraseña</translation>
     </message>
     <message>
         <source>Synced %1 events</source>
-        <translation type="unfinished"></translation>
+        <translation>Eventos sincronizados: %1</translation>
     </message>
     <message>
         <source>Syncing %1 account(s)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Sincronizando %1 cuenta(s)…</translation>
     </message>
     <message>
         <source>No sync accounts configured. Add one in Calendar Accounts.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay cuentas de sincronización configuradas. Añada una en Cuentas de calendario.</translation>
     </message>
     <message numerus="yes">
         <source>Discovered %n new calendar(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Se ha encontrado %n calendario nuevo.</numerusform>
+            <numerusform>Se han encontrado %n calendarios nuevos.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Cleared %n calendar sync token(s), running full sync…</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Se ha borrado el token de sincronización de %n calendario; sincronización completa en curso…</numerusform>
+            <numerusform>Se han borrado los tokens de sincronización de %n calendarios; sincronización completa en curso…</numerusform>
         </translation>
     </message>
 </context>
@@ -3833,7 +3837,7 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <message>
         <source>Filter tasks: %1</source>
         <extracomment>%1 is the name of a filter</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Filtrar tareas: %1</translation>
     </message>
 </context>
 <context>
@@ -4195,7 +4199,7 @@ d MMM</translation>
     </message>
     <message>
         <source>First day of the &amp;week</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer día de la &amp;semana</translation>
     </message>
 </context>
 <context>

@@ -32,79 +32,79 @@
     <name>AccountDetails</name>
     <message>
         <source>Manually</source>
-        <translation type="unfinished"></translation>
+        <translation>手動</translation>
     </message>
     <message numerus="yes">
         <source>Every %n hour(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n時間ごと</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Every %n minute(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n分ごと</numerusform>
         </translation>
     </message>
     <message>
         <source>S&amp;ync this account</source>
-        <translation type="unfinished"></translation>
+        <translation>このアカウントを同期(&amp;Y)</translation>
     </message>
     <message>
         <source>E&amp;xclude from cloud sync</source>
-        <translation type="unfinished"></translation>
+        <translation>クラウド同期から除外(&amp;X)</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバー</translation>
     </message>
     <message>
         <source>Username</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザー名</translation>
     </message>
     <message>
         <source>Calendars</source>
-        <translation type="unfinished">カレンダー</translation>
+        <translation>カレンダー</translation>
     </message>
     <message>
         <source>Last sync</source>
-        <translation type="unfinished"></translation>
+        <translation>最終同期</translation>
     </message>
     <message>
         <source>Sync &amp;interval</source>
-        <translation type="unfinished"></translation>
+        <translation>同期の間隔(&amp;I)</translation>
     </message>
     <message>
         <source>C&amp;olor</source>
-        <translation type="unfinished"></translation>
+        <translation>色(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Edit…</source>
-        <translation type="unfinished">編集(&amp;E)…</translation>
+        <translation>編集(&amp;E)…</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>更新(&amp;R)</translation>
     </message>
     <message>
         <source>Remo&amp;ve…</source>
-        <translation type="unfinished"></translation>
+        <translation>削除(&amp;V)…</translation>
     </message>
     <message>
         <source>Enter &amp;Password…</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワードを入力(&amp;P)…</translation>
     </message>
     <message>
         <source>Review &amp;Certificate…</source>
-        <translation type="unfinished"></translation>
+        <translation>証明書を確認(&amp;C)…</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">なし</translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
@@ -112,104 +112,104 @@
     <message>
         <source>%1: %2</source>
         <comment>calendar, error</comment>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>On this device</source>
-        <translation type="unfinished"></translation>
+        <translation>このデバイス上</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished"></translation>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>Certificate changed</source>
-        <translation type="unfinished"></translation>
+        <translation>証明書が変更されました</translation>
     </message>
     <message>
         <source>The server shows a certificate that you have not trusted. Nothing syncs until you have reviewed it.</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーは、まだ信頼されていない証明書を提示しています。証明書を確認するまで同期は行われません。</translation>
     </message>
     <message>
         <source>The password of this account is not on this device. Nothing syncs until you enter it.</source>
-        <translation type="unfinished"></translation>
+        <translation>このアカウントのパスワードはこのデバイスにありません。パスワードを入力するまで同期は行われません。</translation>
     </message>
     <message>
         <source>Sign in required</source>
-        <translation type="unfinished"></translation>
+        <translation>サインインが必要です</translation>
     </message>
     <message>
         <source>The sign-in of this account has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>このアカウントのサインインの有効期限が切れました。</translation>
     </message>
     <message>
         <source>Sync failed</source>
-        <translation type="unfinished"></translation>
+        <translation>同期に失敗しました</translation>
     </message>
     <message>
         <source>Last sync: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>最終同期: %1</translation>
     </message>
     <message>
         <source>Not synced yet</source>
-        <translation type="unfinished"></translation>
+        <translation>まだ同期されていません</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <comment>date, time</comment>
-        <translation type="unfinished">%1 %2</translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>Calendars on this device</source>
-        <translation type="unfinished"></translation>
+        <translation>このデバイスのカレンダー</translation>
     </message>
     <message>
         <source>Web feed</source>
-        <translation type="unfinished"></translation>
+        <translation>Webフィード</translation>
     </message>
 </context>
 <context>
     <name>AccountPill</name>
     <message numerus="yes">
         <source>%n account(s) need attention</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n件のアカウントで対応が必要です</numerusform>
         </translation>
     </message>
     <message>
         <source>Click to open Calendar Accounts and resolve the issues.</source>
-        <translation type="unfinished"></translation>
+        <translation>クリックするとカレンダーアカウントを開いて問題を解決できます。</translation>
     </message>
     <message numerus="yes">
         <source>%n account(s) need sign-in</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n件のアカウントでサインインが必要です</numerusform>
         </translation>
     </message>
     <message>
         <source>Click to open Calendar Accounts and sign in.</source>
-        <translation type="unfinished"></translation>
+        <translation>クリックするとカレンダーアカウントを開いてサインインできます。</translation>
     </message>
     <message numerus="yes">
         <source>%n account(s) need password</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n件のアカウントでパスワードが必要です</numerusform>
         </translation>
     </message>
     <message>
         <source>Click to open Calendar Accounts and re-enter the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>クリックするとカレンダーアカウントを開いてパスワードを再入力できます。</translation>
     </message>
 </context>
 <context>
     <name>AccountSetup</name>
     <message>
         <source>CalDAV (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>CalDAV (%1)</translation>
     </message>
 </context>
 <context>
@@ -287,275 +287,275 @@ Please check file permissions and try again.</source>
     <name>CalDavCertificateDialog</name>
     <message>
         <source>Untrusted certificate</source>
-        <translation type="unfinished"></translation>
+        <translation>信頼されていない証明書</translation>
     </message>
     <message>
         <source>Trust this certificate?</source>
-        <translation type="unfinished"></translation>
+        <translation>この証明書を信頼しますか?</translation>
     </message>
     <message>
         <source>%1:%2 presented a TLS certificate that doesn&apos;t chain to a trusted root. Review it before trusting it, anyone with this fingerprint can impersonate the server.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2が提示したTLS証明書は、信頼されたルート証明書につながっていません。信頼する前に内容を確認してください。このフィンガープリントを持つ者は誰でもサーバーになりすますことができます。</translation>
     </message>
     <message>
         <source>(unknown)</source>
-        <translation type="unfinished"></translation>
+        <translation>(不明)</translation>
     </message>
     <message>
         <source>Subject</source>
-        <translation type="unfinished"></translation>
+        <translation>サブジェクト</translation>
     </message>
     <message>
         <source>Issuer</source>
-        <translation type="unfinished"></translation>
+        <translation>発行者</translation>
     </message>
     <message>
         <source>Valid from</source>
-        <translation type="unfinished"></translation>
+        <translation>有効期間の開始</translation>
     </message>
     <message>
         <source>Valid until</source>
-        <translation type="unfinished"></translation>
+        <translation>有効期間の終了</translation>
     </message>
     <message>
         <source>SHA-256</source>
-        <translation type="unfinished"></translation>
+        <translation>SHA-256</translation>
     </message>
     <message>
         <source>Previously trusted</source>
-        <translation type="unfinished"></translation>
+        <translation>以前に信頼した証明書</translation>
     </message>
     <message>
         <source>Errors</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー</translation>
     </message>
     <message>
         <source>Only trust this certificate if you control the server and recognize the fingerprint. Trusting a malicious certificate gives attackers full access to your calendar data.</source>
-        <translation type="unfinished"></translation>
+        <translation>この証明書は、サーバーを自分で管理していて、フィンガープリントに見覚えがある場合にのみ信頼してください。悪意のある証明書を信頼すると、攻撃者がカレンダーのすべてのデータにアクセスできるようになります。</translation>
     </message>
     <message>
         <source>Trust certificate</source>
-        <translation type="unfinished"></translation>
+        <translation>証明書を信頼</translation>
     </message>
 </context>
 <context>
     <name>CalDavClient</name>
     <message>
         <source>The connection was closed before the server answered.</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーが応答する前に接続が閉じられました。</translation>
     </message>
 </context>
 <context>
     <name>CalDavConnectionDialog</name>
     <message>
         <source>Add CalDAV Account</source>
-        <translation type="unfinished"></translation>
+        <translation>CalDAVアカウントを追加</translation>
     </message>
     <message>
         <source>Add Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーを追加</translation>
     </message>
     <message>
         <source>Edit CalDAV Account</source>
-        <translation type="unfinished"></translation>
+        <translation>CalDAVアカウントを編集</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished">保存</translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Leave empty to keep the stored one</source>
-        <translation type="unfinished"></translation>
+        <translation>保存済みのものを使う場合は空欄のまま</translation>
     </message>
     <message>
         <source>The server&apos;s name, unless you give another</source>
-        <translation type="unfinished"></translation>
+        <translation>指定しない場合はサーバー名</translation>
     </message>
     <message>
         <source>Server &amp;URL</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーのURL(&amp;U)</translation>
     </message>
     <message>
         <source>User&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザー名(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Password</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワード(&amp;P)</translation>
     </message>
     <message>
         <source>Account na&amp;me</source>
-        <translation type="unfinished"></translation>
+        <translation>アカウント名(&amp;M)</translation>
     </message>
     <message>
         <source>Discover Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーを検索</translation>
     </message>
     <message>
         <source>“Discover Calendars” shows what the server has, and lets you pick again.</source>
-        <translation type="unfinished"></translation>
+        <translation>「カレンダーを検索」をクリックすると、サーバーにあるカレンダーが表示され、選び直すことができます。</translation>
     </message>
     <message>
         <source>“Discover Calendars” shows here what the server has.</source>
-        <translation type="unfinished"></translation>
+        <translation>「カレンダーを検索」をクリックすると、サーバーにあるカレンダーがここに表示されます。</translation>
     </message>
     <message>
         <source>&amp;Calendars</source>
-        <translation type="unfinished">カレンダー(&amp;C)</translation>
+        <translation>カレンダー(&amp;C)</translation>
     </message>
     <message>
         <source>Calendars</source>
-        <translation type="unfinished">カレンダー</translation>
+        <translation>カレンダー</translation>
     </message>
     <message>
         <source>Enter the server URL and your username first.</source>
-        <translation type="unfinished"></translation>
+        <translation>まずサーバーのURLとユーザー名を入力してください。</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Found %1 calendar(s). Pick which to have on this device.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1件のカレンダーが見つかりました。このデバイスで使うものを選択してください。</translation>
     </message>
     <message>
         <source>Found %1 calendar(s). Pick which to add.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1件のカレンダーが見つかりました。追加するものを選択してください。</translation>
     </message>
     <message>
         <source>Discover first</source>
-        <translation type="unfinished"></translation>
+        <translation>先に検索してください</translation>
     </message>
     <message>
         <source>Click &quot;Discover Calendars&quot; before saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存する前に「カレンダーを検索」をクリックしてください。</translation>
     </message>
     <message>
         <source>Pick at least one</source>
-        <translation type="unfinished"></translation>
+        <translation>1つ以上選択してください</translation>
     </message>
     <message>
         <source>Select one or more calendars to add.</source>
-        <translation type="unfinished"></translation>
+        <translation>追加するカレンダーを1つ以上選択してください。</translation>
     </message>
     <message>
         <source>Already added</source>
-        <translation type="unfinished"></translation>
+        <translation>追加済み</translation>
     </message>
     <message>
         <source>This server is already added as &quot;%1&quot;. Its calendars are already available — no need to add it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>このサーバーはすでに「%1」として追加されています。カレンダーはすでに利用できるため、再度追加する必要はありません。</translation>
     </message>
     <message>
         <source>Remove calendars?</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーを削除しますか?</translation>
     </message>
     <message>
         <source>This account was removed in the meantime.</source>
-        <translation type="unfinished"></translation>
+        <translation>このアカウントはすでに削除されています。</translation>
     </message>
     <message>
         <source>Database Error</source>
-        <translation type="unfinished">データベースエラー</translation>
+        <translation>データベースエラー</translation>
     </message>
     <message>
         <source>Could not save the account.</source>
-        <translation type="unfinished"></translation>
+        <translation>アカウントを保存できませんでした。</translation>
     </message>
     <message>
         <source>Saving the password…</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワードを保存中…</translation>
     </message>
     <message>
         <source>Password not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワードは保存されませんでした</translation>
     </message>
     <message>
         <source>The system&apos;s password store cannot be used. Calendars sync until Quillon Calendar is closed; after that you have to enter the password of &quot;%1&quot; again.</source>
-        <translation type="unfinished"></translation>
+        <translation>システムのパスワードストアを使用できません。カレンダーはQuillon Calendarを終了するまで同期されますが、その後は「%1」のパスワードを再入力する必要があります。</translation>
     </message>
 </context>
 <context>
     <name>CalDavDiscovery</name>
     <message>
         <source>Enter a CalDAV URL starting with http:// or https://</source>
-        <translation type="unfinished"></translation>
+        <translation>http://またはhttps://で始まるCalDAVのURLを入力してください</translation>
     </message>
     <message>
         <source>The server rejected the username or password.</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーがユーザー名またはパスワードを拒否しました。</translation>
     </message>
     <message>
         <source>Could not find a CalDAV account on that server. Check the URL.</source>
-        <translation type="unfinished"></translation>
+        <translation>そのサーバーにCalDAVアカウントが見つかりませんでした。URLを確認してください。</translation>
     </message>
     <message>
         <source>Could not reach the server: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーに接続できませんでした: %1</translation>
     </message>
     <message>
         <source>Lost connection during calendar-home-set discovery: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーホーム(calendar-home-set)の検索中に接続が切れました: %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 during home-set discovery.</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーホームの検索中にサーバーがHTTP %1を返しました。</translation>
     </message>
     <message>
         <source>Lost connection during calendar enumeration: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーの一覧の取得中に接続が切れました: %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 during calendar enumeration.</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーの一覧の取得中にサーバーがHTTP %1を返しました。</translation>
     </message>
     <message>
         <source>No calendars found at the discovered home set.</source>
-        <translation type="unfinished"></translation>
+        <translation>検出されたカレンダーホームにカレンダーが見つかりませんでした。</translation>
     </message>
 </context>
 <context>
     <name>CalDavSyncRun</name>
     <message>
         <source>Network error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークエラー: %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 during ctag check</source>
-        <translation type="unfinished"></translation>
+        <translation>ctagの確認中にサーバーがHTTP %1を返しました</translation>
     </message>
     <message>
         <source>Server returned HTTP %1</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーがHTTP %1を返しました</translation>
     </message>
     <message>
         <source>Network error during task pull: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>タスクの取得中にネットワークエラーが発生しました: %1</translation>
     </message>
     <message>
         <source>Task push error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>タスクの送信エラー: %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 pushing task &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>タスク「%2」の送信中にサーバーがHTTP %1を返しました</translation>
     </message>
     <message>
         <source>Push error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>送信エラー: %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 pushing &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「%2」の送信中にサーバーがHTTP %1を返しました</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was moved to your local task list: this calendar does not accept tasks. Task support has been turned off for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」をローカルのタスクリストに移動しました: このカレンダーはタスクに対応していません。このカレンダーのタスク機能をオフにしました。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was rejected: this calendar does not accept tasks. Task support has been turned off for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は拒否されました: このカレンダーはタスクに対応していません。このカレンダーのタスク機能をオフにしました。</translation>
     </message>
 </context>
 <context>
@@ -632,23 +632,23 @@ Please check file permissions and try again.</source>
     </message>
     <message>
         <source>On this device</source>
-        <translation type="unfinished"></translation>
+        <translation>このデバイス上</translation>
     </message>
     <message>
         <source>&amp;Account</source>
-        <translation type="unfinished"></translation>
+        <translation>アカウント(&amp;A)</translation>
     </message>
     <message>
         <source>Allow tasks on this calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>このカレンダーでタスクを許可</translation>
     </message>
     <message>
         <source>Missing password</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワードがありません</translation>
     </message>
     <message>
         <source>No saved password for this account. Edit the account first to re-enter your credentials.</source>
-        <translation type="unfinished"></translation>
+        <translation>このアカウントのパスワードは保存されていません。まずアカウントを編集して、認証情報を再入力してください。</translation>
     </message>
 </context>
 <context>
@@ -721,44 +721,44 @@ Please check file permissions and try again.</source>
     </message>
     <message>
         <source>Re&amp;move from This Device…</source>
-        <translation type="unfinished"></translation>
+        <translation>このデバイスから削除(&amp;M)…</translation>
     </message>
 </context>
 <context>
     <name>CalendarPull</name>
     <message>
         <source>The server&apos;s answer was cut off.</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーの応答が途中で途切れました。</translation>
     </message>
     <message>
         <source>Some of the calendar could not be stored.</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーの一部を保存できませんでした。</translation>
     </message>
     <message>
         <source>The server&apos;s answer is not a list of calendar objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーの応答はカレンダーオブジェクトの一覧ではありません。</translation>
     </message>
 </context>
 <context>
     <name>CalendarRemoval</name>
     <message numerus="yes">
         <source>%n change(s) made here have not reached the server yet and will be lost.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ここで行った%n件の変更はまだサーバーに届いておらず、失われます。</numerusform>
         </translation>
     </message>
     <message>
         <source>&quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」</translation>
     </message>
     <message>
         <source>Remove %1 from this device? The server keeps what is in it.</source>
         <comment>names of calendars</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1をこのデバイスから削除しますか? 内容はサーバーに残ります。</translation>
     </message>
     <message>
         <source>Remove calendar?</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーを削除しますか?</translation>
     </message>
 </context>
 <context>
@@ -772,55 +772,55 @@ Please check file permissions and try again.</source>
     <name>CollectionJob</name>
     <message>
         <source>Creating calendar on server…</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーにカレンダーを作成中…</translation>
     </message>
     <message>
         <source>Network error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークエラー: %1</translation>
     </message>
     <message>
         <source>Server refused (HTTP %1). Your account may not have permission to create calendars on this server.</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーに拒否されました(HTTP %1)。このサーバーでカレンダーを作成する権限がアカウントにない可能性があります。</translation>
     </message>
     <message>
         <source>Server returned success but the new calendar isn&apos;t reachable. This server may not support MKCALENDAR.</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーは成功と応答しましたが、新しいカレンダーにアクセスできません。このサーバーはMKCALENDARに対応していない可能性があります。</translation>
     </message>
     <message>
         <source>This account was removed in the meantime.</source>
-        <translation type="unfinished"></translation>
+        <translation>このアカウントはすでに削除されています。</translation>
     </message>
     <message>
         <source>Created on server, but couldn&apos;t save locally. Run sync to recover.</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーには作成されましたが、ローカルに保存できませんでした。同期を実行すると復旧できます。</translation>
     </message>
     <message>
         <source>This calendar was deleted in the meantime.</source>
-        <translation type="unfinished">このカレンダーはすでに削除されています。</translation>
+        <translation>このカレンダーはすでに削除されています。</translation>
     </message>
     <message>
         <source>Checking whether this calendar accepts tasks…</source>
-        <translation type="unfinished"></translation>
+        <translation>このカレンダーがタスクに対応しているか確認中…</translation>
     </message>
     <message>
         <source>Couldn&apos;t verify task support: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>タスクに対応しているか確認できませんでした: %1</translation>
     </message>
     <message>
         <source>This calendar does not accept tasks (server returned HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>このカレンダーはタスクに対応していません(サーバーがHTTP %1を返しました)。</translation>
     </message>
     <message>
         <source>Saving changes to server…</source>
-        <translation type="unfinished"></translation>
+        <translation>変更をサーバーに保存中…</translation>
     </message>
     <message>
         <source>Server refused (HTTP %1). You may not have permission to rename or recolour this calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーに拒否されました(HTTP %1)。このカレンダーの名前や色を変更する権限がない可能性があります。</translation>
     </message>
     <message>
         <source>Saved on server, but couldn&apos;t update locally.</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーには保存されましたが、ローカルで更新できませんでした。</translation>
     </message>
 </context>
 <context>
@@ -893,55 +893,55 @@ Please check file permissions and try again.</source>
     <name>ConflictResolutionDialog</name>
     <message>
         <source>Sync conflicts</source>
-        <translation type="unfinished"></translation>
+        <translation>同期の競合</translation>
     </message>
     <message>
         <source>No conflicts. Run a sync to detect any.</source>
-        <translation type="unfinished"></translation>
+        <translation>競合はありません。同期を実行すると検出されます。</translation>
     </message>
     <message>
         <source>These events were edited both locally and on the server. Pick which version to keep for each one.</source>
-        <translation type="unfinished"></translation>
+        <translation>これらのイベントは、ローカルとサーバーの両方で編集されています。それぞれ残すバージョンを選択してください。</translation>
     </message>
     <message>
         <source>Your version (local)</source>
-        <translation type="unfinished"></translation>
+        <translation>自分のバージョン(ローカル)</translation>
     </message>
     <message>
         <source>Server version</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーのバージョン</translation>
     </message>
     <message>
         <source>Keep local</source>
-        <translation type="unfinished"></translation>
+        <translation>ローカルを残す</translation>
     </message>
     <message>
         <source>Use server version</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーのバージョンを使う</translation>
     </message>
     <message>
         <source>Decide later</source>
-        <translation type="unfinished"></translation>
+        <translation>後で決める</translation>
     </message>
     <message>
         <source>Conflict: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>競合: %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Title:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;タイトル:&lt;/b&gt; %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;When:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;日時:&lt;/b&gt; %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Where:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;場所:&lt;/b&gt; %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Notes:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;メモ:&lt;/b&gt; %1</translation>
     </message>
 </context>
 <context>
@@ -1326,11 +1326,11 @@ Please check file permissions and try again.</source>
     </message>
     <message>
         <source>This is one event of a series, changed on its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>これは一連のイベントの1つで、個別に変更されています。</translation>
     </message>
     <message>
         <source>Not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>保存されませんでした</translation>
     </message>
 </context>
 <context>
@@ -1371,7 +1371,7 @@ Please check file permissions and try again.</source>
     </message>
     <message>
         <source>The series ends before its first event. Choose a later last day.</source>
-        <translation type="unfinished"></translation>
+        <translation>一連のイベントの終了が最初のイベントより前になっています。もっと後の最終日を選択してください。</translation>
     </message>
 </context>
 <context>
@@ -2197,23 +2197,23 @@ Please check file permissions and try again.</source>
     </message>
     <message>
         <source>Calendar Acc&amp;ounts…</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーアカウント(&amp;O)…</translation>
     </message>
     <message>
         <source>&amp;Sync Now</source>
-        <translation type="unfinished"></translation>
+        <translation>今すぐ同期(&amp;S)</translation>
     </message>
     <message>
         <source>Force F&amp;ull Sync…</source>
-        <translation type="unfinished"></translation>
+        <translation>完全同期を強制実行(&amp;U)…</translation>
     </message>
     <message>
         <source>Re-pull every event from every account, ignoring sync tokens</source>
-        <translation type="unfinished"></translation>
+        <translation>同期トークンを無視して、すべてのアカウントのすべてのイベントを再取得</translation>
     </message>
     <message>
         <source>&amp;Sync Conflicts…</source>
-        <translation type="unfinished"></translation>
+        <translation>同期の競合(&amp;S)…</translation>
     </message>
 </context>
 <context>
@@ -2248,7 +2248,7 @@ Please check file permissions and try again.</source>
     </message>
     <message>
         <source>Force full sync?</source>
-        <translation type="unfinished"></translation>
+        <translation>完全同期を強制実行しますか?</translation>
     </message>
     <message>
         <source>Re-fetch every event and task from every account, ignoring saved sync tokens. Useful when items look stale or out of date.
@@ -2256,7 +2256,11 @@ Please check file permissions and try again.</source>
 Any unsynced local edits will be discarded in favour of the server&apos;s copy. Pending deletions are preserved.
 
 Heavy accounts may take a minute or two and use more bandwidth than usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存されている同期トークンを無視して、すべてのアカウントのすべてのイベントとタスクを再取得します。内容が古いままに見える場合に便利です。
+
+まだ同期されていないローカルの変更は破棄され、サーバーの内容に置き換えられます。保留中の削除は維持されます。
+
+データの多いアカウントでは、1〜2分かかり、通常より多くの通信量を使う場合があります。</translation>
     </message>
 </context>
 <context>
@@ -2274,36 +2278,36 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <name>ManageSourcesDialog</name>
     <message>
         <source>Calendar Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーアカウント</translation>
     </message>
     <message>
         <source>&amp;Add…</source>
-        <translation type="unfinished">追加(&amp;A)…</translation>
+        <translation>追加(&amp;A)…</translation>
     </message>
     <message>
         <source>Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>アカウント</translation>
     </message>
     <message>
         <source>&amp;CalDAV account…</source>
-        <translation type="unfinished"></translation>
+        <translation>CalDAVアカウント(&amp;C)…</translation>
     </message>
     <message>
         <source>&amp;Local calendar…</source>
-        <translation type="unfinished"></translation>
+        <translation>ローカルカレンダー(&amp;L)…</translation>
     </message>
     <message>
         <source>Remove &quot;%1&quot; and its calendars from this device? The server keeps what is in them.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」とそのカレンダーをこのデバイスから削除しますか? 内容はサーバーに残ります。</translation>
     </message>
     <message>
         <source>Remove account?</source>
-        <translation type="unfinished"></translation>
+        <translation>アカウントを削除しますか?</translation>
     </message>
     <message numerus="yes">
         <source>Discovered %n new calendar(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n件の新しいカレンダーが見つかりました。</numerusform>
         </translation>
     </message>
 </context>
@@ -2466,11 +2470,11 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <name>PasswordField</name>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>表示</translation>
     </message>
     <message>
         <source>Show the password</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワードを表示</translation>
     </message>
 </context>
 <context>
@@ -3250,31 +3254,31 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <message>
         <source>%1st</source>
         <comment>weekday of a month</comment>
-        <translation type="unfinished">%1</translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>%1st</source>
         <comment>day of a month</comment>
-        <translation type="unfinished">%1</translation>
+        <translation>%1</translation>
     </message>
 </context>
 <context>
     <name>ServerLookup</name>
     <message>
         <source>Enter the password of this account first.</source>
-        <translation type="unfinished"></translation>
+        <translation>まずこのアカウントのパスワードを入力してください。</translation>
     </message>
     <message>
         <source>Connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>接続中…</translation>
     </message>
     <message>
         <source>Connection cancelled, certificate not trusted.</source>
-        <translation type="unfinished"></translation>
+        <translation>接続をキャンセルしました。証明書は信頼されていません。</translation>
     </message>
     <message>
         <source>Certificate trusted. Retrying…</source>
-        <translation type="unfinished"></translation>
+        <translation>証明書を信頼しました。再試行中…</translation>
     </message>
 </context>
 <context>
@@ -3304,41 +3308,41 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <name>SilenceGuard</name>
     <message>
         <source>The server has stopped answering.</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーが応答しなくなりました。</translation>
     </message>
 </context>
 <context>
     <name>SyncScheduler</name>
     <message>
         <source>All caught up, nothing waiting to sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて最新です。同期待ちの項目はありません。</translation>
     </message>
     <message>
         <source>Password missing</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワードがありません</translation>
     </message>
     <message>
         <source>Synced %1 events</source>
-        <translation type="unfinished"></translation>
+        <translation>%1件のイベントを同期しました</translation>
     </message>
     <message>
         <source>Syncing %1 account(s)…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1件のアカウントを同期中…</translation>
     </message>
     <message>
         <source>No sync accounts configured. Add one in Calendar Accounts.</source>
-        <translation type="unfinished"></translation>
+        <translation>同期するアカウントが設定されていません。「カレンダーアカウント」で追加してください。</translation>
     </message>
     <message numerus="yes">
         <source>Discovered %n new calendar(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n件の新しいカレンダーが見つかりました。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Cleared %n calendar sync token(s), running full sync…</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n件のカレンダーの同期トークンを消去し、完全同期を実行中…</numerusform>
         </translation>
     </message>
 </context>
@@ -3806,7 +3810,7 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <message>
         <source>Filter tasks: %1</source>
         <extracomment>%1 is the name of a filter</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>タスクを絞り込む: %1</translation>
     </message>
 </context>
 <context>
@@ -4168,7 +4172,7 @@ M月d日</translation>
     </message>
     <message>
         <source>First day of the &amp;week</source>
-        <translation type="unfinished"></translation>
+        <translation>週の開始曜日(&amp;W)</translation>
     </message>
 </context>
 <context>
