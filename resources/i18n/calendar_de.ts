@@ -32,81 +32,81 @@
     <name>AccountDetails</name>
     <message>
         <source>Manually</source>
-        <translation type="unfinished"></translation>
+        <translation>Von Hand</translation>
     </message>
     <message numerus="yes">
         <source>Every %n hour(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Im Abstand von %n Stunde</numerusform>
+            <numerusform>Im Abstand von %n Stunden</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Every %n minute(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Im Abstand von %n Minute</numerusform>
+            <numerusform>Im Abstand von %n Minuten</numerusform>
         </translation>
     </message>
     <message>
         <source>S&amp;ync this account</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Konto s&amp;ynchronisieren</translation>
     </message>
     <message>
         <source>E&amp;xclude from cloud sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Cloud-Synchronisierung aus&amp;nehmen</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Server</translation>
     </message>
     <message>
         <source>Username</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername</translation>
     </message>
     <message>
         <source>Calendars</source>
-        <translation type="unfinished">Kalender</translation>
+        <translation>Kalender</translation>
     </message>
     <message>
         <source>Last sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Synchronisierung</translation>
     </message>
     <message>
         <source>Sync &amp;interval</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungs&amp;intervall</translation>
     </message>
     <message>
         <source>C&amp;olor</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Farbe</translation>
     </message>
     <message>
         <source>&amp;Edit…</source>
-        <translation type="unfinished">&amp;Bearbeiten…</translation>
+        <translation>&amp;Bearbeiten…</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aktualisieren</translation>
     </message>
     <message>
         <source>Remo&amp;ve…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entfernen…</translation>
     </message>
     <message>
         <source>Enter &amp;Password…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Passwort eingeben…</translation>
     </message>
     <message>
         <source>Review &amp;Certificate…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zertifikat prüfen…</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Keine</translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -114,107 +114,107 @@
     <message>
         <source>%1: %2</source>
         <comment>calendar, error</comment>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>On this device</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem Gerät</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgeschaltet</translation>
     </message>
     <message>
         <source>Certificate changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Zertifikat geändert</translation>
     </message>
     <message>
         <source>The server shows a certificate that you have not trusted. Nothing syncs until you have reviewed it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server zeigt ein Zertifikat, dem nicht vertraut wird. Bis es geprüft ist, wird nichts synchronisiert.</translation>
     </message>
     <message>
         <source>The password of this account is not on this device. Nothing syncs until you enter it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort dieses Kontos ist nicht auf diesem Gerät. Bis es eingegeben ist, wird nichts synchronisiert.</translation>
     </message>
     <message>
         <source>Sign in required</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung erforderlich</translation>
     </message>
     <message>
         <source>The sign-in of this account has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anmeldung dieses Kontos ist abgelaufen.</translation>
     </message>
     <message>
         <source>Sync failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierung fehlgeschlagen</translation>
     </message>
     <message>
         <source>Last sync: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Synchronisierung: %1</translation>
     </message>
     <message>
         <source>Not synced yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht synchronisiert</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <comment>date, time</comment>
-        <translation type="unfinished">%1, %2</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Calendars on this device</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender auf diesem Gerät</translation>
     </message>
     <message>
         <source>Web feed</source>
-        <translation type="unfinished"></translation>
+        <translation>Abonnierter Kalender</translation>
     </message>
 </context>
 <context>
     <name>AccountPill</name>
     <message numerus="yes">
         <source>%n account(s) need attention</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Konto braucht Aufmerksamkeit</numerusform>
+            <numerusform>%n Konten brauchen Aufmerksamkeit</numerusform>
         </translation>
     </message>
     <message>
         <source>Click to open Calendar Accounts and resolve the issues.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken, um die Kalenderkonten zu öffnen und die Probleme zu beheben.</translation>
     </message>
     <message numerus="yes">
         <source>%n account(s) need sign-in</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Konto braucht eine Anmeldung</numerusform>
+            <numerusform>%n Konten brauchen eine Anmeldung</numerusform>
         </translation>
     </message>
     <message>
         <source>Click to open Calendar Accounts and sign in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken, um die Kalenderkonten zu öffnen und sich anzumelden.</translation>
     </message>
     <message numerus="yes">
         <source>%n account(s) need password</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Konto braucht ein Passwort</numerusform>
+            <numerusform>%n Konten brauchen ein Passwort</numerusform>
         </translation>
     </message>
     <message>
         <source>Click to open Calendar Accounts and re-enter the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken, um die Kalenderkonten zu öffnen und das Passwort neu einzugeben.</translation>
     </message>
 </context>
 <context>
     <name>AccountSetup</name>
     <message>
         <source>CalDAV (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>CalDAV (%1)</translation>
     </message>
 </context>
 <context>
@@ -292,275 +292,275 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     <name>CalDavCertificateDialog</name>
     <message>
         <source>Untrusted certificate</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht vertrauenswürdiges Zertifikat</translation>
     </message>
     <message>
         <source>Trust this certificate?</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesem Zertifikat vertrauen?</translation>
     </message>
     <message>
         <source>%1:%2 presented a TLS certificate that doesn&apos;t chain to a trusted root. Review it before trusting it, anyone with this fingerprint can impersonate the server.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2 zeigt ein TLS-Zertifikat, das auf keine vertrauenswürdige Stammzertifizierungsstelle zurückgeht. Prüfen Sie es, bevor Sie ihm vertrauen: Wer diesen Fingerabdruck hat, kann sich als der Server ausgeben.</translation>
     </message>
     <message>
         <source>(unknown)</source>
-        <translation type="unfinished"></translation>
+        <translation>(unbekannt)</translation>
     </message>
     <message>
         <source>Subject</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhaber</translation>
     </message>
     <message>
         <source>Issuer</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussteller</translation>
     </message>
     <message>
         <source>Valid from</source>
-        <translation type="unfinished"></translation>
+        <translation>Gültig ab</translation>
     </message>
     <message>
         <source>Valid until</source>
-        <translation type="unfinished"></translation>
+        <translation>Gültig bis</translation>
     </message>
     <message>
         <source>SHA-256</source>
-        <translation type="unfinished"></translation>
+        <translation>SHA-256</translation>
     </message>
     <message>
         <source>Previously trusted</source>
-        <translation type="unfinished"></translation>
+        <translation>Bisher vertraut</translation>
     </message>
     <message>
         <source>Errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>Only trust this certificate if you control the server and recognize the fingerprint. Trusting a malicious certificate gives attackers full access to your calendar data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertrauen Sie diesem Zertifikat nur, wenn der Server Ihnen untersteht und Sie den Fingerabdruck wiedererkennen. Ein bösartiges Zertifikat gibt Angreifern vollen Zugriff auf Ihre Kalenderdaten.</translation>
     </message>
     <message>
         <source>Trust certificate</source>
-        <translation type="unfinished"></translation>
+        <translation>Zertifikat vertrauen</translation>
     </message>
 </context>
 <context>
     <name>CalDavClient</name>
     <message>
         <source>The connection was closed before the server answered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verbindung wurde geschlossen, bevor der Server geantwortet hat.</translation>
     </message>
 </context>
 <context>
     <name>CalDavConnectionDialog</name>
     <message>
         <source>Add CalDAV Account</source>
-        <translation type="unfinished"></translation>
+        <translation>CalDAV-Konto hinzufügen</translation>
     </message>
     <message>
         <source>Add Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender hinzufügen</translation>
     </message>
     <message>
         <source>Edit CalDAV Account</source>
-        <translation type="unfinished"></translation>
+        <translation>CalDAV-Konto bearbeiten</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished">Speichern</translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Leave empty to keep the stored one</source>
-        <translation type="unfinished"></translation>
+        <translation>Leer lassen, um das gespeicherte zu behalten</translation>
     </message>
     <message>
         <source>The server&apos;s name, unless you give another</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name des Servers, wenn nichts anderes dasteht</translation>
     </message>
     <message>
         <source>Server &amp;URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Server-&amp;URL</translation>
     </message>
     <message>
         <source>User&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer&amp;name</translation>
     </message>
     <message>
         <source>&amp;Password</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Passwort</translation>
     </message>
     <message>
         <source>Account na&amp;me</source>
-        <translation type="unfinished"></translation>
+        <translation>Na&amp;me des Kontos</translation>
     </message>
     <message>
         <source>Discover Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender suchen</translation>
     </message>
     <message>
         <source>“Discover Calendars” shows what the server has, and lets you pick again.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Kalender suchen“ zeigt, was der Server hat, und lässt neu auswählen.</translation>
     </message>
     <message>
         <source>“Discover Calendars” shows here what the server has.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Kalender suchen“ zeigt hier, was der Server hat.</translation>
     </message>
     <message>
         <source>&amp;Calendars</source>
-        <translation type="unfinished">&amp;Kalender</translation>
+        <translation>&amp;Kalender</translation>
     </message>
     <message>
         <source>Calendars</source>
-        <translation type="unfinished">Kalender</translation>
+        <translation>Kalender</translation>
     </message>
     <message>
         <source>Enter the server URL and your username first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie zuerst die Server-URL und den Benutzernamen ein.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Found %1 calendar(s). Pick which to have on this device.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Kalender gefunden. Wählen Sie, welche auf diesem Gerät sein sollen.</translation>
     </message>
     <message>
         <source>Found %1 calendar(s). Pick which to add.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Kalender gefunden. Wählen Sie, welche hinzukommen sollen.</translation>
     </message>
     <message>
         <source>Discover first</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst suchen</translation>
     </message>
     <message>
         <source>Click &quot;Discover Calendars&quot; before saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken Sie vor dem Speichern auf „Kalender suchen“.</translation>
     </message>
     <message>
         <source>Pick at least one</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestens einen auswählen</translation>
     </message>
     <message>
         <source>Select one or more calendars to add.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen oder mehrere Kalender aus.</translation>
     </message>
     <message>
         <source>Already added</source>
-        <translation type="unfinished"></translation>
+        <translation>Schon hinzugefügt</translation>
     </message>
     <message>
         <source>This server is already added as &quot;%1&quot;. Its calendars are already available — no need to add it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Server ist schon als „%1“ hinzugefügt. Seine Kalender sind schon da – er muss nicht noch einmal hinzugefügt werden.</translation>
     </message>
     <message>
         <source>Remove calendars?</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender entfernen?</translation>
     </message>
     <message>
         <source>This account was removed in the meantime.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Konto wurde inzwischen entfernt.</translation>
     </message>
     <message>
         <source>Database Error</source>
-        <translation type="unfinished">Datenbankfehler</translation>
+        <translation>Datenbankfehler</translation>
     </message>
     <message>
         <source>Could not save the account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto konnte nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>Saving the password…</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort wird gespeichert…</translation>
     </message>
     <message>
         <source>Password not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort nicht gespeichert</translation>
     </message>
     <message>
         <source>The system&apos;s password store cannot be used. Calendars sync until Quillon Calendar is closed; after that you have to enter the password of &quot;%1&quot; again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Passwortspeicher des Systems ist nicht verfügbar. Die Kalender werden synchronisiert, bis Quillon Calendar beendet wird; danach müssen Sie das Passwort von „%1“ neu eingeben.</translation>
     </message>
 </context>
 <context>
     <name>CalDavDiscovery</name>
     <message>
         <source>Enter a CalDAV URL starting with http:// or https://</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie eine CalDAV-URL ein, die mit http:// oder https:// beginnt</translation>
     </message>
     <message>
         <source>The server rejected the username or password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat Benutzername oder Passwort abgelehnt.</translation>
     </message>
     <message>
         <source>Could not find a CalDAV account on that server. Check the URL.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem Server wurde kein CalDAV-Konto gefunden. Prüfen Sie die URL.</translation>
     </message>
     <message>
         <source>Could not reach the server: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server ist nicht erreichbar: %1</translation>
     </message>
     <message>
         <source>Lost connection during calendar-home-set discovery: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung bei der Suche nach dem Kalenderverzeichnis verloren: %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 during home-set discovery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat bei der Suche nach dem Kalenderverzeichnis HTTP %1 geantwortet.</translation>
     </message>
     <message>
         <source>Lost connection during calendar enumeration: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung beim Auflisten der Kalender verloren: %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 during calendar enumeration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat beim Auflisten der Kalender HTTP %1 geantwortet.</translation>
     </message>
     <message>
         <source>No calendars found at the discovered home set.</source>
-        <translation type="unfinished"></translation>
+        <translation>Im gefundenen Kalenderverzeichnis sind keine Kalender.</translation>
     </message>
 </context>
 <context>
     <name>CalDavSyncRun</name>
     <message>
         <source>Network error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerkfehler: %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 during ctag check</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat bei der ctag-Prüfung HTTP %1 geantwortet</translation>
     </message>
     <message>
         <source>Server returned HTTP %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat HTTP %1 geantwortet</translation>
     </message>
     <message>
         <source>Network error during task pull: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerkfehler beim Abrufen der Aufgaben: %1</translation>
     </message>
     <message>
         <source>Task push error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Senden einer Aufgabe: %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 pushing task &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat beim Senden der Aufgabe „%2“ HTTP %1 geantwortet</translation>
     </message>
     <message>
         <source>Push error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Senden: %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 pushing &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat beim Senden von „%2“ HTTP %1 geantwortet</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was moved to your local task list: this calendar does not accept tasks. Task support has been turned off for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde in Ihre lokale Aufgabenliste verschoben: Dieser Kalender nimmt keine Aufgaben an. Aufgaben sind für ihn jetzt ausgeschaltet.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was rejected: this calendar does not accept tasks. Task support has been turned off for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde abgelehnt: Dieser Kalender nimmt keine Aufgaben an. Aufgaben sind für ihn jetzt ausgeschaltet.</translation>
     </message>
 </context>
 <context>
@@ -637,23 +637,23 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>On this device</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem Gerät</translation>
     </message>
     <message>
         <source>&amp;Account</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Konto</translation>
     </message>
     <message>
         <source>Allow tasks on this calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufgaben in diesem Kalender erlauben</translation>
     </message>
     <message>
         <source>Missing password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort fehlt</translation>
     </message>
     <message>
         <source>No saved password for this account. Edit the account first to re-enter your credentials.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für dieses Konto ist kein Passwort gespeichert. Bearbeiten Sie zuerst das Konto und geben Sie die Zugangsdaten neu ein.</translation>
     </message>
 </context>
 <context>
@@ -726,45 +726,45 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Re&amp;move from This Device…</source>
-        <translation type="unfinished"></translation>
+        <translation>Von diesem Gerät &amp;entfernen…</translation>
     </message>
 </context>
 <context>
     <name>CalendarPull</name>
     <message>
         <source>The server&apos;s answer was cut off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Antwort des Servers ist abgebrochen.</translation>
     </message>
     <message>
         <source>Some of the calendar could not be stored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Teil des Kalenders konnte nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>The server&apos;s answer is not a list of calendar objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Antwort des Servers ist keine Liste von Kalenderobjekten.</translation>
     </message>
 </context>
 <context>
     <name>CalendarRemoval</name>
     <message numerus="yes">
         <source>%n change(s) made here have not reached the server yet and will be lost.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n hier gemachte Änderung hat den Server noch nicht erreicht und geht verloren.</numerusform>
+            <numerusform>%n hier gemachte Änderungen haben den Server noch nicht erreicht und gehen verloren.</numerusform>
         </translation>
     </message>
     <message>
         <source>&quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“</translation>
     </message>
     <message>
         <source>Remove %1 from this device? The server keeps what is in it.</source>
         <comment>names of calendars</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 von diesem Gerät entfernen? Auf dem Server bleibt der Inhalt erhalten.</translation>
     </message>
     <message>
         <source>Remove calendar?</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender entfernen?</translation>
     </message>
 </context>
 <context>
@@ -778,55 +778,55 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     <name>CollectionJob</name>
     <message>
         <source>Creating calendar on server…</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kalender wird auf dem Server erstellt…</translation>
     </message>
     <message>
         <source>Network error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerkfehler: %1</translation>
     </message>
     <message>
         <source>Server refused (HTTP %1). Your account may not have permission to create calendars on this server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat abgelehnt (HTTP %1). Ihr Konto darf auf diesem Server vielleicht keine Kalender erstellen.</translation>
     </message>
     <message>
         <source>Server returned success but the new calendar isn&apos;t reachable. This server may not support MKCALENDAR.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat Erfolg gemeldet, aber der neue Kalender ist nicht erreichbar. Vielleicht unterstützt der Server MKCALENDAR nicht.</translation>
     </message>
     <message>
         <source>This account was removed in the meantime.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Konto wurde inzwischen entfernt.</translation>
     </message>
     <message>
         <source>Created on server, but couldn&apos;t save locally. Run sync to recover.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Server erstellt, konnte aber hier nicht gespeichert werden. Eine Synchronisierung holt ihn.</translation>
     </message>
     <message>
         <source>This calendar was deleted in the meantime.</source>
-        <translation type="unfinished">Dieser Kalender wurde inzwischen gelöscht.</translation>
+        <translation>Dieser Kalender wurde inzwischen gelöscht.</translation>
     </message>
     <message>
         <source>Checking whether this calendar accepts tasks…</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird geprüft, ob dieser Kalender Aufgaben annimmt…</translation>
     </message>
     <message>
         <source>Couldn&apos;t verify task support: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob Aufgaben möglich sind, konnte nicht geprüft werden: %1</translation>
     </message>
     <message>
         <source>This calendar does not accept tasks (server returned HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Kalender nimmt keine Aufgaben an (der Server hat HTTP %1 geantwortet).</translation>
     </message>
     <message>
         <source>Saving changes to server…</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderungen werden auf dem Server gespeichert…</translation>
     </message>
     <message>
         <source>Server refused (HTTP %1). You may not have permission to rename or recolour this calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat abgelehnt (HTTP %1). Sie dürfen diesen Kalender vielleicht nicht umbenennen oder umfärben.</translation>
     </message>
     <message>
         <source>Saved on server, but couldn&apos;t update locally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Server gespeichert, konnte aber hier nicht geändert werden.</translation>
     </message>
 </context>
 <context>
@@ -899,55 +899,55 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     <name>ConflictResolutionDialog</name>
     <message>
         <source>Sync conflicts</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungskonflikte</translation>
     </message>
     <message>
         <source>No conflicts. Run a sync to detect any.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Konflikte. Eine Synchronisierung findet sie.</translation>
     </message>
     <message>
         <source>These events were edited both locally and on the server. Pick which version to keep for each one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Termine wurden hier und auf dem Server geändert. Wählen Sie für jeden, welche Fassung bleibt.</translation>
     </message>
     <message>
         <source>Your version (local)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Fassung (lokal)</translation>
     </message>
     <message>
         <source>Server version</source>
-        <translation type="unfinished"></translation>
+        <translation>Fassung des Servers</translation>
     </message>
     <message>
         <source>Keep local</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokale behalten</translation>
     </message>
     <message>
         <source>Use server version</source>
-        <translation type="unfinished"></translation>
+        <translation>Fassung des Servers nehmen</translation>
     </message>
     <message>
         <source>Decide later</source>
-        <translation type="unfinished"></translation>
+        <translation>Später entscheiden</translation>
     </message>
     <message>
         <source>Conflict: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Konflikt: %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Title:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Titel:&lt;/b&gt; %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;When:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Wann:&lt;/b&gt; %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Where:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Wo:&lt;/b&gt; %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Notes:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Notizen:&lt;/b&gt; %1</translation>
     </message>
 </context>
 <context>
@@ -1333,11 +1333,11 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>This is one event of a series, changed on its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist ein einzeln geänderter Termin einer Serie.</translation>
     </message>
     <message>
         <source>Not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gespeichert</translation>
     </message>
 </context>
 <context>
@@ -1378,7 +1378,7 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>The series ends before its first event. Choose a later last day.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Serie endet vor ihrem ersten Termin. Wählen Sie einen späteren letzten Tag.</translation>
     </message>
 </context>
 <context>
@@ -2211,23 +2211,23 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Calendar Acc&amp;ounts…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender&amp;konten…</translation>
     </message>
     <message>
         <source>&amp;Sync Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt &amp;synchronisieren</translation>
     </message>
     <message>
         <source>Force F&amp;ull Sync…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vollständige Synchronisierung erzwingen…</translation>
     </message>
     <message>
         <source>Re-pull every event from every account, ignoring sync tokens</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Termine aller Konten neu abrufen, ohne Rücksicht auf Synchronisierungsmarken</translation>
     </message>
     <message>
         <source>&amp;Sync Conflicts…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Synchronisierungskonflikte…</translation>
     </message>
 </context>
 <context>
@@ -2262,7 +2262,7 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Force full sync?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollständige Synchronisierung erzwingen?</translation>
     </message>
     <message>
         <source>Re-fetch every event and task from every account, ignoring saved sync tokens. Useful when items look stale or out of date.
@@ -2270,7 +2270,11 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
 Any unsynced local edits will be discarded in favour of the server&apos;s copy. Pending deletions are preserved.
 
 Heavy accounts may take a minute or two and use more bandwidth than usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Termine und Aufgaben aller Konten werden neu abgerufen, ohne Rücksicht auf gespeicherte Synchronisierungsmarken. Das hilft, wenn Einträge veraltet aussehen.
+
+Noch nicht synchronisierte lokale Änderungen werden zugunsten der Fassung des Servers verworfen. Ausstehende Löschungen bleiben erhalten.
+
+Bei großen Konten kann das ein bis zwei Minuten dauern und mehr Datenvolumen brauchen als sonst.</translation>
     </message>
 </context>
 <context>
@@ -2288,37 +2292,37 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <name>ManageSourcesDialog</name>
     <message>
         <source>Calendar Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalenderkonten</translation>
     </message>
     <message>
         <source>&amp;Add…</source>
-        <translation type="unfinished">&amp;Hinzufügen…</translation>
+        <translation>&amp;Hinzufügen…</translation>
     </message>
     <message>
         <source>Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Konten</translation>
     </message>
     <message>
         <source>&amp;CalDAV account…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;CalDAV-Konto…</translation>
     </message>
     <message>
         <source>&amp;Local calendar…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lokaler Kalender…</translation>
     </message>
     <message>
         <source>Remove &quot;%1&quot; and its calendars from this device? The server keeps what is in them.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ mit den Kalendern von diesem Gerät entfernen? Auf dem Server bleibt der Inhalt erhalten.</translation>
     </message>
     <message>
         <source>Remove account?</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto entfernen?</translation>
     </message>
     <message numerus="yes">
         <source>Discovered %n new calendar(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n neuer Kalender gefunden.</numerusform>
+            <numerusform>%n neue Kalender gefunden.</numerusform>
         </translation>
     </message>
 </context>
@@ -2481,11 +2485,11 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <name>PasswordField</name>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeigen</translation>
     </message>
     <message>
         <source>Show the password</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Passwort anzeigen</translation>
     </message>
 </context>
 <context>
@@ -3275,31 +3279,31 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <message>
         <source>%1st</source>
         <comment>weekday of a month</comment>
-        <translation type="unfinished">%1.</translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>%1st</source>
         <comment>day of a month</comment>
-        <translation type="unfinished">%1.</translation>
+        <translation>%1.</translation>
     </message>
 </context>
 <context>
     <name>ServerLookup</name>
     <message>
         <source>Enter the password of this account first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie zuerst das Passwort dieses Kontos ein.</translation>
     </message>
     <message>
         <source>Connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung wird hergestellt…</translation>
     </message>
     <message>
         <source>Connection cancelled, certificate not trusted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung abgebrochen, dem Zertifikat wird nicht vertraut.</translation>
     </message>
     <message>
         <source>Certificate trusted. Retrying…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dem Zertifikat wird vertraut. Neuer Versuch…</translation>
     </message>
 </context>
 <context>
@@ -3329,43 +3333,43 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <name>SilenceGuard</name>
     <message>
         <source>The server has stopped answering.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server antwortet nicht mehr.</translation>
     </message>
 </context>
 <context>
     <name>SyncScheduler</name>
     <message>
         <source>All caught up, nothing waiting to sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auf dem neuesten Stand, nichts zu synchronisieren.</translation>
     </message>
     <message>
         <source>Password missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort fehlt</translation>
     </message>
     <message>
         <source>Synced %1 events</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Termine synchronisiert</translation>
     </message>
     <message>
         <source>Syncing %1 account(s)…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Konten werden synchronisiert…</translation>
     </message>
     <message>
         <source>No sync accounts configured. Add one in Calendar Accounts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Konten zum Synchronisieren eingerichtet. Fügen Sie eines in den Kalenderkonten hinzu.</translation>
     </message>
     <message numerus="yes">
         <source>Discovered %n new calendar(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n neuer Kalender gefunden.</numerusform>
+            <numerusform>%n neue Kalender gefunden.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Cleared %n calendar sync token(s), running full sync…</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Synchronisierungsmarke gelöscht, vollständige Synchronisierung läuft…</numerusform>
+            <numerusform>%n Synchronisierungsmarken gelöscht, vollständige Synchronisierung läuft…</numerusform>
         </translation>
     </message>
 </context>
@@ -3833,7 +3837,7 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <message>
         <source>Filter tasks: %1</source>
         <extracomment>%1 is the name of a filter</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aufgaben filtern: %1</translation>
     </message>
 </context>
 <context>
@@ -4195,7 +4199,7 @@ d. MMM</translation>
     </message>
     <message>
         <source>First day of the &amp;week</source>
-        <translation type="unfinished"></translation>
+        <translation>Erster Tag der &amp;Woche</translation>
     </message>
 </context>
 <context>

@@ -32,81 +32,81 @@
     <name>AccountDetails</name>
     <message>
         <source>Manually</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuellement</translation>
     </message>
     <message numerus="yes">
         <source>Every %n hour(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Intervalle de %n heure</numerusform>
+            <numerusform>Intervalle de %n heures</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Every %n minute(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Intervalle de %n minute</numerusform>
+            <numerusform>Intervalle de %n minutes</numerusform>
         </translation>
     </message>
     <message>
         <source>S&amp;ync this account</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;ynchroniser ce compte</translation>
     </message>
     <message>
         <source>E&amp;xclude from cloud sync</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xclure de la synchronisation dans le nuage</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveur</translation>
     </message>
     <message>
         <source>Username</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom d’utilisateur</translation>
     </message>
     <message>
         <source>Calendars</source>
-        <translation type="unfinished">Calendriers</translation>
+        <translation>Calendriers</translation>
     </message>
     <message>
         <source>Last sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière synchronisation</translation>
     </message>
     <message>
         <source>Sync &amp;interval</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Intervalle de synchronisation</translation>
     </message>
     <message>
         <source>C&amp;olor</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;ouleur</translation>
     </message>
     <message>
         <source>&amp;Edit…</source>
-        <translation type="unfinished">&amp;Modifier…</translation>
+        <translation>&amp;Modifier…</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Ac&amp;tualiser</translation>
     </message>
     <message>
         <source>Remo&amp;ve…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retirer…</translation>
     </message>
     <message>
         <source>Enter &amp;Password…</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisir le mot de &amp;passe…</translation>
     </message>
     <message>
         <source>Review &amp;Certificate…</source>
-        <translation type="unfinished"></translation>
+        <translation>Examiner le &amp;certificat…</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Aucune</translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -114,107 +114,107 @@
     <message>
         <source>%1: %2</source>
         <comment>calendar, error</comment>
-        <translation type="unfinished">%1&#xa0;: %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>On this device</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur cet appareil</translation>
     </message>
     <message>
         <source>Turned off</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactivé</translation>
     </message>
     <message>
         <source>Certificate changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Certificat modifié</translation>
     </message>
     <message>
         <source>The server shows a certificate that you have not trusted. Nothing syncs until you have reviewed it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur présente un certificat auquel vous n’avez pas fait confiance. Rien n’est synchronisé tant que vous ne l’avez pas examiné.</translation>
     </message>
     <message>
         <source>The password of this account is not on this device. Nothing syncs until you enter it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le mot de passe de ce compte n’est pas sur cet appareil. Rien n’est synchronisé tant que vous ne l’avez pas saisi.</translation>
     </message>
     <message>
         <source>Sign in required</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion requise</translation>
     </message>
     <message>
         <source>The sign-in of this account has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>La connexion de ce compte a expiré.</translation>
     </message>
     <message>
         <source>Sync failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la synchronisation</translation>
     </message>
     <message>
         <source>Last sync: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière synchronisation : %1</translation>
     </message>
     <message>
         <source>Not synced yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore synchronisé</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>Jamais</translation>
     </message>
     <message>
         <source>%1, %2</source>
         <comment>date, time</comment>
-        <translation type="unfinished">%1, %2</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Calendars on this device</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendriers sur cet appareil</translation>
     </message>
     <message>
         <source>Web feed</source>
-        <translation type="unfinished"></translation>
+        <translation>Flux web</translation>
     </message>
 </context>
 <context>
     <name>AccountPill</name>
     <message numerus="yes">
         <source>%n account(s) need attention</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n compte demande votre attention</numerusform>
+            <numerusform>%n comptes demandent votre attention</numerusform>
         </translation>
     </message>
     <message>
         <source>Click to open Calendar Accounts and resolve the issues.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez pour ouvrir les comptes de calendrier et résoudre les problèmes.</translation>
     </message>
     <message numerus="yes">
         <source>%n account(s) need sign-in</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n compte demande une connexion</numerusform>
+            <numerusform>%n comptes demandent une connexion</numerusform>
         </translation>
     </message>
     <message>
         <source>Click to open Calendar Accounts and sign in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez pour ouvrir les comptes de calendrier et vous connecter.</translation>
     </message>
     <message numerus="yes">
         <source>%n account(s) need password</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n compte demande un mot de passe</numerusform>
+            <numerusform>%n comptes demandent un mot de passe</numerusform>
         </translation>
     </message>
     <message>
         <source>Click to open Calendar Accounts and re-enter the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez pour ouvrir les comptes de calendrier et saisir à nouveau le mot de passe.</translation>
     </message>
 </context>
 <context>
     <name>AccountSetup</name>
     <message>
         <source>CalDAV (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>CalDAV (%1)</translation>
     </message>
 </context>
 <context>
@@ -292,275 +292,275 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
     <name>CalDavCertificateDialog</name>
     <message>
         <source>Untrusted certificate</source>
-        <translation type="unfinished"></translation>
+        <translation>Certificat non approuvé</translation>
     </message>
     <message>
         <source>Trust this certificate?</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire confiance à ce certificat ?</translation>
     </message>
     <message>
         <source>%1:%2 presented a TLS certificate that doesn&apos;t chain to a trusted root. Review it before trusting it, anyone with this fingerprint can impersonate the server.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:%2 a présenté un certificat TLS qui ne remonte à aucune autorité approuvée. Examinez-le avant de lui faire confiance : quiconque possède cette empreinte peut se faire passer pour le serveur.</translation>
     </message>
     <message>
         <source>(unknown)</source>
-        <translation type="unfinished"></translation>
+        <translation>(inconnu)</translation>
     </message>
     <message>
         <source>Subject</source>
-        <translation type="unfinished"></translation>
+        <translation>Sujet</translation>
     </message>
     <message>
         <source>Issuer</source>
-        <translation type="unfinished"></translation>
+        <translation>Émetteur</translation>
     </message>
     <message>
         <source>Valid from</source>
-        <translation type="unfinished"></translation>
+        <translation>Valable du</translation>
     </message>
     <message>
         <source>Valid until</source>
-        <translation type="unfinished"></translation>
+        <translation>Valable jusqu’au</translation>
     </message>
     <message>
         <source>SHA-256</source>
-        <translation type="unfinished"></translation>
+        <translation>SHA-256</translation>
     </message>
     <message>
         <source>Previously trusted</source>
-        <translation type="unfinished"></translation>
+        <translation>Approuvé auparavant</translation>
     </message>
     <message>
         <source>Errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreurs</translation>
     </message>
     <message>
         <source>Only trust this certificate if you control the server and recognize the fingerprint. Trusting a malicious certificate gives attackers full access to your calendar data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne faites confiance à ce certificat que si vous administrez le serveur et reconnaissez l’empreinte. Un certificat malveillant donne aux attaquants un accès complet à vos données de calendrier.</translation>
     </message>
     <message>
         <source>Trust certificate</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire confiance</translation>
     </message>
 </context>
 <context>
     <name>CalDavClient</name>
     <message>
         <source>The connection was closed before the server answered.</source>
-        <translation type="unfinished"></translation>
+        <translation>La connexion a été fermée avant que le serveur réponde.</translation>
     </message>
 </context>
 <context>
     <name>CalDavConnectionDialog</name>
     <message>
         <source>Add CalDAV Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un compte CalDAV</translation>
     </message>
     <message>
         <source>Add Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter les calendriers</translation>
     </message>
     <message>
         <source>Edit CalDAV Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier le compte CalDAV</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished">Enregistrer</translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Leave empty to keep the stored one</source>
-        <translation type="unfinished"></translation>
+        <translation>Laisser vide pour garder celui qui est enregistré</translation>
     </message>
     <message>
         <source>The server&apos;s name, unless you give another</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom du serveur, sauf si vous en donnez un autre</translation>
     </message>
     <message>
         <source>Server &amp;URL</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;URL du serveur</translation>
     </message>
     <message>
         <source>User&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nom d’utilisateur</translation>
     </message>
     <message>
         <source>&amp;Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de &amp;passe</translation>
     </message>
     <message>
         <source>Account na&amp;me</source>
-        <translation type="unfinished"></translation>
+        <translation>No&amp;m du compte</translation>
     </message>
     <message>
         <source>Discover Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher les calendriers</translation>
     </message>
     <message>
         <source>“Discover Calendars” shows what the server has, and lets you pick again.</source>
-        <translation type="unfinished"></translation>
+        <translation>« Rechercher les calendriers » montre ce que le serveur contient et permet de choisir à nouveau.</translation>
     </message>
     <message>
         <source>“Discover Calendars” shows here what the server has.</source>
-        <translation type="unfinished"></translation>
+        <translation>« Rechercher les calendriers » montre ici ce que le serveur contient.</translation>
     </message>
     <message>
         <source>&amp;Calendars</source>
-        <translation type="unfinished">&amp;Calendriers</translation>
+        <translation>&amp;Calendriers</translation>
     </message>
     <message>
         <source>Calendars</source>
-        <translation type="unfinished">Calendriers</translation>
+        <translation>Calendriers</translation>
     </message>
     <message>
         <source>Enter the server URL and your username first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez d’abord l’URL du serveur et votre nom d’utilisateur.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Found %1 calendar(s). Pick which to have on this device.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 calendrier(s) trouvé(s). Choisissez ceux à garder sur cet appareil.</translation>
     </message>
     <message>
         <source>Found %1 calendar(s). Pick which to add.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 calendrier(s) trouvé(s). Choisissez ceux à ajouter.</translation>
     </message>
     <message>
         <source>Discover first</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherchez d’abord</translation>
     </message>
     <message>
         <source>Click &quot;Discover Calendars&quot; before saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez sur « Rechercher les calendriers » avant d’enregistrer.</translation>
     </message>
     <message>
         <source>Pick at least one</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez-en au moins un</translation>
     </message>
     <message>
         <source>Select one or more calendars to add.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un ou plusieurs calendriers à ajouter.</translation>
     </message>
     <message>
         <source>Already added</source>
-        <translation type="unfinished"></translation>
+        <translation>Déjà ajouté</translation>
     </message>
     <message>
         <source>This server is already added as &quot;%1&quot;. Its calendars are already available — no need to add it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce serveur est déjà ajouté sous le nom « %1 ». Ses calendriers sont déjà disponibles — inutile de l’ajouter de nouveau.</translation>
     </message>
     <message>
         <source>Remove calendars?</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer des calendriers ?</translation>
     </message>
     <message>
         <source>This account was removed in the meantime.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce compte a été retiré entre-temps.</translation>
     </message>
     <message>
         <source>Database Error</source>
-        <translation type="unfinished">Erreur de base de données</translation>
+        <translation>Erreur de base de données</translation>
     </message>
     <message>
         <source>Could not save the account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’enregistrer le compte.</translation>
     </message>
     <message>
         <source>Saving the password…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement du mot de passe…</translation>
     </message>
     <message>
         <source>Password not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe non enregistré</translation>
     </message>
     <message>
         <source>The system&apos;s password store cannot be used. Calendars sync until Quillon Calendar is closed; after that you have to enter the password of &quot;%1&quot; again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le trousseau de mots de passe du système n’est pas disponible. Les calendriers sont synchronisés jusqu’à la fermeture de Quillon Calendar ; ensuite, vous devrez saisir à nouveau le mot de passe de « %1 ».</translation>
     </message>
 </context>
 <context>
     <name>CalDavDiscovery</name>
     <message>
         <source>Enter a CalDAV URL starting with http:// or https://</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez une URL CalDAV qui commence par http:// ou https://</translation>
     </message>
     <message>
         <source>The server rejected the username or password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a refusé le nom d’utilisateur ou le mot de passe.</translation>
     </message>
     <message>
         <source>Could not find a CalDAV account on that server. Check the URL.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun compte CalDAV trouvé sur ce serveur. Vérifiez l’URL.</translation>
     </message>
     <message>
         <source>Could not reach the server: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de joindre le serveur : %1</translation>
     </message>
     <message>
         <source>Lost connection during calendar-home-set discovery: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion perdue pendant la recherche du dossier des calendriers : %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 during home-set discovery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a répondu HTTP %1 pendant la recherche du dossier des calendriers.</translation>
     </message>
     <message>
         <source>Lost connection during calendar enumeration: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion perdue pendant l’énumération des calendriers : %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 during calendar enumeration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a répondu HTTP %1 pendant l’énumération des calendriers.</translation>
     </message>
     <message>
         <source>No calendars found at the discovered home set.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun calendrier dans le dossier trouvé.</translation>
     </message>
 </context>
 <context>
     <name>CalDavSyncRun</name>
     <message>
         <source>Network error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur réseau : %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 during ctag check</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a répondu HTTP %1 pendant la vérification du ctag</translation>
     </message>
     <message>
         <source>Server returned HTTP %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a répondu HTTP %1</translation>
     </message>
     <message>
         <source>Network error during task pull: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur réseau pendant la récupération des tâches : %1</translation>
     </message>
     <message>
         <source>Task push error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur d’envoi d’une tâche : %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 pushing task &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a répondu HTTP %1 à l’envoi de la tâche « %2 »</translation>
     </message>
     <message>
         <source>Push error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur d’envoi : %1</translation>
     </message>
     <message>
         <source>Server returned HTTP %1 pushing &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a répondu HTTP %1 à l’envoi de « %2 »</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was moved to your local task list: this calendar does not accept tasks. Task support has been turned off for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » a été déplacée dans votre liste de tâches locale : ce calendrier n’accepte pas les tâches. Les tâches y ont été désactivées.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was rejected: this calendar does not accept tasks. Task support has been turned off for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » a été refusée : ce calendrier n’accepte pas les tâches. Les tâches y ont été désactivées.</translation>
     </message>
 </context>
 <context>
@@ -637,23 +637,23 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
     </message>
     <message>
         <source>On this device</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur cet appareil</translation>
     </message>
     <message>
         <source>&amp;Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Comp&amp;te</translation>
     </message>
     <message>
         <source>Allow tasks on this calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Autoriser les tâches dans ce calendrier</translation>
     </message>
     <message>
         <source>Missing password</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe manquant</translation>
     </message>
     <message>
         <source>No saved password for this account. Edit the account first to re-enter your credentials.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun mot de passe enregistré pour ce compte. Modifiez d’abord le compte pour saisir à nouveau vos identifiants.</translation>
     </message>
 </context>
 <context>
@@ -726,45 +726,45 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
     </message>
     <message>
         <source>Re&amp;move from This Device…</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer de cet appareil (&amp;m)…</translation>
     </message>
 </context>
 <context>
     <name>CalendarPull</name>
     <message>
         <source>The server&apos;s answer was cut off.</source>
-        <translation type="unfinished"></translation>
+        <translation>La réponse du serveur a été interrompue.</translation>
     </message>
     <message>
         <source>Some of the calendar could not be stored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une partie du calendrier n’a pas pu être enregistrée.</translation>
     </message>
     <message>
         <source>The server&apos;s answer is not a list of calendar objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>La réponse du serveur n’est pas une liste d’objets de calendrier.</translation>
     </message>
 </context>
 <context>
     <name>CalendarRemoval</name>
     <message numerus="yes">
         <source>%n change(s) made here have not reached the server yet and will be lost.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n modification faite ici n’a pas encore atteint le serveur et sera perdue.</numerusform>
+            <numerusform>%n modifications faites ici n’ont pas encore atteint le serveur et seront perdues.</numerusform>
         </translation>
     </message>
     <message>
         <source>&quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 »</translation>
     </message>
     <message>
         <source>Remove %1 from this device? The server keeps what is in it.</source>
         <comment>names of calendars</comment>
-        <translation type="unfinished"></translation>
+        <translation>Retirer %1 de cet appareil ? Le serveur garde son contenu.</translation>
     </message>
     <message>
         <source>Remove calendar?</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer le calendrier ?</translation>
     </message>
 </context>
 <context>
@@ -778,55 +778,55 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
     <name>CollectionJob</name>
     <message>
         <source>Creating calendar on server…</source>
-        <translation type="unfinished"></translation>
+        <translation>Création du calendrier sur le serveur…</translation>
     </message>
     <message>
         <source>Network error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur réseau : %1</translation>
     </message>
     <message>
         <source>Server refused (HTTP %1). Your account may not have permission to create calendars on this server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a refusé (HTTP %1). Votre compte n’a peut-être pas le droit de créer des calendriers sur ce serveur.</translation>
     </message>
     <message>
         <source>Server returned success but the new calendar isn&apos;t reachable. This server may not support MKCALENDAR.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a annoncé un succès, mais le nouveau calendrier est introuvable. Ce serveur ne prend peut-être pas en charge MKCALENDAR.</translation>
     </message>
     <message>
         <source>This account was removed in the meantime.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce compte a été retiré entre-temps.</translation>
     </message>
     <message>
         <source>Created on server, but couldn&apos;t save locally. Run sync to recover.</source>
-        <translation type="unfinished"></translation>
+        <translation>Créé sur le serveur, mais impossible de l’enregistrer ici. Lancez une synchronisation pour le récupérer.</translation>
     </message>
     <message>
         <source>This calendar was deleted in the meantime.</source>
-        <translation type="unfinished">Ce calendrier a été supprimé entre-temps.</translation>
+        <translation>Ce calendrier a été supprimé entre-temps.</translation>
     </message>
     <message>
         <source>Checking whether this calendar accepts tasks…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification de la prise en charge des tâches…</translation>
     </message>
     <message>
         <source>Couldn&apos;t verify task support: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de vérifier la prise en charge des tâches : %1</translation>
     </message>
     <message>
         <source>This calendar does not accept tasks (server returned HTTP %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce calendrier n’accepte pas les tâches (le serveur a répondu HTTP %1).</translation>
     </message>
     <message>
         <source>Saving changes to server…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement des modifications sur le serveur…</translation>
     </message>
     <message>
         <source>Server refused (HTTP %1). You may not have permission to rename or recolour this calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a refusé (HTTP %1). Vous n’avez peut-être pas le droit de renommer ou de recolorer ce calendrier.</translation>
     </message>
     <message>
         <source>Saved on server, but couldn&apos;t update locally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré sur le serveur, mais impossible de le mettre à jour ici.</translation>
     </message>
 </context>
 <context>
@@ -899,55 +899,55 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
     <name>ConflictResolutionDialog</name>
     <message>
         <source>Sync conflicts</source>
-        <translation type="unfinished"></translation>
+        <translation>Conflits de synchronisation</translation>
     </message>
     <message>
         <source>No conflicts. Run a sync to detect any.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun conflit. Lancez une synchronisation pour en détecter.</translation>
     </message>
     <message>
         <source>These events were edited both locally and on the server. Pick which version to keep for each one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces événements ont été modifiés ici et sur le serveur. Choisissez pour chacun la version à garder.</translation>
     </message>
     <message>
         <source>Your version (local)</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre version (locale)</translation>
     </message>
     <message>
         <source>Server version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version du serveur</translation>
     </message>
     <message>
         <source>Keep local</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder la version locale</translation>
     </message>
     <message>
         <source>Use server version</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre celle du serveur</translation>
     </message>
     <message>
         <source>Decide later</source>
-        <translation type="unfinished"></translation>
+        <translation>Décider plus tard</translation>
     </message>
     <message>
         <source>Conflict: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conflit : %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Title:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Titre :&lt;/b&gt; %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;When:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Quand :&lt;/b&gt; %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Where:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Où :&lt;/b&gt; %1</translation>
     </message>
     <message>
         <source>&lt;b&gt;Notes:&lt;/b&gt; %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;Notes :&lt;/b&gt; %1</translation>
     </message>
 </context>
 <context>
@@ -1333,11 +1333,11 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
     </message>
     <message>
         <source>This is one event of a series, changed on its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>C’est un événement d’une série, modifié séparément.</translation>
     </message>
     <message>
         <source>Not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Non enregistré</translation>
     </message>
 </context>
 <context>
@@ -1378,7 +1378,7 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
     </message>
     <message>
         <source>The series ends before its first event. Choose a later last day.</source>
-        <translation type="unfinished"></translation>
+        <translation>La série se termine avant son premier événement. Choisissez un dernier jour plus tardif.</translation>
     </message>
 </context>
 <context>
@@ -2211,23 +2211,23 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
     </message>
     <message>
         <source>Calendar Acc&amp;ounts…</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;omptes de calendrier…</translation>
     </message>
     <message>
         <source>&amp;Sync Now</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Synchroniser maintenant</translation>
     </message>
     <message>
         <source>Force F&amp;ull Sync…</source>
-        <translation type="unfinished"></translation>
+        <translation>Forcer une s&amp;ynchronisation complète…</translation>
     </message>
     <message>
         <source>Re-pull every event from every account, ignoring sync tokens</source>
-        <translation type="unfinished"></translation>
+        <translation>Récupérer à nouveau tous les événements de tous les comptes, sans tenir compte des jetons de synchronisation</translation>
     </message>
     <message>
         <source>&amp;Sync Conflicts…</source>
-        <translation type="unfinished"></translation>
+        <translation>Conflits de &amp;synchronisation…</translation>
     </message>
 </context>
 <context>
@@ -2262,7 +2262,7 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
     </message>
     <message>
         <source>Force full sync?</source>
-        <translation type="unfinished"></translation>
+        <translation>Forcer une synchronisation complète ?</translation>
     </message>
     <message>
         <source>Re-fetch every event and task from every account, ignoring saved sync tokens. Useful when items look stale or out of date.
@@ -2270,7 +2270,11 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
 Any unsynced local edits will be discarded in favour of the server&apos;s copy. Pending deletions are preserved.
 
 Heavy accounts may take a minute or two and use more bandwidth than usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les événements et tâches de tous les comptes sont récupérés à nouveau, sans tenir compte des jetons de synchronisation. Utile quand des éléments semblent périmés.
+
+Les modifications locales non synchronisées sont abandonnées au profit de la copie du serveur. Les suppressions en attente sont conservées.
+
+Pour de gros comptes, cela peut prendre une minute ou deux et consommer plus de données que d’habitude.</translation>
     </message>
 </context>
 <context>
@@ -2288,37 +2292,37 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <name>ManageSourcesDialog</name>
     <message>
         <source>Calendar Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Comptes de calendrier</translation>
     </message>
     <message>
         <source>&amp;Add…</source>
-        <translation type="unfinished">&amp;Ajouter…</translation>
+        <translation>&amp;Ajouter…</translation>
     </message>
     <message>
         <source>Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Comptes</translation>
     </message>
     <message>
         <source>&amp;CalDAV account…</source>
-        <translation type="unfinished"></translation>
+        <translation>Compte &amp;CalDAV…</translation>
     </message>
     <message>
         <source>&amp;Local calendar…</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendrier &amp;local…</translation>
     </message>
     <message>
         <source>Remove &quot;%1&quot; and its calendars from this device? The server keeps what is in them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer « %1 » et ses calendriers de cet appareil ? Le serveur garde leur contenu.</translation>
     </message>
     <message>
         <source>Remove account?</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer le compte ?</translation>
     </message>
     <message numerus="yes">
         <source>Discovered %n new calendar(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nouveau calendrier trouvé.</numerusform>
+            <numerusform>%n nouveaux calendriers trouvés.</numerusform>
         </translation>
     </message>
 </context>
@@ -2481,11 +2485,11 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <name>PasswordField</name>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>Show the password</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le mot de passe</translation>
     </message>
 </context>
 <context>
@@ -3275,31 +3279,31 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <message>
         <source>%1st</source>
         <comment>weekday of a month</comment>
-        <translation type="unfinished">%1</translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>%1st</source>
         <comment>day of a month</comment>
-        <translation type="unfinished">%1</translation>
+        <translation>%1</translation>
     </message>
 </context>
 <context>
     <name>ServerLookup</name>
     <message>
         <source>Enter the password of this account first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez d’abord le mot de passe de ce compte.</translation>
     </message>
     <message>
         <source>Connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion…</translation>
     </message>
     <message>
         <source>Connection cancelled, certificate not trusted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion annulée, certificat non approuvé.</translation>
     </message>
     <message>
         <source>Certificate trusted. Retrying…</source>
-        <translation type="unfinished"></translation>
+        <translation>Certificat approuvé. Nouvel essai…</translation>
     </message>
 </context>
 <context>
@@ -3329,43 +3333,43 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <name>SilenceGuard</name>
     <message>
         <source>The server has stopped answering.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur ne répond plus.</translation>
     </message>
 </context>
 <context>
     <name>SyncScheduler</name>
     <message>
         <source>All caught up, nothing waiting to sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout est à jour, rien à synchroniser.</translation>
     </message>
     <message>
         <source>Password missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe manquant</translation>
     </message>
     <message>
         <source>Synced %1 events</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 événements synchronisés</translation>
     </message>
     <message>
         <source>Syncing %1 account(s)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisation de %1 compte(s)…</translation>
     </message>
     <message>
         <source>No sync accounts configured. Add one in Calendar Accounts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun compte à synchroniser. Ajoutez-en un dans les comptes de calendrier.</translation>
     </message>
     <message numerus="yes">
         <source>Discovered %n new calendar(s).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n nouveau calendrier trouvé.</numerusform>
+            <numerusform>%n nouveaux calendriers trouvés.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Cleared %n calendar sync token(s), running full sync…</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n jeton de synchronisation effacé, synchronisation complète en cours…</numerusform>
+            <numerusform>%n jetons de synchronisation effacés, synchronisation complète en cours…</numerusform>
         </translation>
     </message>
 </context>
@@ -3833,7 +3837,7 @@ Heavy accounts may take a minute or two and use more bandwidth than usual.</sour
     <message>
         <source>Filter tasks: %1</source>
         <extracomment>%1 is the name of a filter</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Filtrer les tâches : %1</translation>
     </message>
 </context>
 <context>
@@ -4195,7 +4199,7 @@ d MMM</translation>
     </message>
     <message>
         <source>First day of the &amp;week</source>
-        <translation type="unfinished"></translation>
+        <translation>Premier jour de la &amp;semaine</translation>
     </message>
 </context>
 <context>
