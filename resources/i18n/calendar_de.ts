@@ -2211,7 +2211,7 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Calendar Acc&amp;ounts…</source>
-        <translation>Kalender&amp;konten…</translation>
+        <translation>Kalenderk&amp;onten…</translation>
     </message>
     <message>
         <source>&amp;Sync Now</source>
