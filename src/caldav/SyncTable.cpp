@@ -164,18 +164,23 @@ public:
         for (const Record &row : std::as_const(m_changed))
             acceptRow(row, sent, newHref, newEtag);
         for (const Record &row : std::as_const(m_removed)) {
-            const auto stored = m_kind.repository->getById(row.id);
+            const auto stored = storedRow(row);
             if (stored && stored->deletedAt)
                 m_kind.repository->hardDelete(row.id);
             else if (stored)
                 m_kind.repository->setAddress(row.id, newHref, newEtag);
         }
         for (const Record &row : std::as_const(m_others)) {
+            const auto stored = storedRow(row);
+            if (!stored)
+                continue;
             // An instance that was renamed here had come back under its old name with the server's copy.
-            if (!row.href.isEmpty() && !findIn(sent, row))
-                purge(row);
-            else if (row.href != newHref || row.etag != newEtag)
+            if (!row.href.isEmpty() && !findIn(sent, row)) {
+                if (!isPending(*stored))
+                    m_kind.repository->hardDelete(row.id);
+            } else if (row.href != newHref || row.etag != newEtag) {
                 m_kind.repository->setAddress(row.id, newHref, newEtag);
+            }
         }
         if (!savepoint.commit())
             qCWarning(caldavLog).noquote() << "[CalDav] markSynced failed for" << title << "id=" << id;
@@ -228,16 +233,17 @@ private:
         return found == records.end() ? nullptr : &*found;
     }
 
-    void purge(const Record &row)
+    /// As it is now: the user may have changed it while the push was on its way. Nothing if it has gone to another
+    /// resource since.
+    std::optional<Record> storedRow(const Record &row) const
     {
-        const auto stored = m_kind.repository->getById(row.id);
-        if (stored && !isPending(*stored)) // the user may have changed it while the push was on its way
-            m_kind.repository->hardDelete(row.id);
+        auto stored = m_kind.repository->getById(row.id);
+        return stored && stored->uid == row.uid ? stored : std::nullopt;
     }
 
     void acceptRow(const Record &row, const QList<Record> &sent, const QString &newHref, const QString &newEtag)
     {
-        const auto stored = m_kind.repository->getById(row.id);
+        const auto stored = storedRow(row);
         if (!stored)
             return;
         const Record *text = findIn(sent, row);
