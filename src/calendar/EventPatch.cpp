@@ -12,21 +12,7 @@ using namespace ICal;
 
 namespace {
 
-/// "52.5;13.4" from that, or from a text with a comma; empty for a text that names no place on earth.
-QByteArray geoValue(const QString &text)
-{
-    QString plain = text;
-    const QStringList numbers = plain.replace(u',', u';').split(u';');
-    bool isLatitude = false;
-    bool isLongitude = false;
-    if (numbers.size() == 2) {
-        numbers[0].trimmed().toDouble(&isLatitude);
-        numbers[1].trimmed().toDouble(&isLongitude);
-    }
-    return isLatitude && isLongitude ? plainValue(numbers[0].trimmed() + u';' + numbers[1].trimmed()) : QByteArray();
-}
-
-/// A call by telephone beside the URL stays. RFC 7986 §5.11.
+/// No reader fills the column: an empty one says nothing. A call by telephone beside the URL stays. RFC 7986 §5.11.
 void setConference(TreeComponent &vevent, const QByteArray &url)
 {
     const auto isThere = [&url, &vevent](QByteArrayView name) {
@@ -40,17 +26,6 @@ void setConference(TreeComponent &vevent, const QByteArray &url)
         ComponentPatch::setValue(vevent, "CONFERENCE", url);
     else
         vevent.addLine("CONFERENCE;VALUE=URI:" + url);
-}
-
-/// What no reader fills a column from: an empty one says nothing.
-void setUnread(TreeComponent &vevent, const Event &event)
-{
-    if (const QByteArray geo = geoValue(event.geoLocation); !geo.isEmpty()) {
-        const TreeLine *old = vevent.lastLine("GEO");
-        if (!old || geoValue(QString::fromUtf8(old->content().value())) != geo)
-            ComponentPatch::setValue(vevent, "GEO", geo);
-    }
-    setConference(vevent, plainValue(event.conferenceUrl));
 }
 
 void setReminders(TreeComponent &vevent, const Event &event)
@@ -76,7 +51,7 @@ void EventPatch::apply(TreeComponent &vevent, const Event &before, const Event &
     ComponentPatch::setPlain(vevent, "URL", before.eventUrl, event.eventUrl);
     ComponentPatch::setWord(vevent, "STATUS", before.status, event.status, Event().status);
     ComponentPatch::setParent(vevent, ComponentPatch::Parent::FirstNamed, before.relatedToUid, event.relatedToUid);
-    setUnread(vevent, event);
+    setConference(vevent, plainValue(event.conferenceUrl));
     PeoplePatch::setOrganizer(vevent, before, event);
     PeoplePatch::setAttendees(vevent, before, event, ownAddresses);
     setReminders(vevent, event);

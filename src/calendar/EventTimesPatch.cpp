@@ -68,7 +68,6 @@ void EventTimesPatch::apply(const std::optional<TimeForm> &series)
         patchEnd();
     }
     patchRule();
-    patchFurtherDates();
     patchExceptionDates();
     patchInstanceName(series);
 }
@@ -180,30 +179,10 @@ void EventTimesPatch::patchInstanceName(const std::optional<TimeForm> &series)
     m_vevent.setLine(old ? form.lineAfter(old->content(), instance) : form.line("RECURRENCE-ID", instance));
 }
 
-void EventTimesPatch::patchExceptionDates()
-{
-    const QStringList read = names(m_before.exceptionDates);
-    qsizetype next = 0;
-    patchDates("EXDATE", instants(m_event.exceptionDates), [&](const ICalParser::DateTimeValue &) {
-        const auto name = next < read.size() ? InstanceName::parse(read[next++]) : std::nullopt;
-        return name ? std::optional(name->startMs) : std::nullopt;
-    });
-}
-
-/// No column is read from RDATE: an empty one says nothing.
-void EventTimesPatch::patchFurtherDates()
-{
-    const Instants wanted = instants(m_event.recurrenceDates);
-    if (wanted.empty())
-        return;
-    patchDates("RDATE", wanted,
-               [](const ICalParser::DateTimeValue &time) { return std::optional(time.value.toMSecsSinceEpoch()); });
-}
-
-EventTimesPatch::Instants EventTimesPatch::instants(const QString &json) const
+EventTimesPatch::Instants EventTimesPatch::excluded() const
 {
     Instants instants;
-    const QStringList list = names(json);
+    const QStringList list = names(m_event.exceptionDates);
     for (const QString &text : list) {
         if (const auto name = InstanceName::parse(m_event.isAllDay ? text.left(CompactDateLength) : text))
             instants.insert(name->startMs);
@@ -211,35 +190,40 @@ EventTimesPatch::Instants EventTimesPatch::instants(const QString &json) const
     return instants;
 }
 
-void EventTimesPatch::patchDates(const QByteArray &property, const Instants &wanted, const NamedInstant &instantOf)
+/// Goes through the lines along with what the reader made of them.
+void EventTimesPatch::patchExceptionDates()
 {
+    const QStringList read = names(m_before.exceptionDates);
+    qsizetype next = 0;
+    const Instants wanted = excluded();
     Instants missing = wanted;
     DateTimeReader reader;
-    m_vevent.rewriteLines(property, [&](const TreeLine &line) -> std::optional<QByteArray> {
+    m_vevent.rewriteLines("EXDATE", [&](const TreeLine &line) -> std::optional<QByteArray> {
         const ContentLine content = line.content();
         const QByteArrayView tzid = content.parameter("TZID");
+        const bool isFloating = tzid.isEmpty() && !content.value().endsWith('Z');
         const QByteArrayList parts = content.value().toByteArray().split(',');
         QByteArrayList kept;
         for (const QByteArray &part : parts) {
-            const QByteArray start = property == "RDATE" ? part.split('/').first() : part; // that of a period
-            const ICalParser::DateTimeValue time = reader.read(start.trimmed(), tzid);
-            const std::optional<qint64> instant = time.value.isValid() ? instantOf(time) : std::nullopt;
-            // The date of a timed instance takes its hour from the start.
-            const bool isRight = !m_isStartChanged || time.isDate == m_event.isAllDay;
-            if (instant && (!isRight || !wanted.contains(*instant)))
+            const auto [value, isDate] = reader.read(part.trimmed(), tzid);
+            const auto name = value.isValid() && next < read.size() ? InstanceName::parse(read[next++]) : std::nullopt;
+            // The date of a timed instance takes its hour from the start, and a floating one its instant.
+            const bool isLikeStart = isDate || isFloating == (m_form.kind() == TimeForm::Kind::Floating);
+            const bool isRight = !m_isStartChanged || (isDate == m_event.isAllDay && isLikeStart);
+            if (name && (!isRight || !wanted.contains(name->startMs)))
                 continue;
-            if (instant)
-                missing.erase(*instant);
+            if (name)
+                missing.erase(name->startMs);
             kept.append(part);
         }
         if (kept.size() == parts.size())
             return line.text();
         return kept.isEmpty() ? std::nullopt : std::optional(withValue(content, kept.join(',')));
     });
-    addDates(property, missing);
+    addExceptionDates(missing);
 }
 
-void EventTimesPatch::addDates(const QByteArray &property, const Instants &instants)
+void EventTimesPatch::addExceptionDates(const Instants &instants)
 {
     const TimeForm form = startForm(m_vevent).value_or(m_form);
     QByteArrayList usual;
@@ -250,7 +234,7 @@ void EventTimesPatch::addDates(const QByteArray &property, const Instants &insta
         (naming == form ? usual : inUtc).append(naming.value(instant));
     }
     if (!usual.isEmpty())
-        m_vevent.addLine(property + form.parameters() + ':' + usual.join(','));
+        m_vevent.addLine("EXDATE" + form.parameters() + ':' + usual.join(','));
     if (!inUtc.isEmpty())
-        m_vevent.addLine(property + ':' + inUtc.join(','));
+        m_vevent.addLine("EXDATE:" + inUtc.join(','));
 }

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "calendar/ICalParser.h"
 #include "calendar/ICalTree.h"
 #include "calendar/TimeForm.h"
 #include "models/Event.h"
 
-#include <functional>
 #include <optional>
 #include <set>
 
@@ -23,8 +21,6 @@ public:
 
 private:
     using Instants = std::set<qint64>; // milliseconds since the epoch
-    /// The instant that a listed time names; nothing for one that is not read.
-    using NamedInstant = std::function<std::optional<qint64>(const ICalParser::DateTimeValue &)>;
 
     [[nodiscard]] TimeForm wantedStartForm() const;
     void patchStart();
@@ -32,11 +28,9 @@ private:
     void patchEnd();
     void patchRule();
     void patchInstanceName(const std::optional<TimeForm> &series);
+    [[nodiscard]] Instants excluded() const;
     void patchExceptionDates();
-    void patchFurtherDates();
-    [[nodiscard]] Instants instants(const QString &json) const;
-    void patchDates(const QByteArray &property, const Instants &wanted, const NamedInstant &instantOf);
-    void addDates(const QByteArray &property, const Instants &instants);
+    void addExceptionDates(const Instants &instants);
 
     ICal::TreeComponent &m_vevent;
     const Event &m_before;

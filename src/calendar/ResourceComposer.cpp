@@ -188,34 +188,20 @@ private:
         return places;
     }
 
-    /// What an override has to know of its series; nothing of one that is not in the text.
-    struct Series {
-        QString uid;
-        const TreeComponent *component = nullptr;
-        std::optional<TimeForm> startForm;
-    };
-
-    const Series &seriesOf(const Event &row)
+    /// That of an override, as it is written by now; null if it is not in the text.
+    const TreeComponent *seriesOf(const Event &row) const
     {
-        const QString uid = uidKey(row.uid);
-        if (m_series.uid == uid)
-            return m_series;
-        m_series = { .uid = uid, .component = nullptr, .startForm = {} };
-        const auto isSeries = [&uid](const TreeComponent &component) {
-            return uidOf(component) == uid && !component.lastLine("RECURRENCE-ID");
-        };
-        if (const auto present = m_present.constFind(eventKey(row.uid, {})); present != m_present.cend())
-            m_series.component = present->component;
-        else if (const auto added = std::ranges::find_if(m_added, isSeries); added != m_added.end())
-            m_series.component = &*added;
-        if (m_series.component)
-            m_series.startForm = EventTimesPatch::startForm(*m_series.component);
-        return m_series;
+        if (row.recurrenceId.isEmpty())
+            return nullptr;
+        const QString key = eventKey(row.uid, {});
+        const auto present = m_present.constFind(key);
+        return present == m_present.cend() ? m_addedSeries.value(key) : present->component;
     }
 
     void patch(TreeComponent &vevent, const Event &before, const Event &row)
     {
-        EventPatch::apply(vevent, before, row, row.recurrenceId.isEmpty() ? std::nullopt : seriesOf(row).startForm,
+        const TreeComponent *series = seriesOf(row);
+        EventPatch::apply(vevent, before, row, series ? EventTimesPatch::startForm(*series) : std::nullopt,
                           m_context.ownAddresses);
     }
 
@@ -234,39 +220,46 @@ private:
         TreeComponent vevent = started("VEVENT", row.uid, row.created);
         Event before;
         int sequence = row.sequence;
+        if (const TreeComponent *series = seriesOf(row)) {
+            vevent = instanceOf(*series);
+            before = readEvent(vevent).value_or(before);
+            // An invitation to one instance must not look older than the one to all.
+            sequence = std::max(sequence, before.sequence);
+        }
         for (TreeComponent &stored : m_resource.stored(row.rawIcalendar, "VEVENT")) {
             std::optional<Event> event = readEvent(stored);
-            if (!event || eventKey(*event) != eventKey(row))
+            if (!event || event->recurrenceId.isEmpty() != row.recurrenceId.isEmpty())
                 continue;
             vevent = std::move(stored);
             before = *std::move(event);
             break;
         }
-        if (const TreeComponent *series = row.recurrenceId.isEmpty() ? nullptr : seriesOf(row).component) {
-            takeOver(vevent, *series);
-            // An invitation to one instance must not look older than the one to all.
-            const TreeLine *line = series->lastLine("SEQUENCE");
-            sequence = std::max(sequence, line ? line->content().value().toInt() : 0);
+        if (uidOf(vevent) != uidKey(row.uid)) {
+            // The tail of a series comes with the text of the whole, which keeps the single dates.
+            vevent.setLine("UID:" + ICal::textValue(row.uid));
+            vevent.removeLines("RDATE");
         }
         patch(vevent, before, row);
         ComponentPatch::stamp(vevent, m_context.now, std::max(before.sequence, sequence));
         m_added.push_back(std::move(vevent));
+        if (row.recurrenceId.isEmpty())
+            m_addedSeries.insert(eventKey(row), &m_added.back());
     }
 
-    /// An override stands for itself: what hides its series, or keeps it free of busy times, has to be said again.
-    static void takeOver(TreeComponent &vevent, const TreeComponent &series)
+    /// An override stands for itself: all that its series has, but what repeats, has to be said again.
+    static TreeComponent instanceOf(const TreeComponent &series)
     {
-        for (const char *name : { "CLASS", "TRANSP" }) {
-            if (const TreeLine *line = series.lastLine(name); line && !vevent.lastLine(name))
-                vevent.addLine(line->text());
-        }
+        TreeComponent instance = series;
+        for (const char *name : { "RRULE", "RDATE", "EXDATE", "EXRULE" })
+            instance.removeLines(name);
+        return instance;
     }
 
     ResourceText &m_resource;
     const Context &m_context;
     QHash<QString, Present> m_present; // by key
     std::deque<TreeComponent> m_added;
-    Series m_series; // the last one asked for
+    QHash<QString, const TreeComponent *> m_addedSeries; // by key; in m_added
     std::vector<const TreeComponent *> m_removed;
 };
 

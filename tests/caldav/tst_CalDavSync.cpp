@@ -1,6 +1,7 @@
 // One or two devices and a server that lives in the test: what is where after a sync.
 
 #include "calendar/ICalParser.h"
+#include "calendar/services/RecurringEdits.h"
 #include "models/Account.h"
 #include "models/Calendar.h"
 #include "storage/TaskRepository.h"
@@ -241,6 +242,42 @@ private slots:
         QCOMPARE(m_server->text("s.ics").count("BEGIN:VEVENT"), 2);
         QVERIFY(m_server->text("s.ics").contains("RECURRENCE-ID:20260322T100000Z"));
         QCOMPARE(m_phone->state()->events()->getSeries(u"weekly"_s, m_phone->calendarId()).size(), 2);
+        QCOMPARE(m_phone->pendingCount(), 0);
+    }
+
+    /// The overrides go to the new resource with the tail, and do not stay in the old one.
+    void theTailOfASeriesTakesItsOverridesAlong_data()
+    {
+        columns<bool>("isBeingPushed");
+        row("before the push", false);
+        row("while the series is pushed", true);
+    }
+    void theTailOfASeriesTakesItsOverridesAlong()
+    {
+        QFETCH(bool, isBeingPushed);
+        m_server->store("s.ics", series("Review", "Late review").replace("SUMMARY:", QByteArray(Foreign) + "SUMMARY:"));
+        QCOMPARE(m_phone->sync(), QString());
+        EventRepository *events = m_phone->state()->events();
+        const QDateTime first = utc("2026-03-22T09:00");
+        QString tailUid;
+        const auto split = [&] {
+            QVERIFY(RecurringEdits::apply(events, m_phone->event(u"weekly"_s), first, first.addDays(1), {},
+                                          RecurringEdits::Scope::ThisAndFollowing, &tailUid));
+        };
+        if (isBeingPushed) {
+            m_phone->edit(u"weekly"_s, [](Event &event) { event.location = u"Hall"_s; });
+            m_server->whenAsked("PUT", split);
+        } else {
+            split();
+        }
+        QCOMPARE(m_phone->sync(), QString());
+        QCOMPARE(m_phone->sync(), QString());
+        QCOMPARE(m_server->objects().size(), 2);
+        QCOMPARE(m_server->text("s.ics").count("BEGIN:VEVENT"), 1);
+        const QByteArray tail = m_server->text(tailUid.toUtf8() + ".ics");
+        QCOMPARE(tail.count("UID:" + tailUid.toUtf8()), 2);
+        QCOMPARE(tail.count(Foreign), 2);
+        QCOMPARE(events->getByCalendarIncludingDeleted(m_phone->calendarId()).size(), 3);
         QCOMPARE(m_phone->pendingCount(), 0);
     }
 

@@ -113,15 +113,20 @@ void forgetServer(Event &event)
     event.etag.clear();
     event.href.clear();
     event.sequence = 0;
-    event.rawIcalendar.clear();
+}
+
+QString newId()
+{
+    return QUuid::createUuid().toString(QUuid::WithoutBraces);
 }
 
 /// A new row with the content of the series, but without its rule.
 Event newRow(const Event &master)
 {
     Event row = master;
-    row.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    row.id = newId();
     forgetServer(row);
+    row.rawIcalendar.clear();
     row.recurrenceRule.clear();
     row.recurrenceDates.clear();
     row.exceptionDates.clear();
@@ -202,6 +207,20 @@ QList<Event> overridesForTail(QList<Event> overrides, const SeriesMove &move, co
     return overrides;
 }
 
+/// What takes overrides that are of another series now out of the resource of their former one.
+QList<Event> tombstones(QList<Event> overrides)
+{
+    overrides.removeIf([](const Event &row) { return row.href.isEmpty(); });
+    for (Event &row : overrides) {
+        row.id = newId();
+        row.reminders.clear();
+        row.attendees.clear();
+        row.syncStatus = SyncStatus::Pending;
+        row.deletedAt = QDateTime::currentDateTimeUtc();
+    }
+    return overrides;
+}
+
 bool split(EventRepository *repository, const Event &master, const QDateTime &instance, const NewTimes &times,
            QString *tailUid)
 {
@@ -214,6 +233,7 @@ bool split(EventRepository *repository, const Event &master, const QDateTime &in
 
     Event rest = newRow(master); // of the series, where it was
     rest.uid = rest.id;
+    rest.rawIcalendar = master.rawIcalendar; // holds more than the columns
     rest.recurrenceRule = RuleEnd::removed(master.recurrenceRule);
     rest.exceptionDates = exceptionDates(master, true, instanceMs);
     setTimes(rest, instance, lengthOf(master));
@@ -228,7 +248,13 @@ bool split(EventRepository *repository, const Event &master, const QDateTime &in
     tail.exceptionDates = move.movedDates(rest.exceptionDates);
     Savepoint savepoint(repository->database());
     if (!savepoint.isActive() || !repository->update(head) || !repository->insert(tail)
-        || !repository->updateAll(overridesForTail(overrides, move, rest, tail)) || !savepoint.commit())
+        || !repository->updateAll(overridesForTail(overrides, move, rest, tail)))
+        return false;
+    for (const Event &tombstone : tombstones(overrides)) {
+        if (!repository->insert(tombstone))
+            return false;
+    }
+    if (!savepoint.commit())
         return false;
     if (tailUid)
         *tailUid = tail.uid;

@@ -53,24 +53,32 @@ QList<Event> rowsNow(EventRepository *repository, const SeriesSnapshot &before)
     return rows;
 }
 
-/// What an edit added, as tombstones. A tombstone needs its address, but no instance: one in the way of a
-/// row that comes back gives the instance up.
-QList<Event> withdrawn(EventRepository *repository, const SeriesSnapshot &before, const QSet<QString> &keptIds)
+/// Takes away what an edit added. A tombstone needs its address, but no instance: a row in the way of one that
+/// comes back gives the instance up, and goes for good if it only said that this one had left.
+bool withdraw(EventRepository *repository, const SeriesSnapshot &before, const QSet<QString> &keptIds,
+              QList<Event> &rows)
 {
     const Event &first = before.rows.constFirst();
-    QList<Event> rows = rowsNow(repository, before);
-    rows.removeIf([&](const Event &row) { return keptIds.contains(row.id) || !before.addedIds.contains(row.id); });
     QSet<QString> keys;
     for (const Event &row : before.rows)
         keys.insert(row.recurrenceId);
-    for (Event &row : rows) {
+    for (Event &row : rowsNow(repository, before)) {
+        if (keptIds.contains(row.id) || !before.addedIds.contains(row.id))
+            continue;
+        const bool isInTheWay = row.uid == first.uid && keys.contains(row.recurrenceId);
+        if (isInTheWay && row.deletedAt) {
+            if (!repository->hardDelete(row.id))
+                return false;
+            continue;
+        }
         if (!row.deletedAt)
             row.deletedAt = QDateTime::currentDateTimeUtc();
-        if (row.uid == first.uid && keys.contains(row.recurrenceId))
+        if (isInTheWay)
             row.recurrenceId = row.id;
         row.syncStatus = SyncStatus::Pending;
+        rows.append(row);
     }
-    return rows;
+    return true;
 }
 
 }
@@ -100,7 +108,7 @@ bool RecurringEdits::restore(EventRepository *repository, const SeriesSnapshot &
     Savepoint savepoint(repository->database());
     if (!savepoint.isActive())
         return false;
-    const QSet<QString> knownIds = idsOf(before.rows);
+    const QSet<QString> knownIds = idsOf(before.rows) + QSet<QString>(before.addedIds.begin(), before.addedIds.end());
     QList<Event> rows;
     QList<Event> purged;
     for (const Event &content : before.rows) {
@@ -109,8 +117,7 @@ bool RecurringEdits::restore(EventRepository *repository, const SeriesSnapshot &
         else if (!content.deletedAt)
             purged.append(content);
     }
-    rows += withdrawn(repository, before, idsOf(rows));
-    if (!repository->updateAll(rows))
+    if (!withdraw(repository, before, idsOf(rows), rows) || !repository->updateAll(rows))
         return false;
     for (const Event &content : std::as_const(purged)) {
         if (!repository->restoreDeleted(content))
