@@ -85,12 +85,7 @@ void TaskBuilder::readCompleted(const ContentLine &line)
 
 void TaskBuilder::readCategories(const ContentLine &line)
 {
-    m_record.categories.clear();
-    const QList<QByteArray> parts = line.value().toByteArray().split(',');
-    for (const QByteArray &part : parts) {
-        if (!part.isEmpty())
-            m_record.categories.append(unescapedText(part.trimmed()));
-    }
+    m_record.categories = unescapedList(line.value());
 }
 
 void TaskBuilder::readRelatedTo(const ContentLine &line)

@@ -37,6 +37,22 @@ QString ICal::unescapedText(QByteArrayView value)
     return QString::fromStdString(plain);
 }
 
+QStringList ICal::unescapedList(QByteArrayView value)
+{
+    QStringList texts;
+    qsizetype from = 0;
+    for (qsizetype i = 0; i <= value.size(); ++i) {
+        if (i + 1 < value.size() && value[i] == '\\') {
+            ++i; // the comma behind it separates nothing
+        } else if (i == value.size() || value[i] == ',') {
+            if (i > from)
+                texts.append(unescapedText(value.sliced(from, i - from).trimmed()));
+            from = i + 1;
+        }
+    }
+    return texts;
+}
+
 QString ICal::lowerCaseText(QByteArrayView value)
 {
     return QString::fromUtf8(value).toLower();

@@ -2,6 +2,7 @@
 
 #include <QByteArrayView>
 #include <QString>
+#include <QStringList>
 
 #include <array>
 #include <string>
@@ -10,6 +11,8 @@ namespace ICal {
 
 /// RFC 5545 §3.3.11.
 QString unescapedText(QByteArrayView value);
+/// The values of a list of such, without the blanks around them and without empty ones.
+QStringList unescapedList(QByteArrayView value);
 /// In lower case.
 QString lowerCaseText(QByteArrayView value);
 

@@ -43,6 +43,17 @@ bool setDate(TreeComponent &vtodo, const QByteArray &name, const OptionalTime &b
     return true;
 }
 
+/// In UTC whatever it was in. RFC 5545 §3.8.2.1.
+void setCompleted(TreeComponent &vtodo, const OptionalTime &before, const OptionalTime &after)
+{
+    if (isSameTime(before, after, false))
+        return;
+    if (after && after->isValid())
+        vtodo.setLine(TimeForm(TimeForm::Kind::Utc).line("COMPLETED", *after));
+    else
+        vtodo.removeLines("COMPLETED");
+}
+
 void setDates(TreeComponent &vtodo, const Task &before, const Task &task)
 {
     const bool isStartChanged =
@@ -52,7 +63,7 @@ void setDates(TreeComponent &vtodo, const Task &before, const Task &task)
     // It must not stand beside DUE, nor without a start. RFC 5545 §3.8.2.5.
     if ((isDueChanged && task.dueDate) || (isStartChanged && !task.startDate))
         vtodo.removeLines("DURATION");
-    setDate(vtodo, "COMPLETED", before.completedDate, false, task.completedDate, false);
+    setCompleted(vtodo, before.completedDate, task.completedDate);
 }
 
 bool isAllDay(const Task &task)
@@ -68,12 +79,7 @@ void setCategories(TreeComponent &vtodo, const Task &before, const Task &task)
         escaped.append(textValue(category));
     escaped.removeAll(QByteArray());
     const QByteArray value = escaped.join(',');
-    QStringList read; // back
-    for (const QByteArray &part : value.split(',')) {
-        if (!part.isEmpty())
-            read.append(unescapedText(part.trimmed()));
-    }
-    if (task.categories == before.categories || read == before.categories)
+    if (task.categories == before.categories || unescapedList(value) == before.categories)
         return;
     const TreeLine *last = vtodo.lastLine("CATEGORIES");
     if (!last || value.isEmpty())

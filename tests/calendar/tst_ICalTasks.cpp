@@ -32,7 +32,7 @@ private slots:
     {
         const QByteArray lines = "SUMMARY:Buy\\, now\nDESCRIPTION:d\nDTSTART;TZID=Europe/Paris:20260314T090000\n"
                                  "DUE;VALUE=DATE:20260315\nSTATUS:IN-PROCESS\nPRIORITY:2\nPERCENT-COMPLETE:40\n"
-                                 "RRULE:FREQ=WEEKLY\nCATEGORIES:old\nCATEGORIES:a, b ,,c\\;d\nSEQUENCE:3\n"
+                                 "RRULE:FREQ=WEEKLY\nCATEGORIES:old\nCATEGORIES:a, b ,,c\\;d\\,e\nSEQUENCE:3\n"
                                  "RELATED-TO;RELTYPE=SIBLING:a\nRELATED-TO:b\nRELATED-TO;RELTYPE=PARENT:c\n"
                                  "BEGIN:VALARM\nACTION:EMAIL\nSUMMARY:Alarm\nTRIGGER;RELATED=END:-PT30M\nEND:VALARM\n"
                                  "BEGIN:VALARM\nTRIGGER;VALUE=DATE-TIME:20260315T080000Z\nEND:VALARM\n"
@@ -50,7 +50,7 @@ private slots:
         expected.priority = 2;
         expected.percentComplete = 40;
         expected.recurrenceRule = u"FREQ=WEEKLY"_s;
-        expected.categories = QStringList{ u"a"_s, u"b"_s, u"c;d"_s };
+        expected.categories = QStringList{ u"a"_s, u"b"_s, u"c;d,e"_s };
         expected.sequence = 3;
         expected.parentTaskUid = u"c"_s;
         expected.completedDate = utc("2026-03-16T10:00");
