@@ -44,7 +44,8 @@ public:
         /// chunks, and is no multistatus, may be cut all the same.
         bool isWhole = false;
 
-        [[nodiscard]] bool isSuccess() const { return error.isEmpty() && status >= 200 && status <= 299; }
+        [[nodiscard]] bool isSuccess() const { return error.isEmpty() && CalDavClient::isSuccess(status); }
+        [[nodiscard]] bool isMissing() const { return status == 404 || status == 410; }
         [[nodiscard]] QByteArray header(const QByteArray &name) const; ///< whatever its case; empty if there is none
     };
     using Callback = std::function<void(const Response &)>;
@@ -60,6 +61,8 @@ public:
         QString sha256; ///< upper-case hex, no separators
         QList<QString> errors;
     };
+
+    static bool isSuccess(int status) { return status >= 200 && status <= 299; }
 
     explicit CalDavClient(QObject *parent = nullptr);
     ~CalDavClient() override;

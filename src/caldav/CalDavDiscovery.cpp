@@ -5,14 +5,8 @@
 #include "caldav/SilenceGuard.h"
 
 #include <QDebug>
-#include <QPointer>
 
 namespace {
-
-bool isSuccess(int status)
-{
-    return status >= 200 && status <= 299;
-}
 
 QUrl withScheme(const QUrl &input)
 {
@@ -35,7 +29,6 @@ CalDavDiscovery::CalDavDiscovery(CalDavClient *client, QObject *parent)
 
 void CalDavDiscovery::start(const QUrl &input)
 {
-    ++m_run;
     m_guard->stop();
     m_candidates.clear();
     m_candidateIndex = 0;
@@ -48,12 +41,11 @@ void CalDavDiscovery::start(const QUrl &input)
     url.setUserInfo(QString()); // the client has the credentials, and addresses are stored
     const bool isHttp = url.scheme() == u"http" || url.scheme() == u"https";
     if (!url.isValid() || !isHttp || url.host(QUrl::FullyDecoded).isEmpty()) {
-        // Not before start() has returned.
-        const int run = m_run;
+        // Not before start() has returned, nor when it has begun anew by then.
         QMetaObject::invokeMethod(
             this,
-            [this, run] {
-                if (run == m_run)
+            [this] {
+                if (m_candidates.isEmpty())
                     emitFail(tr("Enter a CalDAV URL starting with http:// or https://"));
             },
             Qt::QueuedConnection);
@@ -75,14 +67,11 @@ void CalDavDiscovery::start(const QUrl &input)
 void CalDavDiscovery::propfind(const QUrl &url, const QByteArray &body, int depth, Handler onReply)
 {
     m_currentUrl = url;
-    const int run = m_run;
-    m_guard->watch(SilenceGuard::SilenceMs, [this, onReply] { (this->*onReply)(0, {}, SilenceGuard::message()); });
-    m_client->propfind(url, body, depth, [self = QPointer(this), run, onReply](const CalDavClient::Response &response) {
-        if (!self || run != self->m_run)
-            return;
-        self->m_guard->stop();
-        (self->*onReply)(response.status, response.body, response.error);
-    });
+    m_client->propfind(
+        url, body, depth,
+        m_guard->guarded(SilenceGuard::SilenceMs, [this, onReply](const CalDavClient::Response &response) {
+            (this->*onReply)(response.status, response.body, response.error);
+        }));
 }
 
 void CalDavDiscovery::tryNextPrincipalCandidate()
@@ -102,7 +91,7 @@ void CalDavDiscovery::onPrincipalReply(int status, const QByteArray &body, const
     // A refused connection or certificate is the same for every candidate.
     if (!error.isEmpty())
         return emitFail(tr("Could not reach the server: %1").arg(error));
-    if (isSuccess(status)) {
+    if (CalDavClient::isSuccess(status)) {
         if (const auto principal = CalDavParse::parsePrincipalUrl(body, m_baseUrl)) {
             const QUrl url = secured(*principal);
             m_principal = url.toString();
@@ -120,7 +109,7 @@ void CalDavDiscovery::onHomeSetReply(int status, const QByteArray &body, const Q
 {
     if (!error.isEmpty())
         return emitFail(tr("Lost connection during calendar-home-set discovery: %1").arg(error));
-    if (!isSuccess(status))
+    if (!CalDavClient::isSuccess(status))
         return emitFail(tr("Server returned HTTP %1 during home-set discovery.").arg(status));
     const QUrl homeSet = secured(CalDavParse::parseCalendarHomeSet(body, m_baseUrl).value_or(m_currentUrl));
     m_homeSet = homeSet.toString(QUrl::RemoveUserInfo);
@@ -131,7 +120,7 @@ void CalDavDiscovery::onCalendarsReply(int status, const QByteArray &body, const
 {
     if (!error.isEmpty())
         return emitFail(tr("Lost connection during calendar enumeration: %1").arg(error));
-    if (!isSuccess(status))
+    if (!CalDavClient::isSuccess(status))
         return emitFail(tr("Server returned HTTP %1 during calendar enumeration.").arg(status));
     QList<CalDavParse::DiscoveredCalendar> calendars = CalDavParse::parseCalendarList(body, m_baseUrl);
     if (calendars.isEmpty())

@@ -52,5 +52,4 @@ private:
     bool m_wasUnauthorized = false;
     QString m_principal;
     QString m_homeSet;
-    int m_run = 0; // answers of an earlier run are passed over
 };

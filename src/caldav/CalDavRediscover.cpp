@@ -4,6 +4,7 @@
 #include "calendar/CalendarKey.h"
 #include "models/Account.h"
 #include "models/Calendar.h"
+#include "models/NewId.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
 #include "storage/PreferencesRepository.h"
@@ -12,13 +13,12 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
-#include <QUuid>
 
 namespace {
 
-QString componentsJson(const QList<QString> &components)
+QString jsonList(const QList<QString> &texts)
 {
-    return QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(components)).toJson(QJsonDocument::Compact));
+    return QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(texts)).toJson(QJsonDocument::Compact));
 }
 
 QString keyOf(const QString &url)
@@ -38,7 +38,7 @@ void fillPlaceholder(Calendar &calendar, const CalDavParse::DiscoveredCalendar &
     calendar.description = discovered.description;
     if (!discovered.color.isEmpty())
         calendar.color = discovered.color;
-    calendar.supportedComponents = componentsJson(discovered.components);
+    calendar.supportedComponents = jsonList(discovered.components);
     calendar.isReadOnly = false;
     calendar.syncEnabled = true;
 }
@@ -71,7 +71,7 @@ public:
         if (keys.isEmpty())
             m_preferences->remove(m_settingsKey);
         else
-            m_preferences->set(m_settingsKey, componentsJson(keys));
+            m_preferences->set(m_settingsKey, jsonList(keys));
     }
 
 private:
@@ -127,14 +127,14 @@ Calendar updateKnown(AppState *state, Calendar calendar, const CalDavParse::Disc
 Calendar CalDavRediscover::newCalendar(const Account &account, const CalDavParse::DiscoveredCalendar &discovered)
 {
     Calendar calendar;
-    calendar.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    calendar.id = newId();
     calendar.accountId = account.id;
     calendar.url = discovered.url;
     calendar.name = discovered.displayName;
     calendar.description = discovered.description;
     if (!discovered.color.isEmpty())
         calendar.color = discovered.color;
-    calendar.supportedComponents = componentsJson(discovered.components);
+    calendar.supportedComponents = jsonList(discovered.components);
     calendar.syncEnabled = true;
     calendar.canonicalKey = Quillon::CalendarKey::compute(account.type, discovered.url).value_or(QString());
     calendar.createdAt = QDateTime::currentDateTimeUtc();

@@ -6,6 +6,8 @@
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
 
+#include <utility>
+
 CalDavSession::CalDavSession(AppState *state, const Calendar &calendar, QObject *parent)
     : QObject(parent)
     , m_state(state)
@@ -26,21 +28,10 @@ bool CalDavSession::isLive() const
 
 CalDavClient::Callback CalDavSession::watched(int firstByteMs, CalDavClient::Callback next)
 {
-    m_guard->watch(firstByteMs, [this, next] {
-        CalDavClient::Response silence;
-        silence.error = SilenceGuard::message();
-        deliver(next, silence);
+    return m_guard->guarded(firstByteMs, [this, next = std::move(next)](const CalDavClient::Response &response) {
+        if (isLive())
+            next(response);
+        else
+            emit abandoned();
     });
-    return [this, next](const CalDavClient::Response &response) {
-        m_guard->stop();
-        deliver(next, response);
-    };
-}
-
-void CalDavSession::deliver(const CalDavClient::Callback &next, const CalDavClient::Response &response)
-{
-    if (isLive())
-        next(response);
-    else
-        emit abandoned();
 }

@@ -34,8 +34,6 @@ signals:
     void abandoned();
 
 private:
-    void deliver(const CalDavClient::Callback &next, const CalDavClient::Response &response);
-
     AppState *m_state;
     QString m_calendarId;
     QString m_calendarName;

@@ -40,8 +40,7 @@ void CalDavSyncRun::setCredentials(const QString &username, const QString &passw
 {
     m_username = username;
     m_session->client()->setCredentials(username, password);
-    if (!trustedCertSha256.isEmpty())
-        m_session->client()->setTrustedCertSha256(trustedCertSha256);
+    m_session->client()->setTrustedCertSha256(trustedCertSha256);
 }
 
 void CalDavSyncRun::start()

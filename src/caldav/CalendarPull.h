@@ -2,7 +2,7 @@
 
 #include "caldav/CalDavClient.h"
 #include "caldav/CalDavParse.h"
-#include "storage/SyncRows.h"
+#include "storage/SyncedRepository.h"
 
 #include <QHash>
 #include <QObject>

@@ -16,14 +16,7 @@
 namespace {
 
 constexpr int RowsPerStep = 1000;
-constexpr int NotFound = 404;
-constexpr int Gone = 410;
 constexpr int PreconditionFailed = 412;
-
-bool isMissing(int status)
-{
-    return status == NotFound || status == Gone;
-}
 
 }
 
@@ -40,11 +33,6 @@ CalendarPush::CalendarPush(CalDavSession *session, SyncTable *table, CalendarPul
 
 void CalendarPush::start()
 {
-    collect();
-}
-
-void CalendarPush::collect()
-{
     const QList<PendingRow> page = m_table->pendingRows(m_lastRowid, RowsPerStep);
     for (const PendingRow &row : page) {
         m_lastRowid = row.rowid;
@@ -54,7 +42,7 @@ void CalendarPush::collect()
         m_queue.append(row);
     }
     if (page.size() == RowsPerStep) {
-        QMetaObject::invokeMethod(this, &CalendarPush::collect, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &CalendarPush::start, Qt::QueuedConnection);
         return;
     }
     std::ranges::stable_sort(m_queue, {}, &PendingRow::rank);
@@ -127,7 +115,7 @@ void CalendarPush::onText(const CalDavClient::Response &response)
 {
     if (!response.error.isEmpty())
         return emit failed(m_policy.networkMessage(response.error));
-    if (isMissing(response.status))
+    if (response.isMissing())
         return onLost(response.status);
     if (!response.isSuccess() || !response.isWhole)
         return refuse(response.status);
@@ -234,7 +222,7 @@ void CalendarPush::onLookedAgain(int status, const CalDavClient::Response &respo
 {
     if (!response.error.isEmpty())
         return emit failed(m_policy.networkMessage(response.error));
-    const bool isDone = m_kind == Kind::Delete ? isMissing(response.status) : isStored(response);
+    const bool isDone = m_kind == Kind::Delete ? response.isMissing() : isStored(response);
     if (isDone)
         onAccepted();
     else

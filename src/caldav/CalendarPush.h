@@ -45,7 +45,6 @@ signals:
 private:
     enum class Kind { Create, Update, Delete };
 
-    void collect();
     void pushNext();
     [[nodiscard]] std::unique_ptr<PendingResource> openNext();
     void pushNextSoon();

@@ -5,20 +5,15 @@
 #include "caldav/CalDavRediscover.h"
 #include "caldav/CalDavXml.h"
 #include "caldav/SilenceGuard.h"
+#include "models/NewId.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
 
-#include <QUuid>
-
 #include <algorithm>
 #include <array>
+#include <functional>
 
 namespace {
-
-QString newName()
-{
-    return QUuid::createUuid().toString(QUuid::WithoutBraces);
-}
 
 bool isOneOf(int status, std::array<int, 2> accepted)
 {
@@ -87,22 +82,13 @@ CalDavClient *CollectionJob::makeClient(QObject *parent) const
 {
     auto *client = new CalDavClient(parent);
     client->setCredentials(m_account.username, m_password);
-    if (!m_account.trustedCertSha256.isEmpty())
-        client->setTrustedCertSha256(m_account.trustedCertSha256);
+    client->setTrustedCertSha256(m_account.trustedCertSha256);
     return client;
 }
 
 CalDavClient::Callback CollectionJob::step(Handler onReply)
 {
-    m_guard->watch(SilenceGuard::SilenceMs, [this, onReply] {
-        Response silence;
-        silence.error = SilenceGuard::message();
-        (this->*onReply)(silence);
-    });
-    return [this, onReply](const Response &response) {
-        m_guard->stop();
-        (this->*onReply)(response);
-    };
+    return m_guard->guarded(SilenceGuard::SilenceMs, std::bind_front(onReply, this));
 }
 
 void CollectionJob::failLater(const QString &message)
@@ -130,7 +116,7 @@ QUrl CollectionJob::newUrl(AppState *state, const Account &account)
     if (!path.endsWith(u'/'))
         path += u'/';
     // Never from the name that the user chose: servers differ in what they take as a segment.
-    base.setPath(path + newName() + u'/', QUrl::StrictMode);
+    base.setPath(path + newId() + u'/', QUrl::StrictMode);
     return base;
 }
 
@@ -216,7 +202,7 @@ void CollectionJob::edit(const Calendar &wanted)
 
 void CollectionJob::probeTasks()
 {
-    const QString name = QStringLiteral("quillon-task-probe-") + newName();
+    const QString name = QStringLiteral("quillon-task-probe-") + newId();
     m_probeUrl = CalDavPath::resourceUrl(m_url, CalDavPath::newResourcePath(m_url, name));
     emit progressed(tr("Checking whether this calendar accepts tasks…"));
     m_client->put(m_probeUrl, probeBody(name), QStringLiteral("text/calendar; charset=utf-8"),
@@ -248,8 +234,8 @@ void CollectionJob::removeProbe()
         return;
     CalDavClient *client = makeClient(m_state);
     auto *guard = new SilenceGuard(client, client);
-    guard->watch(SilenceGuard::SilenceMs, [client] { client->deleteLater(); });
-    client->del(m_probeUrl, [client](const Response &) { client->deleteLater(); });
+    client->del(m_probeUrl,
+                guard->guarded(SilenceGuard::SilenceMs, [client](const Response &) { client->deleteLater(); }));
     m_probeUrl.clear();
 }
 

@@ -1,13 +1,9 @@
 #include "caldav/PushVerdict.h"
 
-#include <algorithm>
-#include <array>
-
 namespace {
 
 constexpr int MultiStatus = 207;
 constexpr int NoContent = 204;
-constexpr std::array MissingStatus{ 404, 410 };
 
 }
 
@@ -20,8 +16,7 @@ PushVerdict::Verdict PushVerdict::ofPut(const CalDavClient::Response &response)
 
 PushVerdict::Verdict PushVerdict::ofDelete(const CalDavClient::Response &response, bool wasListed)
 {
-    const bool isMissing = std::ranges::find(MissingStatus, response.status) != MissingStatus.end();
-    if (response.status == NoContent || (isMissing && !wasListed))
+    if (response.status == NoContent || (response.isMissing() && !wasListed))
         return Accepted;
-    return isMissing || response.isSuccess() ? Doubtful : Refused;
+    return response.isMissing() || response.isSuccess() ? Doubtful : Refused;
 }

@@ -1,7 +1,6 @@
 #include "caldav/SilenceGuard.h"
 
-#include "caldav/CalDavClient.h"
-
+#include <QPointer>
 #include <QTimer>
 
 #include <utility>
@@ -18,16 +17,33 @@ SilenceGuard::SilenceGuard(CalDavClient *client, QObject *parent)
     , m_timer(new QTimer(this))
 {
     m_timer->setSingleShot(true);
-    connect(m_timer, &QTimer::timeout, this, &SilenceGuard::onTimeout);
+    connect(m_timer, &QTimer::timeout, this, [this] {
+        m_client->abort();
+        CalDavClient::Response silence;
+        silence.error = tr("The server has stopped answering.");
+        finish(silence);
+    });
     connect(client, &CalDavClient::sent, this, [this] { wait(m_firstByteMs); });
     connect(client, &CalDavClient::heard, this, [this] { wait(SilenceMs); });
 }
 
-void SilenceGuard::watch(int firstByteMs, std::function<void()> onSilence)
+CalDavClient::Callback SilenceGuard::guarded(int firstByteMs, CalDavClient::Callback next)
 {
-    m_onSilence = std::move(onSilence);
+    stop();
+    m_next = std::move(next);
     m_firstByteMs = firstByteMs;
     m_timer->start(firstByteMs / haste);
+    return [self = QPointer(this), request = m_request](const CalDavClient::Response &response) {
+        if (self && request == self->m_request)
+            self->finish(response);
+    };
+}
+
+void SilenceGuard::finish(const CalDavClient::Response &response)
+{
+    m_timer->stop();
+    if (const auto next = std::exchange(m_next, nullptr))
+        next(response);
 }
 
 void SilenceGuard::wait(int silenceMs)
@@ -38,23 +54,12 @@ void SilenceGuard::wait(int silenceMs)
 
 void SilenceGuard::stop()
 {
+    ++m_request;
     m_timer->stop();
-    m_onSilence = nullptr;
-}
-
-QString SilenceGuard::message()
-{
-    return tr("The server has stopped answering.");
+    m_next = nullptr;
 }
 
 void SilenceGuard::setHaste(int factor)
 {
     haste = factor;
-}
-
-void SilenceGuard::onTimeout()
-{
-    m_client->abort();
-    if (const auto onSilence = std::exchange(m_onSilence, nullptr))
-        onSilence();
 }

@@ -1,14 +1,13 @@
 #pragma once
 
+#include "caldav/CalDavClient.h"
+
 #include <QObject>
 
-#include <functional>
-
-class CalDavClient;
 class QTimer;
 
 /// Ends a request that nothing has been heard of for too long: a server that accepts a connection and stays silent
-/// would hold its job open for ever.
+/// would hold its job open for ever. One request at a time.
 class SilenceGuard : public QObject {
     Q_OBJECT
 
@@ -19,21 +18,22 @@ public:
 
     explicit SilenceGuard(CalDavClient *client, QObject *parent = nullptr);
 
-    /// Until stop(): if the client hears nothing for \p firstByteMs after the request went out, and later for
-    /// SilenceMs, it aborts, and \p onSilence runs instead of the request's continuation.
-    void watch(int firstByteMs, std::function<void()> onSilence);
+    /// The continuation to hand to the client with the next request, in place of \p next. If nothing is heard for
+    /// \p firstByteMs after the request went out, or for SilenceMs later, the request is given up, and \p next gets a
+    /// response with an error. It does not run once another request is guarded, nor after stop().
+    CalDavClient::Callback guarded(int firstByteMs, CalDavClient::Callback next);
     void stop();
 
-    static QString message(); ///< what to tell the user
     /// For tests: divides every wait.
     static void setHaste(int factor);
 
 private:
     void wait(int silenceMs);
-    void onTimeout();
+    void finish(const CalDavClient::Response &response);
 
     CalDavClient *m_client;
     QTimer *m_timer;
     int m_firstByteMs = SilenceMs;
-    std::function<void()> m_onSilence;
+    int m_request = 0; // counts those that were guarded or stopped
+    CalDavClient::Callback m_next;
 };

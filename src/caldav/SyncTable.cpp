@@ -4,6 +4,7 @@
 #include "caldav/CalDavLog.h"
 #include "calendar/ICalParser.h"
 #include "models/Constants.h"
+#include "models/NewId.h"
 #include "storage/ChangeOrigin.h"
 #include "storage/Database.h"
 #include "storage/EventRepository.h"
@@ -11,7 +12,6 @@
 #include "storage/TaskRepository.h"
 
 #include <QDateTime>
-#include <QUuid>
 
 #include <algorithm>
 #include <utility>
@@ -192,7 +192,7 @@ public:
         Savepoint savepoint(m_database);
         bool succeeded = true;
         for (const Record &row : std::as_const(m_removed)) {
-            const auto stored = m_kind.repository->getById(row.id);
+            const auto stored = storedRow(row);
             if (stored && stored->deletedAt)
                 succeeded &= m_kind.repository->hardDelete(row.id);
             else if (stored)
@@ -385,7 +385,7 @@ private:
             Kind::keepWhatIsOnlyHere(record, *stored);
             result.written += m_kind.repository->update(record);
         } else {
-            record.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+            record.id = newId();
             result.written += m_kind.repository->insert(record);
         }
     }

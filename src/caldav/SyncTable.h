@@ -2,7 +2,7 @@
 
 #include "caldav/CalDavParse.h"
 #include "calendar/ResourceComposer.h"
-#include "storage/SyncRows.h"
+#include "storage/SyncedRepository.h"
 
 #include <QList>
 #include <QSet>

@@ -15,20 +15,16 @@
 
 namespace {
 
-constexpr auto TableName = "events";
-
 constexpr int SliceMs = 8;
 
 }
 
 EventRepository::EventRepository(Database *database, QObject *parent)
-    : QObject(parent)
-    , m_database(database)
-    , m_notifier(new ChangeNotifier(this))
+    : SyncedRepository(database, "events", "start_time", parent)
     , m_catchUp(new QTimer(this))
     , m_ranges(std::make_unique<EventRanges>(database))
 {
-    connect(m_notifier, &ChangeNotifier::changed, this, &EventRepository::eventsChanged);
+    connect(notifier(), &ChangeNotifier::changed, this, &EventRepository::eventsChanged);
     connect(m_catchUp, &QTimer::timeout, this, &EventRepository::catchUp);
     connect(database, &Database::purged, this, [this](const QString &calendarId) {
         m_ranges->onPurged(calendarId);
@@ -113,12 +109,6 @@ QList<Event> EventRepository::getPending(const QString &calendarId)
                            { calendarId });
 }
 
-bool EventRepository::hasPending()
-{
-    Statement row(m_database, QStringLiteral("SELECT 1 FROM events WHERE sync_status = 'pending' LIMIT 1"));
-    return row.run("Reading failed:") && row.next();
-}
-
 QList<Event> EventRepository::getSeries(const QString &uid, const QString &calendarId)
 {
     // The plus keeps SQLite from walking through the whole calendar by its index.
@@ -192,22 +182,9 @@ bool EventRepository::updateAll(const QList<Event> &events)
     return savepoint.commit();
 }
 
-bool EventRepository::remove(const QString &id)
-{
-    const QString calendarId = SyncRows::calendarOf(m_database, TableName, id);
-    const QVariant now = StoredTime::now();
-    const QString sql =
-        QStringLiteral("UPDATE events SET deleted_at = ?, sync_status = 'pending', last_modified = ? WHERE id = ?");
-    if (!runStatement(m_database, "EventRepository::remove failed:", sql, { now, now, id }))
-        return false;
-    onTouched(id);
-    notifyChanged(calendarId);
-    return true;
-}
-
 bool EventRepository::hardDelete(const QString &id)
 {
-    const QString calendarId = SyncRows::calendarOf(m_database, TableName, id);
+    const QString calendarId = calendarOf(id);
     Savepoint savepoint(m_database);
     if (!savepoint.isActive())
         return false;
@@ -223,55 +200,6 @@ bool EventRepository::hardDelete(const QString &id)
     onTouched(id);
     notifyChanged(calendarId);
     return true;
-}
-
-bool EventRepository::markSynced(const QString &id, const QString &href, const QString &etag)
-{
-    if (!SyncRows::setSynced(m_database, TableName, id, href, etag))
-        return false;
-    onTouched(id);
-    m_database->dataWritten();
-    return true;
-}
-
-bool EventRepository::setAddress(const QString &id, const QString &href, const QString &etag)
-{
-    return touch(id, SyncRows::setAddress(m_database, TableName, id, href, etag));
-}
-
-bool EventRepository::markPushed(const QString &id, const PushedResource &pushed)
-{
-    return touch(id, SyncRows::markPushed(m_database, TableName, id, pushed));
-}
-
-int EventRepository::discardEdits(const QString &calendarId)
-{
-    const int count = SyncRows::discardEdits(m_database, TableName, calendarId);
-    if (count > 0) {
-        m_database->eventsPurged(calendarId);
-        notifyChanged(calendarId);
-    }
-    return count;
-}
-
-bool EventRepository::clearEtags(const QString &calendarId, qint64 afterRowid, int count)
-{
-    return SyncRows::clearEtags(m_database, TableName, calendarId, afterRowid, count);
-}
-
-QStringList EventRepository::pendingCalendarIds()
-{
-    return SyncRows::pendingCalendarIds(m_database, TableName);
-}
-
-QList<PendingRow> EventRepository::pendingRows(const QString &calendarId, qint64 afterRowid, int limit)
-{
-    return SyncRows::listPending(m_database, TableName, "start_time", calendarId, afterRowid, limit);
-}
-
-QList<SyncRow> EventRepository::syncRows(const QString &calendarId, qint64 afterRowid, int limit)
-{
-    return SyncRows::list(m_database, TableName, calendarId, afterRowid, limit);
 }
 
 bool EventRepository::restoreDeleted(const Event &event)
@@ -327,23 +255,13 @@ void EventRepository::onWritten(const Event &event)
     notifyChanged(event.calendarId);
 }
 
-bool EventRepository::touch(const QString &id, bool isWritten)
+void EventRepository::onTouchedAll(const QString &calendarId)
 {
-    if (!isWritten)
-        return false;
-    onTouched(id);
-    notifyChanged(SyncRows::calendarOf(m_database, TableName, id));
-    return true;
+    m_database->eventsPurged(calendarId);
 }
 
 void EventRepository::onTouched(const QString &id)
 {
     m_ranges->onTouched(id);
     catchUpSoon();
-}
-
-void EventRepository::notifyChanged(const QString &calendarId)
-{
-    m_database->dataWritten();
-    m_notifier->notify(calendarId, m_database->writeOrigin());
 }

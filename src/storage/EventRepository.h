@@ -3,7 +3,7 @@
 #include "models/Event.h"
 #include "storage/ChangeOrigin.h"
 #include "storage/EventSelection.h"
-#include "storage/SyncRows.h"
+#include "storage/SyncedRepository.h"
 
 #include <QList>
 #include <QObject>
@@ -12,22 +12,18 @@
 #include <memory>
 #include <optional>
 
-class ChangeNotifier;
 class Database;
 class EventRanges;
 class QTimer;
 
 /// Table `events` with `reminders` and `attendees`. Every read gives whole records, children included.
 /// Each write is atomic; on a database error it returns false, logs, and changes nothing.
-class EventRepository : public QObject {
+class EventRepository : public SyncedRepository {
     Q_OBJECT
 
 public:
     explicit EventRepository(Database *database, QObject *parent = nullptr);
     ~EventRepository() override;
-
-    /// To open a Savepoint around several writes.
-    [[nodiscard]] Database *database() const { return m_database; }
 
     /// Range reads need much of the table at hand. From here on that is read, and kept up with writes, in
     /// slices of the event loop. A range read before warmedUp() is as right, but reads all that is left.
@@ -58,14 +54,6 @@ public:
     std::optional<Event> getByUidAndRecurrenceId(const QString &uid, const QString &calendarId,
                                                  const QString &recurrenceId); ///< a tombstone too
     QList<Event> getPending(const QString &calendarId); ///< tombstones included: deletions to push
-    bool hasPending();
-    QStringList pendingCalendarIds(); ///< of every account
-
-    /// A page of the calendar's rows in order of rowid, tombstones included.
-    QList<SyncRow> syncRows(const QString &calendarId, qint64 afterRowid, int limit);
-    /// The same of those that wait, with little of each: getPending() of thousands takes seconds.
-    QList<PendingRow> pendingRows(const QString &calendarId, qint64 afterRowid, int limit);
-
     /// The master of a series, or a single event, then its overrides; tombstones too.
     QList<Event> getSeries(const QString &uid, const QString &calendarId);
 
@@ -80,16 +68,7 @@ public:
     bool update(const Event &event);
     /// update() for rows that may take each other's UID and recurrence id; all of them or none.
     bool updateAll(const QList<Event> &events);
-    bool remove(const QString &id); ///< tombstone, pending
     bool hardDelete(const QString &id);
-    bool markSynced(const QString &id, const QString &href, const QString &etag);
-    bool setAddress(const QString &id, const QString &href, const QString &etag); ///< whether or not it is pending
-    bool markPushed(const QString &id, const PushedResource &pushed); ///< and synced
-    /// Gives up edits of rows that the server knows; it has to send them again. Returns how many; -1 on an error.
-    int discardEdits(const QString &calendarId);
-    /// The next sync reads the synced rows of the calendar anew. Looks at \p count rowids after \p afterRowid; false
-    /// when there are none left after these.
-    bool clearEtags(const QString &calendarId, qint64 afterRowid, int count);
     /// Brings a deleted event back for undo, also after a sync purged the row.
     bool restoreDeleted(const Event &event);
 
@@ -103,12 +82,9 @@ private:
     void catchUp();
     void catchUpSoon();
     void onWritten(const Event &event);
-    void onTouched(const QString &id);
-    bool touch(const QString &id, bool isWritten); // signals a write that succeeded
-    void notifyChanged(const QString &calendarId);
+    void onTouched(const QString &id) override;
+    void onTouchedAll(const QString &calendarId) override;
 
-    Database *m_database;
-    ChangeNotifier *m_notifier;
     QTimer *m_catchUp;
     bool m_isKeptWarm = false;
     std::unique_ptr<EventRanges> m_ranges;

@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr auto TableName = "tasks";
-
 QList<Task> listTasks(Database *database, const QString &tail, const QVariantList &values)
 {
     QList<Task> tasks = Tables::tasks().list(database, tail, values);
@@ -136,11 +134,9 @@ bool advance(Task &task)
 }
 
 TaskRepository::TaskRepository(Database *database, QObject *parent)
-    : QObject(parent)
-    , m_database(database)
-    , m_notifier(new ChangeNotifier(this))
+    : SyncedRepository(database, "tasks", "last_modified", parent)
 {
-    connect(m_notifier, &ChangeNotifier::changed, this, &TaskRepository::tasksChanged);
+    connect(notifier(), &ChangeNotifier::changed, this, &TaskRepository::tasksChanged);
 }
 
 QList<Task> TaskRepository::getByCalendar(const QString &calendarId)
@@ -205,12 +201,6 @@ QList<Task> TaskRepository::getPending(const QString &calendarId)
                      { calendarId });
 }
 
-bool TaskRepository::hasPending()
-{
-    Statement row(m_database, QStringLiteral("SELECT 1 FROM tasks WHERE sync_status = 'pending' LIMIT 1"));
-    return row.run("Reading failed:") && row.next();
-}
-
 bool TaskRepository::insert(const Task &task)
 {
     Task row = task;
@@ -241,73 +231,15 @@ bool TaskRepository::update(const Task &task)
     return true;
 }
 
-bool TaskRepository::remove(const QString &id)
-{
-    const QString calendarId = SyncRows::calendarOf(m_database, TableName, id);
-    const QVariant now = StoredTime::now();
-    const QString sql =
-        QStringLiteral("UPDATE tasks SET deleted_at = ?, sync_status = 'pending', last_modified = ? WHERE id = ?");
-    if (!runStatement(m_database, "TaskRepository::remove failed:", sql, { now, now, id }))
-        return false;
-    notifyChanged(calendarId);
-    return true;
-}
-
 bool TaskRepository::hardDelete(const QString &id)
 {
-    const QString calendarId = SyncRows::calendarOf(m_database, TableName, id);
+    const QString calendarId = calendarOf(id);
     // The reminders go by the schema's cascade.
     if (!runStatement(m_database,
                       "TaskRepository::hardDelete failed:", QStringLiteral("DELETE FROM tasks WHERE id = ?"), { id }))
         return false;
     notifyChanged(calendarId);
     return true;
-}
-
-bool TaskRepository::markSynced(const QString &id, const QString &href, const QString &etag)
-{
-    if (!SyncRows::setSynced(m_database, TableName, id, href, etag))
-        return false;
-    m_database->dataWritten();
-    return true;
-}
-
-bool TaskRepository::setAddress(const QString &id, const QString &href, const QString &etag)
-{
-    return touch(id, SyncRows::setAddress(m_database, TableName, id, href, etag));
-}
-
-bool TaskRepository::markPushed(const QString &id, const PushedResource &pushed)
-{
-    return touch(id, SyncRows::markPushed(m_database, TableName, id, pushed));
-}
-
-int TaskRepository::discardEdits(const QString &calendarId)
-{
-    const int count = SyncRows::discardEdits(m_database, TableName, calendarId);
-    if (count > 0)
-        notifyChanged(calendarId);
-    return count;
-}
-
-bool TaskRepository::clearEtags(const QString &calendarId, qint64 afterRowid, int count)
-{
-    return SyncRows::clearEtags(m_database, TableName, calendarId, afterRowid, count);
-}
-
-QStringList TaskRepository::pendingCalendarIds()
-{
-    return SyncRows::pendingCalendarIds(m_database, TableName);
-}
-
-QList<PendingRow> TaskRepository::pendingRows(const QString &calendarId, qint64 afterRowid, int limit)
-{
-    return SyncRows::listPending(m_database, TableName, "last_modified", calendarId, afterRowid, limit);
-}
-
-QList<SyncRow> TaskRepository::syncRows(const QString &calendarId, qint64 afterRowid, int limit)
-{
-    return SyncRows::list(m_database, TableName, calendarId, afterRowid, limit);
 }
 
 bool TaskRepository::setCompleted(const QString &id, bool completed)
@@ -326,17 +258,4 @@ bool TaskRepository::setCompleted(const QString &id, bool completed)
     task->syncStatus = SyncStatus::Pending;
     task->rawIcalendar = ICalParser::serializeTaskToVCalendar(*task);
     return update(*task);
-}
-
-bool TaskRepository::touch(const QString &id, bool isWritten)
-{
-    if (isWritten)
-        notifyChanged(SyncRows::calendarOf(m_database, TableName, id));
-    return isWritten;
-}
-
-void TaskRepository::notifyChanged(const QString &calendarId)
-{
-    m_database->dataWritten();
-    m_notifier->notify(calendarId, m_database->writeOrigin());
 }

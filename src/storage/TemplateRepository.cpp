@@ -1,11 +1,10 @@
 #include "storage/TemplateRepository.h"
 
+#include "models/NewId.h"
 #include "storage/Reorder.h"
 #include "storage/Statement.h"
 #include "storage/StoredTime.h"
 #include "storage/Tables.h"
-
-#include <QUuid>
 
 TemplateRepository::TemplateRepository(Database *database, QObject *parent)
     : QObject(parent)
@@ -32,7 +31,7 @@ bool TemplateRepository::insert(const EventTemplate &eventTemplate)
 {
     EventTemplate row = eventTemplate;
     if (row.id.isEmpty())
-        row.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+        row.id = newId();
     row.createdAt = QDateTime::currentDateTimeUtc();
     row.updatedAt = row.createdAt;
     return announce(Tables::templates().insert(m_database, row, "TemplateRepository::insert failed:"));

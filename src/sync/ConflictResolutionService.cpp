@@ -2,9 +2,8 @@
 
 #include "app/state/AppState.h"
 #include "models/Constants.h"
+#include "models/NewId.h"
 #include "storage/EventRepository.h"
-
-#include <QUuid>
 
 #include <algorithm>
 
@@ -21,10 +20,8 @@ void ConflictResolutionService::recordConflict(const Event &local, const Event &
     const auto isOfSameEvent = [&local](const EventConflict &conflict) { return conflict.local.id == local.id; };
     if (std::ranges::any_of(m_conflicts, isOfSameEvent))
         return;
-    m_conflicts.append({ .id = QUuid::createUuid().toString(QUuid::WithoutBraces),
-                         .local = local,
-                         .remote = remote,
-                         .detectedAt = QDateTime::currentDateTimeUtc() });
+    m_conflicts.append(
+        { .id = newId(), .local = local, .remote = remote, .detectedAt = QDateTime::currentDateTimeUtc() });
     emit conflictsChanged();
 }
 

@@ -251,8 +251,7 @@ void SyncScheduler::discover(const Account &account, const QString &password)
 {
     auto *client = new CalDavClient(this);
     client->setCredentials(account.username, password);
-    if (!account.trustedCertSha256.isEmpty())
-        client->setTrustedCertSha256(account.trustedCertSha256);
+    client->setTrustedCertSha256(account.trustedCertSha256);
     auto *discovery = new CalDavDiscovery(client, client);
     const auto goOn = [this, client, id = account.id, password](const QString &failure) {
         client->deleteLater();

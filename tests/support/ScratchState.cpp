@@ -1,20 +1,11 @@
 #include "support/ScratchState.h"
 
 #include "calendar/services/VisibleEvents.h"
+#include "models/NewId.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QUuid>
-
-namespace {
-
-QString newId()
-{
-    return QUuid::createUuid().toString(QUuid::WithoutBraces);
-}
-
-}
 
 ScratchState::ScratchState()
 {

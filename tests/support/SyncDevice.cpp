@@ -2,6 +2,7 @@
 
 #include "models/Account.h"
 #include "models/Calendar.h"
+#include "models/NewId.h"
 #include "models/Task.h"
 #include "storage/Database.h"
 #include "storage/Statement.h"
@@ -9,7 +10,6 @@
 
 #include <QEventLoop>
 #include <QTimer>
-#include <QUuid>
 
 namespace {
 
@@ -18,7 +18,7 @@ constexpr int PatienceMs = 60'000;
 }
 
 SyncDevice::SyncDevice(const QString &calendarUrl, const QString &username, const QString &password)
-    : m_calendarId(QUuid::createUuid().toString(QUuid::WithoutBraces))
+    : m_calendarId(newId())
     , m_username(username)
     , m_password(password)
 {
@@ -149,5 +149,5 @@ int SyncDevice::writes()
 
 int SyncDevice::pendingCount()
 {
-    return int(m_state->events()->getPending(m_calendarId).size() + m_state->tasks()->getPending(m_calendarId).size());
+    return m_state->events()->pendingCount(m_calendarId) + m_state->tasks()->pendingCount(m_calendarId);
 }

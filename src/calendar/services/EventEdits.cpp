@@ -11,6 +11,7 @@
 #include "calendar/services/EventEditsPrivate.h"
 #include "calendar/services/EventTimes.h"
 #include "calendar/services/EventUndo.h"
+#include "models/NewId.h"
 #include "storage/EventRepository.h"
 #include "storage/Savepoint.h"
 #include "storage/StoredTime.h"

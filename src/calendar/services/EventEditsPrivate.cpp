@@ -1,7 +1,6 @@
 #include "calendar/services/EventEditsPrivate.h"
 
 #include <QCoreApplication>
-#include <QUuid>
 
 using EventEdits::Outcome;
 
@@ -28,11 +27,6 @@ Outcome EventEditsPrivate::failed()
     Outcome outcome = refused(Tr::tr("Could not save the event."));
     outcome.isFailure = true;
     return outcome;
-}
-
-QString EventEditsPrivate::newId()
-{
-    return QUuid::createUuid().toString(QUuid::WithoutBraces);
 }
 
 void EventEditsPrivate::forgetServer(Event &event)

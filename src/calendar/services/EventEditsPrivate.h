@@ -9,8 +9,6 @@ EventEdits::Outcome done(const QString &id);
 EventEdits::Outcome refused(const QString &why);
 EventEdits::Outcome failed(); ///< the database refused
 
-QString newId();
-
 /// Makes the event a new one to every server.
 void forgetServer(Event &event);
 

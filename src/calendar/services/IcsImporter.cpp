@@ -1,6 +1,7 @@
 #include "calendar/services/IcsImporter.h"
 
 #include "app/state/AppState.h"
+#include "models/NewId.h"
 #include "storage/BulkWrites.h"
 #include "storage/Database.h"
 #include "storage/EventRepository.h"
@@ -10,7 +11,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTimer>
-#include <QUuid>
 
 #include <algorithm>
 #include <optional>
@@ -178,7 +178,7 @@ private:
             event.created = row->created;
             ++(repository->update(event) ? result.updated : result.failed);
         } else {
-            event.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+            event.id = newId();
             ++(repository->insert(event) ? result.imported : result.failed);
         }
     }

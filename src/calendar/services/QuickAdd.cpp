@@ -6,12 +6,12 @@
 #include "calendar/WallClock.h"
 #include "calendar/services/EventEdits.h"
 #include "models/Calendar.h"
+#include "models/NewId.h"
 #include "storage/CalendarRepository.h"
 #include "storage/StoredTime.h"
 #include "storage/TaskRepository.h"
 
 #include <QCoreApplication>
-#include <QUuid>
 
 #include <algorithm>
 
@@ -99,7 +99,7 @@ QString store(AppState *state, const Event &event)
 
 QString store(AppState *state, Task task)
 {
-    task.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    task.id = newId();
     task.uid = task.id;
     task.created = QDateTime::currentDateTimeUtc();
     task.lastModified = task.created;

@@ -7,12 +7,15 @@
 #include "calendar/SeriesMove.h"
 #include "calendar/TimeZones.h"
 #include "calendar/WallClock.h"
+#include "calendar/services/EventEditsPrivate.h"
+#include "models/NewId.h"
 #include "storage/EventRepository.h"
 #include "storage/Savepoint.h"
 #include "storage/StoredTime.h"
 
 #include <QSet>
-#include <QUuid>
+
+using EventEditsPrivate::forgetServer;
 
 namespace {
 
@@ -107,25 +110,13 @@ Event moved(const Event &series, const QDateTime &instance, const NewTimes &time
     return result;
 }
 
-void forgetServer(Event &event)
-{
-    event.providerEventId.clear();
-    event.etag.clear();
-    event.href.clear();
-    event.sequence = 0;
-}
-
-QString newId()
-{
-    return QUuid::createUuid().toString(QUuid::WithoutBraces);
-}
-
 /// A new row with the content of the series, but without its rule.
 Event newRow(const Event &master)
 {
     Event row = master;
     row.id = newId();
     forgetServer(row);
+    row.sequence = 0;
     row.rawIcalendar.clear();
     row.recurrenceRule.clear();
     row.recurrenceDates.clear();
@@ -202,6 +193,7 @@ QList<Event> overridesForTail(QList<Event> overrides, const SeriesMove &move, co
         row.masterEventUid = tail.uid;
         // It was a part of the old series there.
         forgetServer(row);
+        row.sequence = 0;
         row.syncStatus = SyncStatus::Pending;
     }
     return overrides;

@@ -7,13 +7,13 @@
 #include "calendar/services/CalendarAccess.h"
 #include "calendar/services/EditDifference.h"
 #include "calendar/services/TaskListing.h"
+#include "models/NewId.h"
 #include "storage/CalendarRepository.h"
 #include "storage/Savepoint.h"
 #include "storage/StoredTime.h"
 #include "storage/TaskRepository.h"
 
 #include <QCoreApplication>
-#include <QUuid>
 
 #include <algorithm>
 #include <ranges>
@@ -41,11 +41,6 @@ Outcome refused(const QString &why)
 Outcome failed()
 {
     return refused(Tr::tr("Couldn't update task — see log."));
-}
-
-QString newId()
-{
-    return QUuid::createUuid().toString(QUuid::WithoutBraces);
 }
 
 bool canHoldTasks(const Calendar &calendar)

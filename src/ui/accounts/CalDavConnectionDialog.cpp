@@ -2,6 +2,7 @@
 
 #include "app/state/AppState.h"
 #include "caldav/CalDavRediscover.h"
+#include "models/NewId.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
 #include "sync/SyncScheduler.h"
@@ -18,7 +19,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QUuid>
 #include <QVBoxLayout>
 
 namespace {
@@ -306,7 +306,7 @@ void CalDavConnectionDialog::store()
             return showProblem(tr("This account was removed in the meantime."), nullptr);
         base = *current;
     } else {
-        base.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+        base.id = newId();
         base.type = AccountType::CalDAV;
         base.createdAt = QDateTime::currentDateTimeUtc();
     }

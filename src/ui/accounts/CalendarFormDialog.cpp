@@ -3,6 +3,7 @@
 #include "app/state/AppState.h"
 #include "app/state/LocalAccount.h"
 #include "caldav/CollectionJob.h"
+#include "models/NewId.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
 #include "sync/SyncScheduler.h"
@@ -15,7 +16,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QUuid>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -108,7 +108,7 @@ Calendar CalendarFormDialog::newLocalCalendar() const
 {
     const QList<Calendar> others = m_state->calendars()->getAll();
     Calendar calendar;
-    calendar.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    calendar.id = newId();
     calendar.accountId = LocalDefaults::LocalAccountId;
     calendar.url = LocalDefaults::CalendarUrlPrefix + calendar.id;
     calendar.supportedComponents = QStringLiteral("[\"VEVENT\",\"VTODO\"]");

@@ -20,12 +20,12 @@ struct Text {
 
 QString CalendarRemoval::lossText(AppState *state, const QList<Calendar> &calendars)
 {
-    qsizetype edits = 0;
+    int edits = 0;
     for (const Calendar &calendar : calendars)
-        edits += state->events()->getPending(calendar.id).size() + state->tasks()->getPending(calendar.id).size();
+        edits += state->events()->pendingCount(calendar.id) + state->tasks()->pendingCount(calendar.id);
     return edits == 0
         ? QString()
-        : Text::tr("%n change(s) made here have not reached the server yet and will be lost.", nullptr, int(edits));
+        : Text::tr("%n change(s) made here have not reached the server yet and will be lost.", nullptr, edits);
 }
 
 QString CalendarRemoval::questionText(AppState *state, const QList<Calendar> &calendars)

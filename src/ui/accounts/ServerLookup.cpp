@@ -43,8 +43,7 @@ void ServerLookup::begin(const QString &url)
     m_url = url;
     m_refusedCertSha256.clear();
     m_client = new CalDavClient(this);
-    if (!m_trustedCertSha256.isEmpty())
-        m_client->setTrustedCertSha256(m_trustedCertSha256);
+    m_client->setTrustedCertSha256(m_trustedCertSha256);
     m_discovery = new CalDavDiscovery(m_client, m_client);
     connect(m_discovery, &CalDavDiscovery::completed, this, &ServerLookup::onCompleted);
     connect(m_discovery, &CalDavDiscovery::failed, this, &ServerLookup::onFailed);

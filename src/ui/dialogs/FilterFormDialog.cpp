@@ -3,6 +3,7 @@
 #include "app/state/AppState.h"
 #include "calendar/FilterEngine.h"
 #include "models/Event.h"
+#include "models/NewId.h"
 #include "storage/EventRepository.h"
 #include "storage/FilterRuleRepository.h"
 #include "ui/dialogs/CalendarChecklist.h"
@@ -20,7 +21,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QUuid>
 #include <QVBoxLayout>
 
 namespace {
@@ -40,7 +40,7 @@ FilterFormDialog::FilterFormDialog(AppState *state, QWidget *parent)
     : FormDialog(tr("New Filter"), parent)
     , m_state(state)
 {
-    m_original.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    m_original.id = newId();
     m_original.type = FilterType::Pattern;
     m_original.createdAt = QDateTime::currentDateTimeUtc();
     build();

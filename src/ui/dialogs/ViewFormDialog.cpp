@@ -1,6 +1,7 @@
 #include "ui/dialogs/ViewFormDialog.h"
 
 #include "app/state/AppState.h"
+#include "models/NewId.h"
 #include "storage/ViewRepository.h"
 #include "ui/dialogs/CalendarChecklist.h"
 #include "ui/dialogs/ColorButton.h"
@@ -8,7 +9,6 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QUuid>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -17,7 +17,7 @@ ViewFormDialog::ViewFormDialog(AppState *state, QWidget *parent)
     : FormDialog(tr("New Calendar Group"), parent)
     , m_state(state)
 {
-    m_original.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    m_original.id = newId();
     m_original.createdAt = QDateTime::currentDateTimeUtc();
     QStringList used;
     const QList<ViewDef> views = state->views()->getAll();

@@ -1,6 +1,7 @@
 #include "calendar/services/VisibleEvents.h"
 
 #include "calendar/FilterEngine.h"
+#include "models/NewId.h"
 #include "storage/CalendarRepository.h"
 #include "storage/EventRepository.h"
 #include "storage/FilterRuleRepository.h"
@@ -9,18 +10,12 @@
 #include "support/TestData.h"
 
 #include <QTimeZone>
-#include <QUuid>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QDate Monday(2026, 5, 4);
-
-QString newId()
-{
-    return QUuid::createUuid().toString(QUuid::WithoutBraces);
-}
 
 /// On the machine's clock, \p day days after Monday.
 QDateTime local(int day, int hour, int minute = 0)
