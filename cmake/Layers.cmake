@@ -11,6 +11,7 @@ function(quillon_add_layer name)
     set(target quillon_${name})
     add_library(${target} ${sources})
     set_target_properties(${target} PROPERTIES QUILLON_LEVEL ${ARG_LEVEL} LINKER_LANGUAGE CXX)
+    quillon_renew_moc_for_new_files(${target} "${sources}")
     target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src ${CMAKE_BINARY_DIR}/generated)
     target_link_libraries(${target} PUBLIC quillon_options)
     foreach(component IN LISTS ARG_QT)
@@ -30,6 +31,20 @@ function(quillon_add_layer name)
         target_link_options(${target} PRIVATE -Wl,--no-undefined)
     endif()
     quillon_use_pch(${target})
+endfunction()
+
+# CMake 3.25 with Ninja starts moc only when a file changes that moc has already seen. A header that came with a pull or
+# from another folder would miss its meta-object at link time; so a changed list of files makes moc look again.
+function(quillon_renew_moc_for_new_files target sources)
+    set(known ${CMAKE_CURRENT_BINARY_DIR}/${target}_sources.txt)
+    set(before "")
+    if(EXISTS ${known})
+        file(READ ${known} before)
+    endif()
+    if(NOT before STREQUAL sources)
+        file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp)
+        file(WRITE ${known} "${sources}")
+    endif()
 endfunction()
 
 # The Qt headers that nearly every file includes; a target without widgets gets the core set.
