@@ -7,6 +7,7 @@
 #include "models/Calendar.h"
 #include "support/HttpServer.h"
 #include "support/ScratchState.h"
+#include "support/SelfSigned.h"
 #include "support/TestData.h"
 
 #include <QSignalSpy>
@@ -57,6 +58,8 @@ private slots:
             u"The server rejected the username or password."_s);
         row("nothing there", u""_s, u""_s, u"/.well-known/caldav /"_s,
             u"Could not find a CalDAV account on that server. Check the URL."_s);
+        row("refused, and a page without calendars", u"/dav/"_s, u"deep 401 root nothing"_s,
+            u"/dav/ /.well-known/caldav / / /"_s, u"The server rejected the username or password."_s);
         row("home set fails", u""_s, u"wellknown principal me 500"_s, u"/.well-known/caldav /me/"_s,
             u"Server returned HTTP 500 during home-set discovery."_s);
         row("listing fails", u""_s, u"wellknown principal home 403"_s, u"/.well-known/caldav /me/ /home/"_s,
@@ -91,6 +94,82 @@ private slots:
         } else {
             QCOMPARE(failed.first().first().toString(), outcome);
         }
+    }
+
+    // The typed server redirects to another one, which names its home set in full and everything else by its path.
+    void findsTheServerThatHasThem_data()
+    {
+        columns<QString, QString, QString>("typedHas", "redirectsTo", "outcome");
+        row("the typed one knows the way alone", u""_s, u"127.0.0.1"_s, u"other"_s);
+        row("the typed one has the principal", u"/me/"_s, u"127.0.0.1"_s, u"other"_s);
+        row("the typed one has them too", u"/me/ /home/work/"_s, u"127.0.0.1"_s, u"typed"_s);
+        row("the password is not for the other", u""_s, u"localhost"_s, u"told"_s);
+    }
+    void findsTheServerThatHasThem()
+    {
+        QFETCH(const QString, typedHas);
+        QFETCH(const QString, redirectsTo);
+        HttpServer typed;
+        HttpServer other;
+        const auto content = [&](const QByteArray &target) {
+            const QByteArray home = other.url(u"/home/"_s).toEncoded();
+            return target == "/me/" ? multistatus(QByteArray(HomeSet).replace("/home/", home))
+                                    : reply(target, u"deep principal"_s);
+        };
+        other.setHandler([&](const HttpServer::Request &request) -> HttpServer::Reply {
+            if (request.headers.contains("authorization"))
+                return content(request.target);
+            return { .status = 401, .body = {}, .headers = {} };
+        });
+        QUrl elsewhere = other.url(u"/dav/"_s);
+        elsewhere.setHost(redirectsTo);
+        typed.setHandler([&](const HttpServer::Request &request) -> HttpServer::Reply {
+            if (request.target == "/.well-known/caldav")
+                return { .status = 301, .body = {}, .headers = { { "Location", elsewhere.toEncoded() } } };
+            if (typedHas.split(u' ').contains(QString::fromUtf8(request.target)))
+                return content(request.target);
+            return { .status = 404, .body = {}, .headers = {} };
+        });
+        CalDavClient client;
+        client.setCredentials(u"bob"_s, u"secret"_s);
+        CalDavDiscovery discovery(&client);
+        QString outcome;
+        connect(&discovery, &CalDavDiscovery::completed, this, [&](const QList<DiscoveredCalendar> &calendars) {
+            outcome = calendars.first().url == typed.url(u"/home/work/"_s).toString() ? u"typed"_s
+                : calendars.first().url == other.url(u"/home/work/"_s).toString()     ? u"other"_s
+                                                                                      : calendars.first().url;
+        });
+        connect(&discovery, &CalDavDiscovery::failed, this, [&](const QString &message) {
+            outcome = message.endsWith(elsewhere.toString()) ? u"told"_s : message;
+        });
+        discovery.start(typed.url());
+        QTRY_VERIFY(!outcome.isEmpty());
+        QTEST(outcome, "outcome");
+    }
+
+    void staysWithTls()
+    {
+        const QSslConfiguration tls = selfSigned();
+        HttpServer plain;
+        HttpServer secure(tls);
+        plain.setHandler([&](const HttpServer::Request &request) -> HttpServer::Reply {
+            const QUrl target = secure.url(QString::fromUtf8(request.target));
+            return { .status = 301, .body = {}, .headers = { { "Location", target.toEncoded() } } };
+        });
+        secure.setHandler([&](const HttpServer::Request &request) -> HttpServer::Reply {
+            if (request.target == "/.well-known/caldav")
+                return { .status = 301, .body = {}, .headers = { { "Location", plain.url(u"/dav/"_s).toEncoded() } } };
+            return reply(request.target, u"deep principal"_s);
+        });
+        CalDavClient client;
+        client.setTrustedCertSha256(
+            QString::fromLatin1(tls.localCertificate().digest(QCryptographicHash::Sha256).toHex()));
+        CalDavDiscovery discovery(&client);
+        const QSignalSpy completed(&discovery, &CalDavDiscovery::completed);
+        discovery.start(plain.url());
+        QTRY_COMPARE(completed.size(), 1);
+        QCOMPARE(discovery.homeSet(), secure.url(u"/home/"_s).toString());
+        QCOMPARE(plain.requests().size(), 1);
     }
 
     void saysWhatIsNoAddress_data()
@@ -196,12 +275,14 @@ private:
     static HttpServer::Reply reply(const QByteArray &target, const QString &script)
     {
         const auto failure = [&script](const QString &word) {
-            return HttpServer::Reply{ .status = script.section(word + u' ', 1).toInt(), .body = {}, .headers = {} };
+            return HttpServer::Reply{ .status = script.section(word + u' ', 1).section(u' ', 0, 0).toInt(),
+                                      .body = {},
+                                      .headers = {} };
         };
         const auto candidate = [&](const QString &word) -> HttpServer::Reply {
             if (script.startsWith(word + u" principal"_s))
                 return multistatus(Principal);
-            if (script == word + u" nothing"_s)
+            if (script.contains(word + u" nothing"_s))
                 return multistatus(answer("<d:displayname>x</d:displayname>"));
             return script.startsWith(word) ? failure(word)
                                            : HttpServer::Reply{ .status = 404, .body = {}, .headers = {} };

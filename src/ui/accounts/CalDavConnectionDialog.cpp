@@ -2,6 +2,7 @@
 
 #include "app/state/AppState.h"
 #include "caldav/CalDavRediscover.h"
+#include "caldav/ServerAddress.h"
 #include "models/NewId.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
@@ -9,7 +10,6 @@
 #include "ui/accounts/AccountSetup.h"
 #include "ui/accounts/CalendarRemoval.h"
 #include "ui/accounts/PasswordField.h"
-#include "ui/accounts/ServerAddress.h"
 #include "ui/accounts/ServerLookup.h"
 #include "ui/dialogs/Prompt.h"
 #include "ui/theme/Theme.h"

@@ -2,6 +2,7 @@
 
 #include "caldav/CalDavClient.h"
 #include "caldav/CalDavDiscovery.h"
+#include "caldav/ServerAddress.h"
 #include "sync/Credentials.h"
 #include "ui/accounts/CalDavCertificateDialog.h"
 
@@ -52,7 +53,7 @@ void ServerLookup::begin(const QString &url)
 
 void ServerLookup::discover()
 {
-    m_discovery->start(QUrl(m_url));
+    m_discovery->start(QUrl(ServerAddress::read(m_url).url));
 }
 
 void ServerLookup::stop()
