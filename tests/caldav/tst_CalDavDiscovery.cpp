@@ -238,6 +238,12 @@ private slots:
         QCOMPARE(upsert(twins), 0);
         QCOMPARE(calendars().size(), 3);
 
+        // As another program spells it.
+        renamed = *state->calendars()->getById(renamed.id);
+        renamed.url = u"https://dav.a.example/cal/%C3%89t%C3%A9%20%25/"_s;
+        QVERIFY(state->calendars()->update(renamed));
+        QCOMPARE(upsert({ found(u"https://dav.a.example/cal/Été %25/"_s) }), 0);
+
         CalDavRediscover::decline(state.state(), account.id, { u"http://a.example/cal/old/"_s });
         QCOMPARE(upsert({ found(u"https://dav.a.example/cal/old/"_s) }), 0);
         CalDavRediscover::accept(state.state(), account.id, { u"https://dav.a.example/cal/old/"_s });

@@ -50,7 +50,7 @@ CalDavConnectionDialog::CalDavConnectionDialog(AppState *state, const Account &a
     m_url->setCursorPosition(0);
     m_username->setText(account.username);
     m_password->edit()->setPlaceholderText(tr("Leave empty to keep the stored one"));
-    m_lookup->setTrustedCertSha256(account.trustedCertSha256);
+    m_lookup->setTrustedCertSha256(account.trustedCertSha256, account.serverUrl);
     chooseDefaultButton();
 }
 
@@ -255,10 +255,13 @@ QList<Calendar> CalDavConnectionDialog::unwantedCalendars() const
 {
     if (!m_editing || !m_hasFound)
         return {};
+    QStringList listedUrls;
+    for (const CalDavParse::DiscoveredCalendar &found : m_found)
+        listedUrls.append(found.url);
     QList<Calendar> unchecked;
     QList<Calendar> notFound = m_state->calendars()->getByAccount(m_original.id);
     for (int row = 0; row < m_list->count(); ++row) {
-        const auto known = AccountSetup::knownCalendar(m_state, m_original.id, m_found.at(row).url);
+        const auto known = CalDavRediscover::knownCalendar(m_state, m_original.id, m_found.at(row).url, listedUrls);
         if (!known)
             continue;
         notFound.removeIf([&known](const Calendar &calendar) { return calendar.id == known->id; });
