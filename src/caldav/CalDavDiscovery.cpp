@@ -199,7 +199,8 @@ void CalDavDiscovery::onCalendarsReply(const Response &response)
             tr("Lost connection during calendar enumeration: %1").arg(tr("The server's answer was cut off.")));
     m_homeSet = m_currentUrl.toString();
     m_calendars = listed(response.body, m_baseUrl);
-    m_calendarsElsewhere = listed(response.body, answeringServer(response));
+    const QUrl server = answeringServer(response);
+    m_calendarsElsewhere = server == m_baseUrl ? m_calendars : listed(response.body, server);
     if (m_calendars.isEmpty()) {
         // Some page answered the request; what has the calendars wanted another password.
         return emitFail(m_wasUnauthorized && !hasPrincipal() ? tr("The server rejected the username or password.")
