@@ -219,7 +219,7 @@ bool CalDavConnectionDialog::save()
         return false;
     const QList<Calendar> removed = unwantedCalendars();
     if (removed.isEmpty())
-        store();
+        store({});
     else
         askToRemove(removed);
     return false; // whoever stores closes
@@ -275,10 +275,7 @@ QList<Calendar> CalDavConnectionDialog::unwantedCalendars() const
 void CalDavConnectionDialog::askToRemove(const QList<Calendar> &calendars)
 {
     Prompt::question(this, tr("Remove calendars?"), CalendarRemoval::questionText(m_state, calendars), this,
-                     [this, calendars] {
-                         CalendarRemoval::removeFromDevice(m_state, calendars);
-                         store();
-                     });
+                     [this, calendars] { store(calendars); });
 }
 
 Account CalDavConnectionDialog::enteredAccount(const Account &base) const
@@ -300,7 +297,7 @@ Account CalDavConnectionDialog::enteredAccount(const Account &base) const
     return account;
 }
 
-void CalDavConnectionDialog::store()
+void CalDavConnectionDialog::store(const QList<Calendar> &removed)
 {
     Account base;
     if (m_editing) {
@@ -325,6 +322,7 @@ void CalDavConnectionDialog::store()
     if (!AccountSetup::store(m_state, account, picked, left))
         return Prompt::warning(this, tr("Database Error"), tr("Could not save the account."));
     m_resultId = account.id;
+    CalendarRemoval::removeFromDevice(m_state, removed);
 
     SyncScheduler *scheduler = m_state->syncScheduler();
     const QString password = m_password->text();
