@@ -315,7 +315,8 @@ void CalDavClient::onFinished(QNetworkReply *reply, const Request &request)
     const auto inFlight = m_inFlight.constFind(reply);
     if (inFlight == m_inFlight.cend())
         return;
-    const Response response = readResponse(reply, *inFlight);
+    Response response = readResponse(reply, *inFlight);
+    response.url = request.url;
     m_inFlight.erase(inFlight);
     reply->deleteLater();
     const std::optional<QUrl> target = redirectTarget(response, request.url);

@@ -40,6 +40,7 @@ public:
         QByteArray body;
         QHash<QByteArray, QByteArray> headers; ///< names as the server spells them
         QString error; ///< only if there is no status; for the user
+        QUrl url; ///< that answered, at the end of the redirects
         /// The body arrived to its end, as far as its length or the end of its multistatus tells. One that came in
         /// chunks, and is no multistatus, may be cut all the same.
         bool isWhole = false;

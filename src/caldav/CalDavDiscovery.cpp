@@ -1,21 +1,48 @@
 #include "caldav/CalDavDiscovery.h"
 
-#include "caldav/CalDavClient.h"
 #include "caldav/CalDavXml.h"
+#include "caldav/CredentialScope.h"
 #include "caldav/SilenceGuard.h"
 
 #include <QDebug>
 
+#include <algorithm>
+#include <utility>
+
 namespace {
+
+constexpr qsizetype MaxCandidates = 8;
 
 QUrl withScheme(const QUrl &input)
 {
     const bool isBare = input.scheme().isEmpty() && !input.toString().isEmpty();
-    if (isBare)
-        return QUrl(QStringLiteral("https://") + input.toString());
-    // "calendar.example.com:8443" reads as a scheme with a path of digits.
-    const bool isHostWithPort = input.host().isEmpty() && input.scheme().contains(u'.');
-    return isHostWithPort ? QUrl(QStringLiteral("https://") + input.toString()) : input;
+    return isBare ? QUrl(QStringLiteral("https://") + input.toString()) : input;
+}
+
+QUrl serverOf(const QUrl &url)
+{
+    return url.adjusted(QUrl::RemoveUserInfo | QUrl::RemovePath | QUrl::RemoveQuery | QUrl::RemoveFragment);
+}
+
+/// A server behind a proxy may name itself by http; what came by https must not go on in the clear.
+QUrl secured(QUrl url, const QUrl &from)
+{
+    url.setUserInfo(QString());
+    if (from.scheme() != u"https" || url.scheme() != u"http")
+        return url;
+    url.setScheme(from.scheme());
+    url.setPort(url.host() == from.host() ? from.port() : -1);
+    return url;
+}
+
+bool isMultistatus(const CalDavClient::Response &response)
+{
+    return response.status == 207;
+}
+
+bool isSameCollection(const QString &url, const QString &other)
+{
+    return QUrl(url).adjusted(QUrl::StripTrailingSlash) == QUrl(other).adjusted(QUrl::StripTrailingSlash);
 }
 
 }
@@ -34,6 +61,8 @@ void CalDavDiscovery::start(const QUrl &input)
     m_candidateIndex = 0;
     m_fallbackHomeUrl.reset();
     m_wasUnauthorized = false;
+    m_strangerUrl.clear();
+    m_elsewhere.clear();
     m_principal.clear();
     m_homeSet.clear();
 
@@ -51,10 +80,7 @@ void CalDavDiscovery::start(const QUrl &input)
             Qt::QueuedConnection);
         return;
     }
-    m_baseUrl = url;
-    m_baseUrl.setPath(QString());
-    m_baseUrl.setQuery(QString());
-    m_baseUrl.setFragment(QString());
+    m_baseUrl = serverOf(url);
 
     const QString path = url.path(QUrl::FullyDecoded);
     if (!path.isEmpty() && path != u"/")
@@ -67,11 +93,34 @@ void CalDavDiscovery::start(const QUrl &input)
 void CalDavDiscovery::propfind(const QUrl &url, const QByteArray &body, int depth, Handler onReply)
 {
     m_currentUrl = url;
-    m_client->propfind(
-        url, body, depth,
-        m_guard->guarded(SilenceGuard::SilenceMs, [this, onReply](const CalDavClient::Response &response) {
-            (this->*onReply)(response.status, response.body, response.error);
-        }));
+    const auto onAnswer = [this, body, depth, onReply](const Response &response) {
+        const QUrl elsewhere = std::exchange(m_elsewhere, {});
+        if (!elsewhere.isEmpty() && response.error.isEmpty() && !isMultistatus(response)) {
+            m_baseUrl = serverOf(elsewhere);
+            return propfind(elsewhere, body, depth, onReply);
+        }
+        // From here on the password need not go through the clear first.
+        if (isMultistatus(response) && m_baseUrl.scheme() == u"http" && response.url.scheme() == u"https"
+            && response.url.host() == m_baseUrl.host())
+            m_baseUrl = serverOf(response.url);
+        (this->*onReply)(response);
+    };
+    m_client->propfind(url, body, depth, m_guard->guarded(SilenceGuard::SilenceMs, onAnswer));
+}
+
+/// False if the answer has no such href.
+bool CalDavDiscovery::follow(HrefParser parse, const Response &response, const QByteArray &body, int depth,
+                             Handler onReply)
+{
+    const auto href = parse(response.body, m_baseUrl);
+    if (!href)
+        return false;
+    const QUrl url = secured(*href, m_baseUrl);
+    const QUrl elsewhere = secured(parse(response.body, answeringServer(response)).value_or(*href), m_baseUrl);
+    if (elsewhere != url)
+        m_elsewhere = elsewhere;
+    propfind(url, body, depth, onReply);
+    return true;
 }
 
 void CalDavDiscovery::tryNextPrincipalCandidate()
@@ -83,62 +132,119 @@ void CalDavDiscovery::tryNextPrincipalCandidate()
         return propfind(*m_fallbackHomeUrl, CalDavXml::calendarHomeSetBody(), 0, &CalDavDiscovery::onHomeSetReply);
     if (m_wasUnauthorized)
         return emitFail(tr("The server rejected the username or password."));
+    if (!m_strangerUrl.isEmpty())
+        return emitFail(
+            tr("The server refers to another one, which was not given your password. If you trust it, enter "
+               "its address instead: %1")
+                .arg(m_strangerUrl.toString()));
     emitFail(tr("Could not find a CalDAV account on that server. Check the URL."));
 }
 
-void CalDavDiscovery::onPrincipalReply(int status, const QByteArray &body, const QString &error)
+void CalDavDiscovery::onPrincipalReply(const Response &response)
 {
     // A refused connection or certificate is the same for every candidate.
-    if (!error.isEmpty())
-        return emitFail(tr("Could not reach the server: %1").arg(error));
-    if (CalDavClient::isSuccess(status)) {
-        if (const auto principal = CalDavParse::parsePrincipalUrl(body, m_baseUrl)) {
-            const QUrl url = secured(*principal);
-            m_principal = url.toString();
-            return propfind(url, CalDavXml::calendarHomeSetBody(), 0, &CalDavDiscovery::onHomeSetReply);
-        }
+    if (!response.error.isEmpty())
+        return emitFail(tr("Could not reach the server: %1").arg(response.error));
+    if (CalDavClient::isSuccess(response.status)) {
+        if (follow(CalDavParse::parsePrincipalUrl, response, CalDavXml::calendarHomeSetBody(), 0,
+                   &CalDavDiscovery::onHomeSetReply))
+            return;
         if (!m_fallbackHomeUrl)
             m_fallbackHomeUrl = m_currentUrl;
     }
-    m_wasUnauthorized |= status == 401;
+    if (response.status == 401 && !CredentialScope::covers(m_currentUrl, response.url))
+        m_strangerUrl = response.url.adjusted(QUrl::RemoveQuery | QUrl::RemoveFragment);
+    else
+        m_wasUnauthorized |= response.status == 401;
+    addRefusedRedirect(response);
     ++m_candidateIndex;
     tryNextPrincipalCandidate();
 }
 
-void CalDavDiscovery::onHomeSetReply(int status, const QByteArray &body, const QString &error)
+/// Where a redirect from https to http leads is another candidate, by https.
+void CalDavDiscovery::addRefusedRedirect(const Response &response)
 {
-    if (!error.isEmpty())
-        return emitFail(tr("Lost connection during calendar-home-set discovery: %1").arg(error));
-    if (!CalDavClient::isSuccess(status))
-        return emitFail(tr("Server returned HTTP %1 during home-set discovery.").arg(status));
-    const QUrl homeSet = secured(CalDavParse::parseCalendarHomeSet(body, m_baseUrl).value_or(m_currentUrl));
-    m_homeSet = homeSet.toString(QUrl::RemoveUserInfo);
-    propfind(homeSet, CalDavXml::calendarEnumerationBody(), 1, &CalDavDiscovery::onCalendarsReply);
+    const QUrl location(QString::fromUtf8(response.header("location")));
+    const bool isRedirect = response.status >= 300 && response.status <= 399 && !location.isEmpty();
+    if (!isRedirect || m_candidates.size() >= MaxCandidates)
+        return;
+    const QUrl refused = response.url.resolved(location);
+    const QUrl target = secured(refused, response.url);
+    if (target != refused && CredentialScope::covers(response.url, target) && !m_candidates.contains(target))
+        m_candidates.insert(m_candidateIndex + 1, target);
 }
 
-void CalDavDiscovery::onCalendarsReply(int status, const QByteArray &body, const QString &error)
+void CalDavDiscovery::onHomeSetReply(const Response &response)
 {
-    if (!error.isEmpty())
-        return emitFail(tr("Lost connection during calendar enumeration: %1").arg(error));
-    if (!CalDavClient::isSuccess(status))
-        return emitFail(tr("Server returned HTTP %1 during calendar enumeration.").arg(status));
-    QList<CalDavParse::DiscoveredCalendar> calendars = CalDavParse::parseCalendarList(body, m_baseUrl);
-    if (calendars.isEmpty())
-        return emitFail(tr("No calendars found at the discovered home set."));
-    for (CalDavParse::DiscoveredCalendar &calendar : calendars)
-        calendar.url = secured(QUrl(calendar.url)).toString();
-    emit completed(calendars);
+    if (!response.error.isEmpty())
+        return emitFail(tr("Lost connection during calendar-home-set discovery: %1").arg(response.error));
+    if (!CalDavClient::isSuccess(response.status))
+        return emitFail(tr("Server returned HTTP %1 during home-set discovery.").arg(response.status));
+    if (hasPrincipal())
+        m_principal = m_currentUrl.toString();
+    const QByteArray body = CalDavXml::calendarEnumerationBody();
+    if (!follow(CalDavParse::parseCalendarHomeSet, response, body, 1, &CalDavDiscovery::onCalendarsReply))
+        propfind(secured(m_currentUrl, m_baseUrl), body, 1, &CalDavDiscovery::onCalendarsReply);
 }
 
-/// A server behind a proxy may name itself by http; the password must not go there in the clear.
-QUrl CalDavDiscovery::secured(QUrl url) const
+void CalDavDiscovery::onCalendarsReply(const Response &response)
 {
-    url.setUserInfo(QString());
-    if (m_baseUrl.scheme() != u"https" || url.scheme() != u"http")
-        return url;
-    url.setScheme(m_baseUrl.scheme());
-    url.setPort(url.host() == m_baseUrl.host() ? m_baseUrl.port() : -1);
-    return url;
+    if (!response.error.isEmpty())
+        return emitFail(tr("Lost connection during calendar enumeration: %1").arg(response.error));
+    if (!CalDavClient::isSuccess(response.status))
+        return emitFail(tr("Server returned HTTP %1 during calendar enumeration.").arg(response.status));
+    // Half a list would make the other half look as if it had gone.
+    if (!response.isWhole)
+        return emitFail(
+            tr("Lost connection during calendar enumeration: %1").arg(tr("The server's answer was cut off.")));
+    m_homeSet = m_currentUrl.toString();
+    m_calendars = listed(response.body, m_baseUrl);
+    const QUrl server = answeringServer(response);
+    m_calendarsElsewhere = server == m_baseUrl ? m_calendars : listed(response.body, server);
+    if (m_calendars.isEmpty()) {
+        // Some page answered the request; what has the calendars wanted another password.
+        return emitFail(m_wasUnauthorized && !hasPrincipal() ? tr("The server rejected the username or password.")
+                                                             : tr("No calendars found at the discovered home set."));
+    }
+    const auto differs = std::ranges::mismatch(m_calendars, m_calendarsElsewhere, {}, &DiscoveredCalendar::url,
+                                               &DiscoveredCalendar::url);
+    if (differs.in1 == m_calendars.end())
+        return emitCompleted();
+    propfind(QUrl(differs.in1->url), CalDavXml::calendarEnumerationBody(), 0, &CalDavDiscovery::onWhereaboutsReply);
+}
+
+/// Whether the typed server has the calendars that another one listed.
+void CalDavDiscovery::onWhereaboutsReply(const Response &response)
+{
+    if (!response.error.isEmpty())
+        return emitFail(tr("Lost connection during calendar enumeration: %1").arg(response.error));
+    if (!isMultistatus(response))
+        m_calendars = m_calendarsElsewhere;
+    emitCompleted();
+}
+
+void CalDavDiscovery::emitCompleted()
+{
+    for (const DiscoveredCalendar &calendar : std::as_const(m_calendars)) {
+        if (isSameCollection(calendar.url, m_homeSet))
+            m_homeSet.clear();
+    }
+    emit completed(m_calendars);
+}
+
+QList<CalDavParse::DiscoveredCalendar> CalDavDiscovery::listed(const QByteArray &body, const QUrl &baseUrl) const
+{
+    QList<DiscoveredCalendar> calendars = CalDavParse::parseCalendarList(body, baseUrl);
+    for (DiscoveredCalendar &calendar : calendars)
+        calendar.url = secured(QUrl(calendar.url), m_baseUrl).toString();
+    return calendars;
+}
+
+/// Against what RFC 3986 §5.1.3 resolves the answer's hrefs; the typed server where a redirect led to one that the
+/// password is not for.
+QUrl CalDavDiscovery::answeringServer(const Response &response) const
+{
+    return CredentialScope::covers(m_currentUrl, response.url) ? serverOf(response.url) : m_baseUrl;
 }
 
 void CalDavDiscovery::emitFail(const QString &message)

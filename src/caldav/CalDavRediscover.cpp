@@ -13,12 +13,19 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
+#include <QUrl>
 
 namespace {
 
 QString jsonList(const QList<QString> &texts)
 {
     return QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(texts)).toJson(QJsonDocument::Compact));
+}
+
+// A row may come from another program: "%20" and " " are the same.
+QString spelled(const QString &url)
+{
+    return QUrl(url).toString();
 }
 
 QString keyOf(const QString &url)
@@ -89,19 +96,17 @@ public:
             add(calendar);
     }
 
-    /// By its address, else by its key: one that has moved. What is \p listed at another address is another calendar,
-    /// though its key is the same, as of "/Work/" and "/work/".
     [[nodiscard]] const Calendar *find(const QString &url, const QSet<QString> &listed) const
     {
-        if (const auto found = m_byUrl.constFind(url); found != m_byUrl.cend())
+        if (const auto found = m_byUrl.constFind(spelled(url)); found != m_byUrl.cend())
             return &*found;
         const auto found = m_byKey.constFind(keyOf(url));
-        return found != m_byKey.cend() && !listed.contains(found->url) ? &*found : nullptr;
+        return found != m_byKey.cend() && !listed.contains(spelled(found->url)) ? &*found : nullptr;
     }
 
     void add(const Calendar &calendar)
     {
-        m_byUrl.insert(calendar.url, calendar);
+        m_byUrl.insert(spelled(calendar.url), calendar);
         m_byKey.insert(calendar.canonicalKey.isEmpty() ? keyOf(calendar.url) : calendar.canonicalKey, calendar);
     }
 
@@ -142,6 +147,17 @@ Calendar CalDavRediscover::newCalendar(const Account &account, const CalDavParse
     return calendar;
 }
 
+std::optional<Calendar> CalDavRediscover::knownCalendar(AppState *state, const QString &accountId, const QString &url,
+                                                        const QStringList &listedUrls)
+{
+    QSet<QString> listed;
+    for (const QString &listedUrl : listedUrls)
+        listed.insert(spelled(listedUrl));
+    const KnownCalendars known(state, accountId);
+    const Calendar *calendar = known.find(url, listed);
+    return calendar ? std::optional(*calendar) : std::nullopt;
+}
+
 int CalDavRediscover::upsertDiscoveredCalendars(AppState *state, const QString &accountId,
                                                 const QList<CalDavParse::DiscoveredCalendar> &discovered)
 {
@@ -155,7 +171,7 @@ int CalDavRediscover::upsertDiscoveredCalendars(AppState *state, const QString &
     KnownCalendars known(state, accountId);
     QSet<QString> listed;
     for (const CalDavParse::DiscoveredCalendar &found : discovered)
-        listed.insert(found.url);
+        listed.insert(spelled(found.url));
     const DeclinedAddresses declined(state, accountId);
     int inserted = 0;
     for (const CalDavParse::DiscoveredCalendar &found : discovered) {

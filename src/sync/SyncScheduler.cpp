@@ -6,6 +6,7 @@
 #include "caldav/CalDavDiscovery.h"
 #include "caldav/CalDavRediscover.h"
 #include "caldav/CalDavSyncClient.h"
+#include "caldav/ServerAddress.h"
 #include "models/Constants.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
@@ -270,7 +271,7 @@ void SyncScheduler::discover(const Account &account, const QString &password)
             noteRefusedCertificate(id, client->pendingUntrustedCert().sha256);
         goOn(message);
     });
-    discovery->start(QUrl(account.serverUrl));
+    discovery->start(QUrl(ServerAddress::read(account.serverUrl).url));
 }
 
 /// The accounts dialog tells of it, and shows it beside the one that was trusted.

@@ -2,12 +2,12 @@
 
 #include "app/state/AppState.h"
 #include "caldav/CalDavRediscover.h"
-#include "calendar/CalendarKey.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
 #include "storage/Savepoint.h"
 
 #include <QCoreApplication>
+#include <QStringList>
 #include <QUrl>
 
 #include <algorithm>
@@ -27,7 +27,8 @@ bool storeAccount(AppState *state, const Account &account)
     return accounts->getById(account.id) ? accounts->update(account) : accounts->insert(account);
 }
 
-bool insertPicked(AppState *state, const Account &account, const QList<Discovered> &picked)
+bool insertPicked(AppState *state, const Account &account, const QList<Discovered> &picked,
+                  const QStringList &listedUrls)
 {
     int sortOrder = 0;
     const QList<Calendar> siblings = state->calendars()->getByAccount(account.id);
@@ -35,7 +36,7 @@ bool insertPicked(AppState *state, const Account &account, const QList<Discovere
         sortOrder = std::max(sortOrder, sibling.sortOrder + 1);
     bool isFirst = state->calendars()->getAll().isEmpty();
     for (const Discovered &discovered : picked) {
-        if (AccountSetup::knownCalendar(state, account.id, discovered.url))
+        if (CalDavRediscover::knownCalendar(state, account.id, discovered.url, listedUrls))
             continue;
         Calendar calendar = CalDavRediscover::newCalendar(account, discovered);
         calendar.ctag = discovered.ctag;
@@ -55,26 +56,16 @@ QString AccountSetup::defaultName(const QString &serverUrl)
     return Text::tr("CalDAV (%1)").arg(QUrl(serverUrl).host());
 }
 
-std::optional<Calendar> AccountSetup::knownCalendar(AppState *state, const QString &accountId, const QString &url)
-{
-    using Quillon::CalendarKey::compute;
-    const auto key = compute(AccountType::CalDAV, url);
-    const QList<Calendar> calendars = state->calendars()->getByAccount(accountId);
-    const auto found = std::ranges::find_if(calendars, [&](const Calendar &calendar) {
-        return calendar.url == url || (key && compute(AccountType::CalDAV, calendar.url) == key);
-    });
-    return found == calendars.end() ? std::nullopt : std::optional(*found);
-}
-
 bool AccountSetup::store(AppState *state, const Account &account, const QList<Discovered> &picked,
                          const QStringList &leftUrls)
 {
-    Savepoint savepoint(state->database());
-    if (!savepoint.isActive() || !storeAccount(state, account) || !insertPicked(state, account, picked))
-        return false;
     QStringList pickedUrls;
     for (const Discovered &discovered : picked)
         pickedUrls.append(discovered.url);
+    Savepoint savepoint(state->database());
+    if (!savepoint.isActive() || !storeAccount(state, account)
+        || !insertPicked(state, account, picked, pickedUrls + leftUrls))
+        return false;
     CalDavRediscover::accept(state, account.id, pickedUrls);
     CalDavRediscover::decline(state, account.id, leftUrls);
     CalDavRediscover::upsertDiscoveredCalendars(state, account.id, picked);

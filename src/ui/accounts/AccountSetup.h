@@ -2,13 +2,10 @@
 
 #include "caldav/CalDavParse.h"
 #include "models/Account.h"
-#include "models/Calendar.h"
 
 #include <QList>
 #include <QString>
 #include <QStringList>
-
-#include <optional>
 
 class AppState;
 
@@ -16,9 +13,6 @@ class AppState;
 namespace AccountSetup {
 
 QString defaultName(const QString &serverUrl); ///< "CalDAV (dav.example.com)"
-
-/// The account's calendar at this address, which may by now have another host name or scheme.
-std::optional<Calendar> knownCalendar(AppState *state, const QString &accountId, const QString &url);
 
 /// Inserts or updates the account, inserts the calendars of \p picked that it has not got, gives the others their
 /// present address, and remembers that \p leftUrls are not wanted. All of it, or nothing and false.

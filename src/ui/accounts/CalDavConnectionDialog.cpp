@@ -2,6 +2,7 @@
 
 #include "app/state/AppState.h"
 #include "caldav/CalDavRediscover.h"
+#include "caldav/ServerAddress.h"
 #include "models/NewId.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
@@ -9,7 +10,6 @@
 #include "ui/accounts/AccountSetup.h"
 #include "ui/accounts/CalendarRemoval.h"
 #include "ui/accounts/PasswordField.h"
-#include "ui/accounts/ServerAddress.h"
 #include "ui/accounts/ServerLookup.h"
 #include "ui/dialogs/Prompt.h"
 #include "ui/theme/Theme.h"
@@ -50,7 +50,7 @@ CalDavConnectionDialog::CalDavConnectionDialog(AppState *state, const Account &a
     m_url->setCursorPosition(0);
     m_username->setText(account.username);
     m_password->edit()->setPlaceholderText(tr("Leave empty to keep the stored one"));
-    m_lookup->setTrustedCertSha256(account.trustedCertSha256);
+    m_lookup->setTrustedCertSha256(account.trustedCertSha256, account.serverUrl);
     chooseDefaultButton();
 }
 
@@ -219,7 +219,7 @@ bool CalDavConnectionDialog::save()
         return false;
     const QList<Calendar> removed = unwantedCalendars();
     if (removed.isEmpty())
-        store();
+        store({});
     else
         askToRemove(removed);
     return false; // whoever stores closes
@@ -255,10 +255,13 @@ QList<Calendar> CalDavConnectionDialog::unwantedCalendars() const
 {
     if (!m_editing || !m_hasFound)
         return {};
+    QStringList listedUrls;
+    for (const CalDavParse::DiscoveredCalendar &found : m_found)
+        listedUrls.append(found.url);
     QList<Calendar> unchecked;
     QList<Calendar> notFound = m_state->calendars()->getByAccount(m_original.id);
     for (int row = 0; row < m_list->count(); ++row) {
-        const auto known = AccountSetup::knownCalendar(m_state, m_original.id, m_found.at(row).url);
+        const auto known = CalDavRediscover::knownCalendar(m_state, m_original.id, m_found.at(row).url, listedUrls);
         if (!known)
             continue;
         notFound.removeIf([&known](const Calendar &calendar) { return calendar.id == known->id; });
@@ -272,10 +275,7 @@ QList<Calendar> CalDavConnectionDialog::unwantedCalendars() const
 void CalDavConnectionDialog::askToRemove(const QList<Calendar> &calendars)
 {
     Prompt::question(this, tr("Remove calendars?"), CalendarRemoval::questionText(m_state, calendars), this,
-                     [this, calendars] {
-                         CalendarRemoval::removeFromDevice(m_state, calendars);
-                         store();
-                     });
+                     [this, calendars] { store(calendars); });
 }
 
 Account CalDavConnectionDialog::enteredAccount(const Account &base) const
@@ -297,7 +297,7 @@ Account CalDavConnectionDialog::enteredAccount(const Account &base) const
     return account;
 }
 
-void CalDavConnectionDialog::store()
+void CalDavConnectionDialog::store(const QList<Calendar> &removed)
 {
     Account base;
     if (m_editing) {
@@ -322,6 +322,7 @@ void CalDavConnectionDialog::store()
     if (!AccountSetup::store(m_state, account, picked, left))
         return Prompt::warning(this, tr("Database Error"), tr("Could not save the account."));
     m_resultId = account.id;
+    CalendarRemoval::removeFromDevice(m_state, removed);
 
     SyncScheduler *scheduler = m_state->syncScheduler();
     const QString password = m_password->text();

@@ -50,7 +50,7 @@ private:
     [[nodiscard]] QList<Calendar> unwantedCalendars() const;
     [[nodiscard]] Account enteredAccount(const Account &base) const;
     void askToRemove(const QList<Calendar> &calendars);
-    void store();
+    void store(const QList<Calendar> &removed);
     void onPasswordStored(bool isStored);
 
     AppState *m_state;

@@ -189,7 +189,7 @@ void ManageSourcesDialog::refreshCurrent()
         return;
     m_refreshedId = id;
     m_details->setRefreshing(true);
-    m_lookup->setTrustedCertSha256(account->trustedCertSha256);
+    m_lookup->setTrustedCertSha256(account->trustedCertSha256, account->serverUrl);
     m_lookup->start(account->serverUrl, account->username, m_state->syncScheduler()->credentials(), id);
 }
 

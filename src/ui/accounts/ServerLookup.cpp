@@ -2,15 +2,29 @@
 
 #include "caldav/CalDavClient.h"
 #include "caldav/CalDavDiscovery.h"
+#include "caldav/ServerAddress.h"
 #include "sync/Credentials.h"
 #include "ui/accounts/CalDavCertificateDialog.h"
 
-#include <QUrl>
+namespace {
+
+QUrl read(const QString &typed)
+{
+    return QUrl(ServerAddress::read(typed).url);
+}
+
+}
 
 ServerLookup::ServerLookup(QWidget *window)
     : QObject(window)
     , m_window(window)
 {
+}
+
+void ServerLookup::setTrustedCertSha256(const QString &fingerprint, const QString &url)
+{
+    m_trustedCertSha256 = fingerprint;
+    m_url = read(url);
 }
 
 void ServerLookup::start(const QString &url, const QString &username, const QString &password)
@@ -40,7 +54,10 @@ void ServerLookup::start(const QString &url, const QString &username, Credential
 void ServerLookup::begin(const QString &url)
 {
     stop();
-    m_url = url;
+    const QString hostBefore = m_url.host();
+    m_url = read(url);
+    if (m_url.host() != hostBefore)
+        m_trustedCertSha256.clear();
     m_refusedCertSha256.clear();
     m_client = new CalDavClient(this);
     m_client->setTrustedCertSha256(m_trustedCertSha256);
@@ -52,7 +69,7 @@ void ServerLookup::begin(const QString &url)
 
 void ServerLookup::discover()
 {
-    m_discovery->start(QUrl(m_url));
+    m_discovery->start(m_url);
 }
 
 void ServerLookup::stop()

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QUrl>
 
 class CalDavCertificateDialog;
 class CalDavClient;
@@ -22,8 +23,8 @@ public:
     /// Questions open over \p window.
     explicit ServerLookup(QWidget *window);
 
-    /// What the user trusted earlier; empty for nothing.
-    void setTrustedCertSha256(const QString &fingerprint) { m_trustedCertSha256 = fingerprint; }
+    /// What the user trusted earlier at the server of \p url; empty for nothing. Forgotten when another is asked.
+    void setTrustedCertSha256(const QString &fingerprint, const QString &url);
     [[nodiscard]] QString trustedCertSha256() const { return m_trustedCertSha256; } ///< or trusts since
 
     void start(const QString &url, const QString &username, const QString &password);
@@ -53,7 +54,7 @@ private:
     QPointer<CalDavClient> m_client; // of the run
     CalDavDiscovery *m_discovery = nullptr; // child of the client
     QPointer<CalDavCertificateDialog> m_question;
-    QString m_url;
+    QUrl m_url; // of the run, or of what is trusted
     QString m_trustedCertSha256;
     QString m_refusedCertSha256;
     QString m_homeSet;

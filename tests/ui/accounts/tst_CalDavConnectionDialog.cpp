@@ -3,11 +3,11 @@
 #include "AccountBench.h"
 #include "caldav/CalDavClient.h"
 #include "caldav/CalDavRediscover.h"
+#include "caldav/ServerAddress.h"
 #include "support/HttpServer.h"
 #include "support/SelfSigned.h"
 #include "support/TestData.h"
 #include "ui/accounts/CalDavCertificateDialog.h"
-#include "ui/accounts/ServerAddress.h"
 
 namespace {
 

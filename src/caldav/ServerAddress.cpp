@@ -1,4 +1,4 @@
-#include "ui/accounts/ServerAddress.h"
+#include "caldav/ServerAddress.h"
 
 #include <QUrl>
 
