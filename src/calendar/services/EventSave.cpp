@@ -184,8 +184,7 @@ void FormSave::carryTimes()
     m_start = isStartMoved ? m_edited.startTime : former.startTime;
     m_end = isEndMoved ? m_edited.endTime : former.endTime;
     const bool isRuleChanged = m_row.recurrenceRule != m_base.recurrenceRule;
-    const bool needsZone =
-        EventTimes::lacksZone(m_row) && (isStartMoved || isRuleChanged || m_base.startTime.timeSpec() == Qt::LocalTime);
+    const bool needsZone = EventTimes::lacksZone(m_row) && (isStartMoved || isRuleChanged);
     const bool isOtherZone = m_row.timezone != m_base.timezone;
     if (!isStartMoved && !isEndMoved && !isRuleChanged && !needsZone && !isOtherZone)
         return;
