@@ -224,7 +224,9 @@ bool FormSave::write()
 {
     if (m_seriesChange == SeriesChange::Shift && isLive())
         return writeShifted();
-    if (m_row != m_base)
+    // A new resource goes out over the stored text, which says more than the columns.
+    const bool isNewResource = moves() || !m_stored;
+    if (m_row != m_base && !isNewResource)
         m_row.rawIcalendar = ICalEventWriter::buildEventRawIcal(m_row);
     m_row.syncStatus = SyncStatus::Pending;
     if (!isLive()) {
@@ -243,7 +245,8 @@ bool FormSave::writeShifted()
         return false;
     m_row = m_events->getById(m_base.id).value_or(m_row);
     carryContent(m_row);
-    m_row.rawIcalendar = ICalEventWriter::buildEventRawIcal(m_row);
+    if (!moves())
+        m_row.rawIcalendar = ICalEventWriter::buildEventRawIcal(m_row);
     m_row.syncStatus = SyncStatus::Pending;
     return m_events->update(m_row);
 }

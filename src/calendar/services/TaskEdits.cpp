@@ -147,7 +147,9 @@ bool writeRow(AppState *state, const Task &before, Task row, bool isPurged)
         row.percentComplete = before.percentComplete;
         row.completedDate = before.completedDate;
     }
-    const bool isWritten = isPurged ? repository->insert(composed(row)) : repository->update(composed(row));
+    row.syncStatus = SyncStatus::Pending;
+    // A new resource goes out over the stored text, which says more than the columns.
+    const bool isWritten = isPurged ? repository->insert(row) : repository->update(composed(row));
     return isWritten && (!movesOn || repository->setCompleted(row.id, true));
 }
 
@@ -218,8 +220,9 @@ Task relocated(AppState *state, const Task &task, const QString &calendarId)
     return copy;
 }
 
-/// Moves the task and all below it.
-Outcome moveTree(AppState *state, const QString &id, const QString &calendarId)
+/// Moves the task and all below it. \p text is what was stored of it before it was edited: the columns of a new
+/// resource go out over that.
+Outcome moveTree(AppState *state, const QString &id, const QString &calendarId, const QString &text)
 {
     TaskRepository *repository = state->tasks();
     const auto liveTwin = [&](const QString &uid) {
@@ -237,7 +240,7 @@ Outcome moveTree(AppState *state, const QString &id, const QString &calendarId)
             if (!liveTwin(copy.parentTaskUid))
                 copy.parentTaskUid.clear();
             copy.sortOrder = 0;
-            copy = composed(copy);
+            copy.rawIcalendar = text;
             outcome = done(copy.id);
         }
         const bool isKnown = repository->getById(copy.id).has_value();
@@ -330,7 +333,7 @@ Outcome TaskEdits::save(AppState *state, const Task &shown, const Task &edited)
     Savepoint savepoint(state->database());
     if (!savepoint.isActive() || !writeRow(state, before, row, isPurged))
         return failed();
-    const Outcome outcome = moves ? moveTree(state, row.id, edited.calendarId) : done(row.id);
+    const Outcome outcome = moves ? moveTree(state, row.id, edited.calendarId, before.rawIcalendar) : done(row.id);
     if (outcome.ok && !savepoint.commit())
         return failed();
     return outcome;
