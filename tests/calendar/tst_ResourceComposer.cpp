@@ -76,34 +76,22 @@ QString difference(const QByteArray &before, const QByteArray &after)
 /// The event with what a server hears of it, in one form.
 Event told(Event event)
 {
-    Event result;
-    result.uid = event.uid;
-    result.title = event.title;
-    result.description = event.description;
-    result.location = event.location;
-    result.startTime = event.startTime.toUTC();
+    event.rawIcalendar.clear();
+    event.created = event.lastModified = {};
+    event.sequence = 0;
+    event.startTime = event.startTime.toUTC();
     if (event.endTime)
-        result.endTime = event.endTime->toUTC();
-    result.isAllDay = event.isAllDay;
-    result.timezone = event.isAllDay ? u"UTC"_s : event.timezone;
-    result.recurrenceRule = event.recurrenceRule;
+        event.endTime = event.endTime->toUTC();
+    if (event.isAllDay)
+        event.timezone = u"UTC"_s;
     QStringList exceptions;
     for (const InstanceName &name : InstanceName::listFrom(event.exceptionDates))
         exceptions.append(QString::number(name.startMs));
     exceptions.sort();
-    result.exceptionDates = exceptions.join(u',');
-    result.recurrenceId = event.recurrenceId;
-    result.masterEventUid = event.masterEventUid;
-    result.status = event.status;
-    result.eventUrl = event.eventUrl;
-    result.organizerEmail = event.organizerEmail;
-    result.organizerName = event.organizerName;
-    result.relatedToUid = event.relatedToUid;
+    event.exceptionDates = exceptions.join(u',');
     std::ranges::sort(event.reminders, {}, [](const Reminder &r) { return std::pair(r.minutesBefore, r.action); });
-    result.reminders = event.reminders;
     std::ranges::sort(event.attendees, {}, &Attendee::email);
-    result.attendees = event.attendees;
-    return result;
+    return event;
 }
 
 QList<Event> told(QList<Event> events)
@@ -302,8 +290,6 @@ private slots:
         const auto rows = [](const char *name, const QList<Event> &events, const QStringList &lines) {
             row(name, events, lines);
         };
-        rows("Kolkata", { single(u"Asia/Kolkata"_s, u"2026-03-02T09:00"_s, u"2026-03-02T10:00"_s) },
-             { u"DTSTART;TZID=Asia/Kolkata:20260302T090000"_s, u"TZID:Asia/Kolkata"_s });
         Event second = single(u"America/Los_Angeles"_s, u"2026-11-01T00:30"_s, u"2026-11-01T00:45"_s);
         second.startTime = utc("2026-11-01T08:45"); // 01:45 there, the first of two
         second.endTime = utc("2026-11-01T09:15"); // 01:15 there, the second of two
@@ -321,7 +307,7 @@ private slots:
         standup.exceptionDates = u"[\"20260308T190000Z\"]"_s;
         rows("series of the farthest zone",
              { standup, overrideOf(standup, u"20260315T190000Z"_s, utc("2026-03-16T01:00")) },
-             { u"EXDATE;TZID=Pacific/Kiritimati:20260309T090000"_s,
+             { u"TZID:Pacific/Kiritimati"_s, u"EXDATE;TZID=Pacific/Kiritimati:20260309T090000"_s,
                u"RECURRENCE-ID;TZID=Pacific/Kiritimati:20260316T090000"_s });
         Event full = single(u"Europe/Berlin"_s, u"2026-03-02T09:00"_s, u"2026-03-02T09:00"_s);
         full.uid = u"a,b\nc"_s;
@@ -535,9 +521,6 @@ private slots:
             },
             u"-STATUS:IN-PROCESS\n+STATUS:COMPLETED\n-PERCENT-COMPLETE:40\n+PERCENT-COMPLETE:100\n"
             "+COMPLETED:20260301T080000Z"_s);
-        change(
-            "due an hour later", [](Task &t) { t.dueDate = t.dueDate->addSecs(3600); },
-            u"-DUE;TZID=Europe/Paris:20260315T090000\n+DUE;TZID=Europe/Paris:20260315T100000"_s);
         change(
             "due on a day",
             [](Task &t) {
