@@ -50,7 +50,7 @@ bool EventTimes::lacksZone(const Event &event)
 
 bool EventTimes::floats(const Event &event)
 {
-    return event.isSeries() && !event.isAllDay && event.startTime.timeSpec() == Qt::LocalTime;
+    return !event.isAllDay && event.startTime.timeSpec() == Qt::LocalTime;
 }
 
 QDateTime EventTimes::seriesStart(const QDateTime &start, const QDateTime &occurrence, const QDateTime &target)

@@ -18,7 +18,7 @@ void set(Event &event, const QDateTime &start, std::optional<QDateTime> end);
 /// True for a timed series that says "UTC" for want of a zone: its instances would move when clocks change.
 bool lacksZone(const Event &event);
 
-/// True for a stored series that keeps to the machine's clock, whichever that is: its text names no zone, or none that
+/// True for a stored event that keeps to the machine's clock, whichever that is: its text names no zone, or none that
 /// is known.
 bool floats(const Event &event);
 

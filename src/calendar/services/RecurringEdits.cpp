@@ -50,7 +50,7 @@ QDateTime asStored(const QDateTime &time, const Event &event)
     if (event.isAllDay)
         return StoredTime::wholeDay(time);
     const bool isUtc = event.timezone.isEmpty() || event.timezone == QLatin1StringView("UTC");
-    if (isUtc && !event.isRecurring())
+    if (isUtc && !event.isRecurring() && !EventTimes::floats(event))
         return time.toUTC();
     return WallClock(event.startTime).at(time.toMSecsSinceEpoch());
 }

@@ -91,11 +91,15 @@ Outcome stored(AppState *state, const Task &task)
     return state->tasks()->update(composed(task)) ? done(task.id) : failed();
 }
 
-std::optional<QDateTime> toStore(const std::optional<QDateTime> &date, bool isDateOnly)
+/// The clock of the \p former date stays if that floats: its text names no zone.
+std::optional<QDateTime> toStore(const std::optional<QDateTime> &date, bool isDateOnly,
+                                 const std::optional<QDateTime> &former = {})
 {
     if (!date || !date->isValid())
         return std::nullopt;
-    return isDateOnly ? StoredTime::wholeDay(*date) : date->toUTC();
+    if (isDateOnly)
+        return StoredTime::wholeDay(*date);
+    return former && former->timeSpec() == Qt::LocalTime ? date->toLocalTime() : date->toUTC();
 }
 
 // Completed, 100 % and a date of completion go together; the one that changed decides, the status first.
@@ -126,12 +130,12 @@ void carryChanges(const Task &shown, const Task &edited, Task &row)
     EditDifference::carryReminders(shown.reminders, edited.reminders, row.reminders);
     if (shown.dueIsDateOnly != edited.dueIsDateOnly
         || !EditDifference::isSameInPicker(shown.dueDate, edited.dueDate, edited.dueIsDateOnly)) {
-        row.dueDate = toStore(edited.dueDate, edited.dueIsDateOnly);
+        row.dueDate = toStore(edited.dueDate, edited.dueIsDateOnly, row.dueDate);
         row.dueIsDateOnly = edited.dueIsDateOnly;
     }
     if (shown.startIsDateOnly != edited.startIsDateOnly
         || !EditDifference::isSameInPicker(shown.startDate, edited.startDate, edited.startIsDateOnly)) {
-        row.startDate = toStore(edited.startDate, edited.startIsDateOnly);
+        row.startDate = toStore(edited.startDate, edited.startIsDateOnly, row.startDate);
         row.startIsDateOnly = edited.startIsDateOnly;
     }
 }
@@ -409,7 +413,8 @@ Outcome TaskEdits::setDate(AppState *state, const QString &id, DateField field, 
     auto [task, why] = writable(state, id);
     if (!task)
         return refused(why);
-    (field == DateField::Start ? task->startDate : task->dueDate) = toStore(when, allDay);
+    std::optional<QDateTime> &date = field == DateField::Start ? task->startDate : task->dueDate;
+    date = toStore(when, allDay, date);
     (field == DateField::Start ? task->startIsDateOnly : task->dueIsDateOnly) = allDay;
     return stored(state, *task);
 }

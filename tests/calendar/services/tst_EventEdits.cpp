@@ -414,22 +414,25 @@ private slots:
     }
 
     /// Its text names no zone, or none that is known.
-    void keepsASeriesOnTheMachinesClock()
+    void keepsWhatFloatsOnTheMachinesClock()
     {
         for (const QString &zone : { u"UTC"_s, u"No/Where"_s }) {
-            ScratchState state;
-            Event master = pulled(u"series"_s);
-            master.timezone = zone;
-            master.recurrenceRule = u"FREQ=DAILY"_s;
-            master.startTime = local(0, 9);
-            master.endTime = local(0, 10);
-            store(state, { master });
-            QVERIFY(saved(state, u"series"_s, local(8, 9), [](Event &event) { event.title = u"b"_s; }).ok);
-            QVERIFY(saved(state, u"series"_s, local(8, 9), [](Event &event) { shift(event, 0, 3'600); }).ok);
-            QVERIFY(EventEdits::move(state.state(), u"series"_s, local(8, 10), 0, 60).ok);
-            QCOMPARE(row(state, u"series"_s).timezone, zone);
-            QCOMPARE(row(state, u"series"_s).startTime, local(0, 11));
-            QCOMPARE(row(state, u"series"_s).startTime.timeSpec(), Qt::LocalTime);
+            for (const bool repeats : { false, true }) {
+                ScratchState state;
+                Event stored = pulled(u"a"_s);
+                stored.timezone = zone;
+                stored.recurrenceRule = repeats ? u"FREQ=DAILY"_s : QString();
+                stored.startTime = local(0, 9);
+                stored.endTime = local(0, 10);
+                store(state, { stored });
+                const int day = repeats ? 8 : 0;
+                QVERIFY(saved(state, u"a"_s, local(day, 9), [](Event &event) { event.title = u"b"_s; }).ok);
+                QVERIFY(saved(state, u"a"_s, local(day, 9), [](Event &event) { shift(event, 0, 3'600); }).ok);
+                QVERIFY(EventEdits::move(state.state(), u"a"_s, local(day, 10), 0, 60).ok);
+                QCOMPARE(row(state, u"a"_s).timezone, zone);
+                QCOMPARE(row(state, u"a"_s).startTime, local(0, 11));
+                QCOMPARE(row(state, u"a"_s).startTime.timeSpec(), Qt::LocalTime);
+            }
         }
     }
 

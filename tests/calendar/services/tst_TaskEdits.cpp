@@ -91,6 +91,12 @@ private slots:
         QVERIFY(stored.dueIsDateOnly && !stored.startIsDateOnly);
         QCOMPARE(stored.dueDate->date(), May5);
         QCOMPARE(stored.startDate, start);
+        QCOMPARE(stored.startDate->timeSpec(), Qt::UTC);
+
+        stored.startDate = start; // as it was read from a text that names no zone
+        update(state, stored);
+        QVERIFY(TaskEdits::setDate(state.state(), id, DateField::Start, start.addSecs(60), false).ok);
+        QCOMPARE(row(state, id).startDate->timeSpec(), Qt::LocalTime);
     }
 
     void savesTheDifference()
