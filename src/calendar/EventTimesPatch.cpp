@@ -104,10 +104,10 @@ bool EventTimesPatch::keepsZone(const TimeForm &present, const QTimeZone &zone) 
         return isUtcName(m_before.timezone);
     if (!zone.isValid())
         return true;
-    // A time that floats was read by the machine's clock, and says the same by it.
-    return present.kind() == TimeForm::Kind::Floating
-        ? m_event.timezone == TimeZones::systemName()
-        : present.kind() == TimeForm::Kind::Zoned && m_event.timezone == m_before.timezone;
+    // What was read by the machine's clock says the same by it.
+    if (m_before.startTime.timeSpec() == Qt::LocalTime)
+        return m_event.timezone == TimeZones::systemName();
+    return present.kind() == TimeForm::Kind::Zoned && m_event.timezone == m_before.timezone;
 }
 
 void EventTimesPatch::patchStart()
