@@ -308,6 +308,11 @@ TreeComponent newTask(ResourceText &resource, const Task &task, Task &before)
 
 }
 
+bool ResourceComposer::isReadable(const QByteArray &text)
+{
+    return !ResourceText(text).isNew();
+}
+
 Composed ResourceComposer::composeEvents(const QByteArray &newest, const QList<Event> &changed,
                                          const QList<Event> &removed, const Context &context)
 {
