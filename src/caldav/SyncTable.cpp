@@ -145,7 +145,10 @@ public:
         QList<Record> removed = m_removed;
         if (!etag.isEmpty() && newestEtag == etag)
             removed += formerNames(Kind::parse(QString::fromUtf8(newest)));
-        const ResourceComposer::Composed composed = m_kind.compose(newest, m_changed, removed, context);
+        QList<Record> changed = m_changed;
+        if (!ResourceComposer::isReadable(newest))
+            changed += m_others; // else the new text would go without them
+        const ResourceComposer::Composed composed = m_kind.compose(newest, changed, removed, context);
         m_sent = composed.text;
         return composed;
     }

@@ -78,7 +78,7 @@ void ComponentPatch::setValue(TreeComponent &component, QByteArrayView name, con
 void ComponentPatch::setText(TreeComponent &component, QByteArrayView name, const QString &before, const QString &after)
 {
     const QByteArray value = textValue(after);
-    if (unescapedText(value) == before)
+    if (after == before || unescapedText(value) == before)
         return;
     const TreeLine *last = component.lastLine(name);
     if (!last || value.isEmpty())
@@ -91,7 +91,7 @@ void ComponentPatch::setPlain(TreeComponent &component, QByteArrayView name, con
                               const QString &after)
 {
     const QByteArray value = plainValue(after);
-    if (QString::fromUtf8(value) != before)
+    if (after != before && QString::fromUtf8(value) != before)
         setValue(component, name, value);
 }
 
@@ -121,7 +121,7 @@ void ComponentPatch::setRule(TreeComponent &component, const QString &before, co
 void ComponentPatch::setParent(TreeComponent &component, Parent which, const QString &before, const QString &after)
 {
     const QByteArray value = textValue(after);
-    if (unescapedText(value) == before)
+    if (after == before || unescapedText(value) == before)
         return;
     const std::vector<const TreeLine *> parents = parentLines(component, which);
     if (parents.empty())

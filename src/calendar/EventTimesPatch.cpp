@@ -1,5 +1,6 @@
 #include "calendar/EventTimesPatch.h"
 
+#include "calendar/CivilDate.h"
 #include "calendar/ComponentPatch.h"
 #include "calendar/ICalDateTime.h"
 #include "calendar/ICalLineText.h"
@@ -44,6 +45,15 @@ QDateTime atUtc(qint64 ms)
     return QDateTime::fromMSecsSinceEpoch(ms, Qt::UTC);
 }
 
+void setInstanceName(TreeComponent &vevent, const QDateTime &instance, TimeForm form)
+{
+    if (form.isDate() && instance.time() != QTime(0, 0))
+        form = TimeForm(TimeForm::Kind::Utc);
+    form = form.naming(instance);
+    const TreeLine *old = vevent.lastLine("RECURRENCE-ID");
+    vevent.setLine(old ? form.lineAfter(old->content(), instance) : form.line("RECURRENCE-ID", instance));
+}
+
 }
 
 EventTimesPatch::EventTimesPatch(TreeComponent &vevent, const Event &before, const Event &event)
@@ -79,15 +89,25 @@ TimeForm EventTimesPatch::wantedStartForm() const
     const bool isUtc = isUtcName(m_event.timezone);
     const QTimeZone zone = isUtc ? QTimeZone() : TimeZones::find(m_event.timezone);
     const std::optional<TimeForm> present = startForm(m_vevent);
-    const bool isZoned = present && present->kind() == TimeForm::Kind::Zoned;
-    const bool keepsZone =
-        isUtc ? isUtcName(m_before.timezone) : !zone.isValid() || (isZoned && m_event.timezone == m_before.timezone);
-    if (present && m_before.startTime.isValid() && !present->isDate() && keepsZone)
+    if (present && m_before.startTime.isValid() && !present->isDate() && keepsZone(*present, zone))
         return *present;
     if (zone.isValid())
         return TimeForm::zoned(QString::fromUtf8(zone.id()));
     const bool isFloating = isUtc && m_event.startTime.timeSpec() == Qt::LocalTime;
     return TimeForm(isFloating ? TimeForm::Kind::Floating : TimeForm::Kind::Utc);
+}
+
+/// \p zone is that of the event, if it has one.
+bool EventTimesPatch::keepsZone(const TimeForm &present, const QTimeZone &zone) const
+{
+    if (isUtcName(m_event.timezone))
+        return isUtcName(m_before.timezone);
+    if (!zone.isValid())
+        return true;
+    // What was read by the machine's clock says the same by it.
+    if (m_before.startTime.timeSpec() == Qt::LocalTime)
+        return m_event.timezone == TimeZones::systemName();
+    return present.kind() == TimeForm::Kind::Zoned && m_event.timezone == m_before.timezone;
 }
 
 void EventTimesPatch::patchStart()
@@ -170,13 +190,17 @@ void EventTimesPatch::patchInstanceName(const std::optional<TimeForm> &series)
     const std::optional<InstanceName> present = InstanceName::parse(m_before.recurrenceId);
     if (present && present->startMs == name->startMs)
         return;
-    const QDateTime instance = atUtc(name->startMs);
     const TreeLine *old = m_vevent.lastLine("RECURRENCE-ID");
-    TimeForm form = series ? *series : present && old ? TimeForm::of(old->content()) : m_form;
-    if (form.isDate() && instance.time() != QTime(0, 0))
-        form = TimeForm(TimeForm::Kind::Utc);
-    form = form.naming(instance);
-    m_vevent.setLine(old ? form.lineAfter(old->content(), instance) : form.line("RECURRENCE-ID", instance));
+    setInstanceName(m_vevent, atUtc(name->startMs),
+                    series               ? *series
+                        : present && old ? TimeForm::of(old->content())
+                                         : m_form);
+}
+
+void EventTimesPatch::renameInstance(TreeComponent &vevent, const Event &event, const TimeForm &series)
+{
+    if (const std::optional<InstanceName> name = InstanceName::parse(event.recurrenceId))
+        setInstanceName(vevent, atUtc(name->startMs), series);
 }
 
 EventTimesPatch::Instants EventTimesPatch::excluded() const
@@ -184,7 +208,11 @@ EventTimesPatch::Instants EventTimesPatch::excluded() const
     Instants instants;
     const QStringList list = names(m_event.exceptionDates);
     for (const QString &text : list) {
-        if (const auto name = InstanceName::parse(m_event.isAllDay ? text.left(CompactDateLength) : text))
+        std::optional<InstanceName> name = InstanceName::parse(text);
+        const bool isDay = name && name->startMs % Civil::MsPerDay == 0;
+        if (m_event.isAllDay && !isDay)
+            name = InstanceName::parse(text.left(CompactDateLength));
+        if (name)
             instants.insert(name->startMs);
     }
     return instants;
@@ -201,15 +229,15 @@ void EventTimesPatch::patchExceptionDates()
     m_vevent.rewriteLines("EXDATE", [&](const TreeLine &line) -> std::optional<QByteArray> {
         const ContentLine content = line.content();
         const QByteArrayView tzid = content.parameter("TZID");
-        const bool isFloating = tzid.isEmpty() && !content.value().endsWith('Z');
+        const TimeForm form = TimeForm::of(content);
         const QByteArrayList parts = content.value().toByteArray().split(',');
         QByteArrayList kept;
         for (const QByteArray &part : parts) {
             const auto [value, isDate] = reader.read(part.trimmed(), tzid);
             const auto name = value.isValid() && next < read.size() ? InstanceName::parse(read[next++]) : std::nullopt;
-            // The date of a timed instance takes its hour from the start, and a floating one its instant.
-            const bool isLikeStart = isDate || isFloating == (m_form.kind() == TimeForm::Kind::Floating);
-            const bool isRight = !m_isStartChanged || (isDate == m_event.isAllDay && isLikeStart);
+            // The date of a timed instance takes its hour from the start.
+            const bool isRight =
+                !m_isStartChanged || (isDate == m_event.isAllDay && (!m_isFormChanged || form == m_form));
             if (name && (!isRight || !wanted.contains(name->startMs)))
                 continue;
             if (name)

@@ -18,11 +18,14 @@ public:
 
     /// The form of DTSTART, if there is one.
     static std::optional<TimeForm> startForm(const ICal::TreeComponent &vevent);
+    /// Has the override \p vevent, which reads as \p event, name its instance in the form in which its series begins.
+    static void renameInstance(ICal::TreeComponent &vevent, const Event &event, const TimeForm &series);
 
 private:
     using Instants = std::set<qint64>; // milliseconds since the epoch
 
     [[nodiscard]] TimeForm wantedStartForm() const;
+    [[nodiscard]] bool keepsZone(const TimeForm &present, const QTimeZone &zone) const;
     void patchStart();
     [[nodiscard]] TimeForm wantedEndForm(const QDateTime &end) const;
     void patchEnd();

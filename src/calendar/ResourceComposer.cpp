@@ -210,9 +210,20 @@ private:
         if (!present)
             return add(row);
         TreeComponent &vevent = *present->component;
+        const std::optional<TimeForm> form = EventTimesPatch::startForm(vevent);
         patch(vevent, present->event, row);
         if (vevent.isChanged())
-            ComponentPatch::stamp(vevent, m_context.now, raised(std::max(present->event.sequence, row.sequence)));
+            ComponentPatch::stamp(vevent, m_context.now, std::max(raised(present->event.sequence), row.sequence));
+        if (row.recurrenceId.isEmpty() && form != EventTimesPatch::startForm(vevent))
+            renameInstances(row.uid, *EventTimesPatch::startForm(vevent));
+    }
+
+    void renameInstances(const QString &uid, const TimeForm &series)
+    {
+        for (const Present &present : std::as_const(m_present)) {
+            if (!present.event.recurrenceId.isEmpty() && uidKey(present.event.uid) == uidKey(uid))
+                EventTimesPatch::renameInstance(*present.component, present.event, series);
+        }
     }
 
     void add(const Event &row)
@@ -297,6 +308,11 @@ TreeComponent newTask(ResourceText &resource, const Task &task, Task &before)
 
 }
 
+bool ResourceComposer::isReadable(const QByteArray &text)
+{
+    return !ResourceText(text).isNew();
+}
+
 Composed ResourceComposer::composeEvents(const QByteArray &newest, const QList<Event> &changed,
                                          const QList<Event> &removed, const Context &context)
 {
@@ -319,7 +335,7 @@ Composed ResourceComposer::composeTask(const QByteArray &newest, const Task &tas
             continue;
         TaskPatch::apply(*vtodo, *before, task);
         if (vtodo->isChanged())
-            ComponentPatch::stamp(*vtodo, context.now, raised(std::max(before->sequence, task.sequence)));
+            ComponentPatch::stamp(*vtodo, context.now, std::max(raised(before->sequence), task.sequence));
         return resource.composed(firstYear(task));
     }
     Task before;

@@ -23,6 +23,10 @@ struct Composed {
     bool isChanged = false; ///< false: the newest text says already what the records say, and \p text is that
 };
 
+/// False for a text that is none to patch: without a whole VCALENDAR, or with components that do not end. It counts as
+/// an empty one.
+bool isReadable(const QByteArray &text);
+
 /// \p changed: live rows of one UID, master or overrides, to be patched into \p newest or added to it.
 /// \p removed: rows of it that were deleted here. Components that belong to neither stay.
 /// An empty \p newest stands for a new resource: then the rows' own stored text is what is patched, or nothing.

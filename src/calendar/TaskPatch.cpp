@@ -21,7 +21,17 @@ bool isSameTime(const OptionalTime &a, const OptionalTime &b, bool isDate)
     return isDate ? a->date() == b->date() : a->toSecsSinceEpoch() == b->toSecsSinceEpoch();
 }
 
-/// DTSTART or DUE, in the form that it has, and else in UTC. False if it stays as it is.
+/// The form of the first line that has a fitting one, and else UTC: DTSTART and DUE go together. RFC 5545 §3.8.2.3.
+TimeForm dateForm(std::initializer_list<const TreeLine *> lines, bool isDate)
+{
+    for (const TreeLine *line : lines) {
+        if (line && TimeForm::of(line->content()).isDate() == isDate)
+            return TimeForm::of(line->content());
+    }
+    return TimeForm(isDate ? TimeForm::Kind::Date : TimeForm::Kind::Utc);
+}
+
+/// DTSTART or DUE. False if it stays as it is.
 bool setDate(TreeComponent &vtodo, const QByteArray &name, const OptionalTime &before, bool wasDate,
              const OptionalTime &after, bool isDate)
 {
@@ -34,9 +44,8 @@ bool setDate(TreeComponent &vtodo, const QByteArray &name, const OptionalTime &b
     if (isSameTime(before, after, isDate) && wasDate == isDate)
         return false;
     const TreeLine *old = vtodo.lastLine(name);
-    const TimeForm present = old && before ? TimeForm::of(old->content()) : TimeForm(TimeForm::Kind::Utc);
-    const TimeForm::Kind fallback = isDate ? TimeForm::Kind::Date : TimeForm::Kind::Utc;
-    const TimeForm form = (present.isDate() == isDate ? present : TimeForm(fallback)).naming(*after);
+    const TreeLine *other = vtodo.lastLine(name == "DUE" ? "DTSTART" : "DUE");
+    const TimeForm form = dateForm({ before ? old : nullptr, other }, isDate).naming(*after);
     if (form.value(*after).isEmpty())
         return false;
     vtodo.setLine(old ? form.lineAfter(old->content(), *after) : form.line(name, *after));

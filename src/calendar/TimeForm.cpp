@@ -74,6 +74,10 @@ QByteArray TimeForm::line(const QByteArray &name, const QDateTime &time) const
 QByteArray TimeForm::lineAfter(const ContentLine &old, const QDateTime &time) const
 {
     const bool saysDate = isWord(old.parameter("VALUE"), "DATE");
-    return of(old) == *this && saysDate == isDate() ? withValue(old, value(time))
-                                                    : line(old.name().toByteArray(), time);
+    if (of(old) == *this && saysDate == isDate())
+        return withValue(old, value(time));
+    const QByteArray others = withoutParameters(old, { "VALUE", "TZID" });
+    const QByteArrayView further = ContentLine(others).parameters();
+    const QByteArray name = old.name().toByteArray() + (further.isEmpty() ? "" : ";") + further.toByteArray();
+    return line(name, time);
 }

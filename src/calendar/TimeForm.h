@@ -34,7 +34,7 @@ public:
     [[nodiscard]] QByteArray parameters() const;
     /// "DTSTART;TZID=Europe/Berlin:20260315T090000".
     [[nodiscard]] QByteArray line(const QByteArray &name, const QDateTime &time) const;
-    /// The same with further parameters of \p old, if that has this form.
+    /// The same with the further parameters of \p old.
     [[nodiscard]] QByteArray lineAfter(const ICal::ContentLine &old, const QDateTime &time) const;
 
 private:

@@ -83,9 +83,12 @@ QDateTime repeatBase(const QDateTime &date, bool isDateOnly)
     return isDateOnly ? date : date.toLocalTime();
 }
 
-QDateTime repeated(const QDateTime &next, bool isDateOnly)
+QDateTime repeated(const QDateTime &date, const QDateTime &next, bool isDateOnly)
 {
-    return isDateOnly ? StoredTime::wholeDay(next) : next.toUTC();
+    if (isDateOnly)
+        return StoredTime::wholeDay(next);
+    const bool floats = date.timeSpec() == Qt::LocalTime; // its text names no zone
+    return floats ? next.toLocalTime() : next.toUTC();
 }
 
 // The first date of the task's rule after the one it has, or after now. Invalid if there is none.
@@ -122,9 +125,9 @@ bool advance(Task &task)
     if (!next.isValid())
         return false;
     if (task.dueDate)
-        task.dueDate = repeated(next, task.dueIsDateOnly);
+        task.dueDate = repeated(*task.dueDate, next, task.dueIsDateOnly);
     else
-        task.startDate = repeated(next, task.startIsDateOnly);
+        task.startDate = repeated(*task.startDate, next, task.startIsDateOnly);
     task.status = TaskStatus::NeedsAction;
     task.percentComplete = 0;
     task.completedDate.reset();

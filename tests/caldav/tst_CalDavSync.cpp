@@ -204,6 +204,17 @@ private slots:
         QCOMPARE(m_phone->pendingCount(), 0);
     }
 
+    void aTextThatCannotBePatchedTakesNoInstanceAlong()
+    {
+        m_server->store("s.ics", series("Review", "Late review").replace("END:VCAL", "END:VALARM\r\nEND:VCAL"));
+        QCOMPARE(m_phone->sync(), QString());
+        m_phone->edit(u"weekly"_s, [](Event &event) { event.title = u"Weekly review"_s; });
+        QCOMPARE(m_phone->sync(), QString());
+        QVERIFY(m_server->text("s.ics").contains("SUMMARY:Weekly review"));
+        QVERIFY(m_server->text("s.ics").contains("SUMMARY:Late review"));
+        QCOMPARE(m_phone->event(u"weekly"_s, SecondWeek).title, u"Late review"_s);
+    }
+
     void aNewOverrideGoesToTheAddressOfItsSeries()
     {
         m_server->store("s.ics", calendarText(eventText("weekly", "Review", "RRULE:FREQ=WEEKLY;COUNT=5\r\n")));

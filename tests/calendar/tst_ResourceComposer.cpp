@@ -1,6 +1,7 @@
 #include "calendar/ICalParser.h"
 #include "calendar/InstanceName.h"
 #include "calendar/ResourceComposer.h"
+#include "calendar/TimeZones.h"
 #include "support/TestData.h"
 
 #include <QFile>
@@ -75,34 +76,22 @@ QString difference(const QByteArray &before, const QByteArray &after)
 /// The event with what a server hears of it, in one form.
 Event told(Event event)
 {
-    Event result;
-    result.uid = event.uid;
-    result.title = event.title;
-    result.description = event.description;
-    result.location = event.location;
-    result.startTime = event.startTime.toUTC();
+    event.rawIcalendar.clear();
+    event.created = event.lastModified = {};
+    event.sequence = 0;
+    event.startTime = event.startTime.toUTC();
     if (event.endTime)
-        result.endTime = event.endTime->toUTC();
-    result.isAllDay = event.isAllDay;
-    result.timezone = event.isAllDay ? u"UTC"_s : event.timezone;
-    result.recurrenceRule = event.recurrenceRule;
+        event.endTime = event.endTime->toUTC();
+    if (event.isAllDay)
+        event.timezone = u"UTC"_s;
     QStringList exceptions;
     for (const InstanceName &name : InstanceName::listFrom(event.exceptionDates))
         exceptions.append(QString::number(name.startMs));
     exceptions.sort();
-    result.exceptionDates = exceptions.join(u',');
-    result.recurrenceId = event.recurrenceId;
-    result.masterEventUid = event.masterEventUid;
-    result.status = event.status;
-    result.eventUrl = event.eventUrl;
-    result.organizerEmail = event.organizerEmail;
-    result.organizerName = event.organizerName;
-    result.relatedToUid = event.relatedToUid;
+    event.exceptionDates = exceptions.join(u',');
     std::ranges::sort(event.reminders, {}, [](const Reminder &r) { return std::pair(r.minutesBefore, r.action); });
-    result.reminders = event.reminders;
     std::ranges::sort(event.attendees, {}, &Attendee::email);
-    result.attendees = event.attendees;
-    return result;
+    return event;
 }
 
 QList<Event> told(QList<Event> events)
@@ -204,12 +193,8 @@ private slots:
             "title", Master, [](Event &e) { e.title = u"Neu; \\,"_s; },
             u"-SUMMARY;LANGUAGE=de:Besprechung\n+SUMMARY;LANGUAGE=de:Neu\\; \\\\\\,"_s);
         change(
-            "no title, of an override", FirstOverride, [](Event &e) { e.title.clear(); }, u"-SUMMARY:First"_s);
-        change(
             "description", Master, [](Event &e) { e.description = u"a\r\nb"_s; },
             u"-DESCRIPTION;ALTREP=\"cid:x\":Old\\, and\n-folded\n+DESCRIPTION:a\\nb"_s);
-        change(
-            "location, new", FirstOverride, [](Event &e) { e.location = u"Hall"_s; }, u"+LOCATION:Hall"_s);
         change(
             "longer", Master, [](Event &e) { e.endTime = e.endTime->addSecs(1800); },
             u"-DURATION:PT1H\n+DTEND;TZID=W. Europe Standard Time:20260302T103000"_s);
@@ -233,8 +218,6 @@ private slots:
         change(
             "rule", Master, [](Event &e) { e.recurrenceRule = u"FREQ=WEEKLY;UNTIL=20260420"_s; },
             u"-RRULE:FREQ=WEEKLY;COUNT=10\n+RRULE:FREQ=WEEKLY;UNTIL=20260420T000000Z"_s);
-        change(
-            "status", Master, [](Event &e) { e.status = u"cancelled"_s; }, u"+STATUS:CANCELLED"_s);
         change(
             "url", Master, [](Event &e) { e.eventUrl = u"https://n\r\nATTENDEE:x"_s; },
             u"-URL:https://example.com/old\n+URL:https://nATTENDEE:x"_s);
@@ -273,9 +256,6 @@ private slots:
             },
             u"+ATTENDEE;CN=\"Bob 'B', Jr\";CUTYPE=ROOM;ROLE=REQ-PARTICIPANT;PARTSTAT=NEEDS-A\n+CTION;RSVP=TRUE:mailto:bob@x.org"_s);
         change(
-            "linked task", Master, [](Event &e) { e.relatedToUid = u"task-2"_s; },
-            u"-RELATED-TO:task-1\n+RELATED-TO:task-2"_s);
-        change(
             "no linked task", Master, [](Event &e) { e.relatedToUid.clear(); }, u"-RELATED-TO:task-1"_s);
         change(
             "no reminder", Master, [](Event &e) { e.reminders.clear(); },
@@ -299,7 +279,7 @@ private slots:
         const QList<Event> stamped = ICalParser::parse(composed.text);
         for (int i = 0; i < rows.size(); ++i) {
             const int read = i == Master ? 4 : 0;
-            QCOMPARE(stamped[i].sequence, composed.isChanged && i == row ? std::max(read, rows[i].sequence) + 1 : read);
+            QCOMPARE(stamped[i].sequence, composed.isChanged && i == row ? std::max(read + 1, rows[i].sequence) : read);
         }
         QVERIFY(!compose(composed.text, rows).isChanged);
     }
@@ -310,10 +290,6 @@ private slots:
         const auto rows = [](const char *name, const QList<Event> &events, const QStringList &lines) {
             row(name, events, lines);
         };
-        rows("utc", { single(u"UTC"_s, u"2026-03-02T09:00"_s, u"2026-03-02T10:00"_s) },
-             { u"DTSTART:20260302T090000Z"_s, u"DTEND:20260302T100000Z"_s });
-        rows("Kolkata", { single(u"Asia/Kolkata"_s, u"2026-03-02T09:00"_s, u"2026-03-02T10:00"_s) },
-             { u"DTSTART;TZID=Asia/Kolkata:20260302T090000"_s, u"TZID:Asia/Kolkata"_s });
         Event second = single(u"America/Los_Angeles"_s, u"2026-11-01T00:30"_s, u"2026-11-01T00:45"_s);
         second.startTime = utc("2026-11-01T08:45"); // 01:45 there, the first of two
         second.endTime = utc("2026-11-01T09:15"); // 01:15 there, the second of two
@@ -331,7 +307,7 @@ private slots:
         standup.exceptionDates = u"[\"20260308T190000Z\"]"_s;
         rows("series of the farthest zone",
              { standup, overrideOf(standup, u"20260315T190000Z"_s, utc("2026-03-16T01:00")) },
-             { u"EXDATE;TZID=Pacific/Kiritimati:20260309T090000"_s,
+             { u"TZID:Pacific/Kiritimati"_s, u"EXDATE;TZID=Pacific/Kiritimati:20260309T090000"_s,
                u"RECURRENCE-ID;TZID=Pacific/Kiritimati:20260316T090000"_s });
         Event full = single(u"Europe/Berlin"_s, u"2026-03-02T09:00"_s, u"2026-03-02T09:00"_s);
         full.uid = u"a,b\nc"_s;
@@ -355,7 +331,7 @@ private slots:
         rows("all columns", { full }, { u"STATUS:TENTATIVE"_s });
         Event open = single(u"UTC"_s, u"2026-03-02T09:00"_s, u"2026-03-02T10:00"_s);
         open.endTime.reset();
-        rows("no end", { open }, {});
+        rows("no end", { open }, { u"DTSTART:20260302T090000Z"_s });
     }
     void newResourcesReadAsTheirRecords()
     {
@@ -394,15 +370,37 @@ private slots:
                               u"FREQ=DAILY;UNTIL=20260320T080000Z"_s);
         series.exceptionDates = u"[\"20260304T080000Z\"]"_s;
         const QByteArray text = compose({}, { series }).text;
+        const Event moved = overrideOf(series, u"20260309T080000Z"_s, utc("2026-03-09T12:00"));
+        Event elsewhere = series;
+        elsewhere.timezone = u"Asia/Kolkata"_s;
+        const QByteArray abroad = compose(compose(text, { moved }).text, { elsewhere }).text;
+        for (const char *line : { "DTSTART", "EXDATE", "RECURRENCE-ID" })
+            QVERIFY2(abroad.contains(QByteArray("\r\n") + line + ";TZID=Asia/Kolkata:2026"), abroad.constData());
+        verifySettled(compose(abroad, { elsewhere, moved }), { elsewhere, moved });
+
         series.isAllDay = true;
         series.startTime = utc("2026-03-03");
         series.endTime = utc("2026-03-04");
         series.recurrenceRule = u"FREQ=DAILY;UNTIL=20260320"_s;
-        series.exceptionDates = u"[\"20260305\"]"_s;
+        const qint64 excludedMs = utc("2026-03-05").toMSecsSinceEpoch();
+        series.exceptionDates = u"[\"%1\"]"_s.arg(InstanceName{ excludedMs, InstanceName::Form::Local }.text());
         verifySettled(compose(text, { series }), { series });
         series.recurrenceRule.clear();
         series.exceptionDates.clear();
         verifySettled(compose(text, { series }), { series });
+    }
+
+    void aSeriesThatFloatsIsOnTheMachinesClock()
+    {
+        const QByteArray text = calendar("BEGIN:VEVENT\nUID:u\nDTSTART:20260302T090000\nDTEND:20260302T100000\n"
+                                         "RRULE:FREQ=WEEKLY\nEXDATE:20260309T090000\nEND:VEVENT\n");
+        Event row = ICalParser::parse(text).value(0);
+        row.timezone = TimeZones::systemName();
+        row.startTime = row.startTime.toTimeZone(QTimeZone(row.timezone.toLatin1()));
+        QVERIFY(!compose(text, { row }).isChanged);
+        row.startTime = row.startTime.addSecs(3600);
+        QCOMPARE(difference(text, compose(text, { row }).text),
+                 u"-DTSTART:20260302T090000\n+DTSTART:20260302T100000"_s);
     }
 
     void aMoveKeepsTheFormOfTheTimes_data()
@@ -524,15 +522,19 @@ private slots:
             u"-STATUS:IN-PROCESS\n+STATUS:COMPLETED\n-PERCENT-COMPLETE:40\n+PERCENT-COMPLETE:100\n"
             "+COMPLETED:20260301T080000Z"_s);
         change(
-            "due an hour later", [](Task &t) { t.dueDate = t.dueDate->addSecs(3600); },
-            u"-DUE;TZID=Europe/Paris:20260315T090000\n+DUE;TZID=Europe/Paris:20260315T100000"_s);
-        change(
             "due on a day",
             [](Task &t) {
                 t.dueIsDateOnly = true;
                 t.dueDate = utc("2026-03-16");
             },
             u"-DUE;TZID=Europe/Paris:20260315T090000\n+DUE;VALUE=DATE:20260316"_s);
+        change(
+            "start at an hour",
+            [](Task &t) {
+                t.startIsDateOnly = false;
+                t.startDate = utc("2026-03-14T08:00");
+            },
+            u"-DTSTART;VALUE=DATE:20260314\n+DTSTART;TZID=Europe/Paris:20260314T090000"_s);
         change(
             "no dates",
             [](Task &t) {

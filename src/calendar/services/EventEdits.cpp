@@ -141,6 +141,8 @@ Outcome EventEdits::create(AppState *state, const Event &event)
     forgetServer(row);
     if (row.timezone.isEmpty())
         row.timezone = Event().timezone;
+    if (!row.isAllDay)
+        row.startTime = row.startTime.toUTC(); // a new event does not float
     if (EventTimes::lacksZone(row))
         row.timezone = TimeZones::systemName();
     EventTimes::set(row, row.startTime, row.endTime);

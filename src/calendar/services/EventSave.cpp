@@ -184,8 +184,7 @@ void FormSave::carryTimes()
     m_start = isStartMoved ? m_edited.startTime : former.startTime;
     m_end = isEndMoved ? m_edited.endTime : former.endTime;
     const bool isRuleChanged = m_row.recurrenceRule != m_base.recurrenceRule;
-    const bool needsZone =
-        EventTimes::lacksZone(m_row) && (isStartMoved || isRuleChanged || m_base.startTime.timeSpec() == Qt::LocalTime);
+    const bool needsZone = EventTimes::lacksZone(m_row) && (isStartMoved || isRuleChanged);
     const bool isOtherZone = m_row.timezone != m_base.timezone;
     if (!isStartMoved && !isEndMoved && !isRuleChanged && !needsZone && !isOtherZone)
         return;
@@ -225,7 +224,9 @@ bool FormSave::write()
 {
     if (m_seriesChange == SeriesChange::Shift && isLive())
         return writeShifted();
-    if (m_row != m_base)
+    // A new resource goes out over the stored text, which says more than the columns.
+    const bool isNewResource = moves() || !m_stored;
+    if (m_row != m_base && !isNewResource)
         m_row.rawIcalendar = ICalEventWriter::buildEventRawIcal(m_row);
     m_row.syncStatus = SyncStatus::Pending;
     if (!isLive()) {
@@ -244,7 +245,8 @@ bool FormSave::writeShifted()
         return false;
     m_row = m_events->getById(m_base.id).value_or(m_row);
     carryContent(m_row);
-    m_row.rawIcalendar = ICalEventWriter::buildEventRawIcal(m_row);
+    if (!moves())
+        m_row.rawIcalendar = ICalEventWriter::buildEventRawIcal(m_row);
     m_row.syncStatus = SyncStatus::Pending;
     return m_events->update(m_row);
 }

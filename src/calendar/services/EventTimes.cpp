@@ -28,7 +28,9 @@ QDateTime toStore(const QDateTime &value, const Event &event)
     if (event.isAllDay)
         return StoredTime::wholeDay(value);
     const QTimeZone zone = isUtc(event.timezone) ? QTimeZone() : TimeZones::ianaZone(event.timezone);
-    return zone.isValid() ? value.toTimeZone(zone) : value.toUTC();
+    if (zone.isValid())
+        return value.toTimeZone(zone);
+    return EventTimes::floats(event) ? value.toLocalTime() : value.toUTC();
 }
 
 }
@@ -43,7 +45,12 @@ void EventTimes::set(Event &event, const QDateTime &start, std::optional<QDateTi
 
 bool EventTimes::lacksZone(const Event &event)
 {
-    return event.isSeries() && !event.isAllDay && isUtc(event.timezone);
+    return event.isSeries() && !event.isAllDay && isUtc(event.timezone) && !floats(event);
+}
+
+bool EventTimes::floats(const Event &event)
+{
+    return !event.isAllDay && event.startTime.timeSpec() == Qt::LocalTime;
 }
 
 QDateTime EventTimes::seriesStart(const QDateTime &start, const QDateTime &occurrence, const QDateTime &target)

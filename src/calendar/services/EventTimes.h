@@ -11,11 +11,16 @@
 namespace EventTimes {
 
 /// Gives the event these times, whichever clock they come from, as it stores them: instants in the zone of its
-/// \c timezone, in UTC where that is no zone. Of an all-day event their dates at 00:00 UTC, for a day at least.
+/// \c timezone, in UTC where that is no zone, on the machine's clock where it floats. Of an all-day event their dates
+/// at 00:00 UTC, for a day at least.
 void set(Event &event, const QDateTime &start, std::optional<QDateTime> end);
 
 /// True for a timed series that says "UTC" for want of a zone: its instances would move when clocks change.
 bool lacksZone(const Event &event);
+
+/// True for a stored event that keeps to the machine's clock, whichever that is: its text names no zone, or none that
+/// is known.
+bool floats(const Event &event);
 
 /// Where a series must start for its instance at \p occurrence to begin at \p target: as many days before it
 /// on the clock of \p target as \p start lies before \p occurrence on its own, at the same hour as \p target.

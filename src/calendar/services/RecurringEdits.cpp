@@ -8,6 +8,7 @@
 #include "calendar/TimeZones.h"
 #include "calendar/WallClock.h"
 #include "calendar/services/EventEditsPrivate.h"
+#include "calendar/services/EventTimes.h"
 #include "models/NewId.h"
 #include "storage/EventRepository.h"
 #include "storage/Savepoint.h"
@@ -43,17 +44,13 @@ Seconds lengthOf(const NewTimes &times, const Event &series)
     return !series.endTime && length == DefaultLength ? std::nullopt : Seconds(length);
 }
 
-bool lacksZone(const Event &event)
-{
-    return !event.isAllDay && (event.timezone.isEmpty() || event.timezone == QLatin1StringView("UTC"));
-}
-
 /// \p time as \p event stores it. A series steps on the clock of its start, so it keeps that.
 QDateTime asStored(const QDateTime &time, const Event &event)
 {
     if (event.isAllDay)
         return StoredTime::wholeDay(time);
-    if (lacksZone(event) && !event.isRecurring())
+    const bool isUtc = event.timezone.isEmpty() || event.timezone == QLatin1StringView("UTC");
+    if (isUtc && !event.isRecurring() && !EventTimes::floats(event))
         return time.toUTC();
     return WallClock(event.startTime).at(time.toMSecsSinceEpoch());
 }
@@ -102,8 +99,7 @@ void takeMachineZone(Event &series, const QDateTime &instance)
 Event moved(const Event &series, const QDateTime &instance, const NewTimes &times)
 {
     Event result = series;
-    const bool isFloating = series.startTime.timeSpec() == Qt::LocalTime;
-    if (lacksZone(series) && series.isRecurring() && (isFloating || times.start != instance))
+    if (EventTimes::lacksZone(series) && times.start != instance)
         takeMachineZone(result, instance);
     const WallClockShift shift = WallClockShift::between(asStored(instance, result), asStored(times.start, result));
     setTimes(result, shift.applied(result.startTime), lengthOf(times, series));

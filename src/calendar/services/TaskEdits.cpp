@@ -91,11 +91,15 @@ Outcome stored(AppState *state, const Task &task)
     return state->tasks()->update(composed(task)) ? done(task.id) : failed();
 }
 
-std::optional<QDateTime> toStore(const std::optional<QDateTime> &date, bool isDateOnly)
+/// The clock of the \p former date stays if that floats: its text names no zone.
+std::optional<QDateTime> toStore(const std::optional<QDateTime> &date, bool isDateOnly,
+                                 const std::optional<QDateTime> &former = {})
 {
     if (!date || !date->isValid())
         return std::nullopt;
-    return isDateOnly ? StoredTime::wholeDay(*date) : date->toUTC();
+    if (isDateOnly)
+        return StoredTime::wholeDay(*date);
+    return former && former->timeSpec() == Qt::LocalTime ? date->toLocalTime() : date->toUTC();
 }
 
 // Completed, 100 % and a date of completion go together; the one that changed decides, the status first.
@@ -126,12 +130,12 @@ void carryChanges(const Task &shown, const Task &edited, Task &row)
     EditDifference::carryReminders(shown.reminders, edited.reminders, row.reminders);
     if (shown.dueIsDateOnly != edited.dueIsDateOnly
         || !EditDifference::isSameInPicker(shown.dueDate, edited.dueDate, edited.dueIsDateOnly)) {
-        row.dueDate = toStore(edited.dueDate, edited.dueIsDateOnly);
+        row.dueDate = toStore(edited.dueDate, edited.dueIsDateOnly, row.dueDate);
         row.dueIsDateOnly = edited.dueIsDateOnly;
     }
     if (shown.startIsDateOnly != edited.startIsDateOnly
         || !EditDifference::isSameInPicker(shown.startDate, edited.startDate, edited.startIsDateOnly)) {
-        row.startDate = toStore(edited.startDate, edited.startIsDateOnly);
+        row.startDate = toStore(edited.startDate, edited.startIsDateOnly, row.startDate);
         row.startIsDateOnly = edited.startIsDateOnly;
     }
 }
@@ -147,7 +151,9 @@ bool writeRow(AppState *state, const Task &before, Task row, bool isPurged)
         row.percentComplete = before.percentComplete;
         row.completedDate = before.completedDate;
     }
-    const bool isWritten = isPurged ? repository->insert(composed(row)) : repository->update(composed(row));
+    row.syncStatus = SyncStatus::Pending;
+    // A new resource goes out over the stored text, which says more than the columns.
+    const bool isWritten = isPurged ? repository->insert(row) : repository->update(composed(row));
     return isWritten && (!movesOn || repository->setCompleted(row.id, true));
 }
 
@@ -218,8 +224,9 @@ Task relocated(AppState *state, const Task &task, const QString &calendarId)
     return copy;
 }
 
-/// Moves the task and all below it.
-Outcome moveTree(AppState *state, const QString &id, const QString &calendarId)
+/// Moves the task and all below it. \p text is what was stored of it before it was edited: the columns of a new
+/// resource go out over that.
+Outcome moveTree(AppState *state, const QString &id, const QString &calendarId, const QString &text)
 {
     TaskRepository *repository = state->tasks();
     const auto liveTwin = [&](const QString &uid) {
@@ -237,7 +244,7 @@ Outcome moveTree(AppState *state, const QString &id, const QString &calendarId)
             if (!liveTwin(copy.parentTaskUid))
                 copy.parentTaskUid.clear();
             copy.sortOrder = 0;
-            copy = composed(copy);
+            copy.rawIcalendar = text;
             outcome = done(copy.id);
         }
         const bool isKnown = repository->getById(copy.id).has_value();
@@ -330,7 +337,7 @@ Outcome TaskEdits::save(AppState *state, const Task &shown, const Task &edited)
     Savepoint savepoint(state->database());
     if (!savepoint.isActive() || !writeRow(state, before, row, isPurged))
         return failed();
-    const Outcome outcome = moves ? moveTree(state, row.id, edited.calendarId) : done(row.id);
+    const Outcome outcome = moves ? moveTree(state, row.id, edited.calendarId, before.rawIcalendar) : done(row.id);
     if (outcome.ok && !savepoint.commit())
         return failed();
     return outcome;
@@ -406,7 +413,8 @@ Outcome TaskEdits::setDate(AppState *state, const QString &id, DateField field, 
     auto [task, why] = writable(state, id);
     if (!task)
         return refused(why);
-    (field == DateField::Start ? task->startDate : task->dueDate) = toStore(when, allDay);
+    std::optional<QDateTime> &date = field == DateField::Start ? task->startDate : task->dueDate;
+    date = toStore(when, allDay, date);
     (field == DateField::Start ? task->startIsDateOnly : task->dueIsDateOnly) = allDay;
     return stored(state, *task);
 }

@@ -23,3 +23,8 @@ QString PlainText::breakLongWords(const QString &text)
     }
     return result;
 }
+
+QString PlainText::typed(const QString &text, const QString &shown)
+{
+    return text == shown ? shown : text.trimmed();
+}

@@ -8,4 +8,8 @@ namespace PlainText {
 /// would else widen a label without limit.
 QString breakLongWords(const QString &text);
 
+/// What the \p text of a field means: without the blanks around it, but \p shown, which it was filled with, as that
+/// was.
+QString typed(const QString &text, const QString &shown);
+
 } // namespace PlainText

@@ -1,5 +1,6 @@
 #include "ui/forms/AttendeesEditor.h"
 
+#include "ui/dialogs/PlainText.h"
 #include "ui/forms/CompoundField.h"
 
 #include <QHBoxLayout>
@@ -38,7 +39,7 @@ QList<Attendee> AttendeesEditor::attendees() const
     QList<Attendee> result;
     for (const Row &row : m_rows) {
         Attendee attendee = row.original;
-        attendee.name = row.name->text().trimmed();
+        attendee.name = PlainText::typed(row.name->text(), row.original.name);
         attendee.email = row.email->text().trimmed();
         if (attendee.email.compare(row.original.email.trimmed(), Qt::CaseInsensitive) != 0) {
             attendee.id.clear(); // somebody else, who has not answered yet

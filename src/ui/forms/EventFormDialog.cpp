@@ -355,10 +355,10 @@ Event EventFormDialog::edited() const
 {
     Event event = m_shown;
     event.calendarId = m_calendar->calendarId();
-    event.title = m_title->text().trimmed();
+    event.title = PlainText::typed(m_title->text(), m_shown.title);
     if (m_notes->document()->isModified()) // else its line ends stay as the server wrote them
         event.description = m_notes->toPlainText();
-    event.location = m_location->text().trimmed();
+    event.location = PlainText::typed(m_location->text(), m_shown.location);
     event.color = m_color->color();
     event.isAllDay = m_allDay->isChecked();
     event.recurrenceRule = editedRule();

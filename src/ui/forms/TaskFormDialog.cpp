@@ -9,6 +9,7 @@
 #include "calendar/services/TimeFormat.h"
 #include "storage/CalendarRepository.h"
 #include "storage/TaskRepository.h"
+#include "ui/dialogs/PlainText.h"
 #include "ui/dialogs/Prompt.h"
 #include "ui/forms/CalendarCombo.h"
 #include "ui/forms/ColorField.h"
@@ -43,6 +44,11 @@ bool hasChangedDates(const Task &before, const Task &after)
 }
 
 // A day without a time begins before all of its times and ends after them.
+QString categoriesText(const Task &task)
+{
+    return task.categories.join(QStringLiteral(", "));
+}
+
 bool isDueBeforeStart(const Task &task)
 {
     if (!task.dueDate || !task.startDate)
@@ -235,7 +241,7 @@ void TaskFormDialog::prefill(const Task &task)
     m_priority->setCurrentIndex(m_priority->findData(task.priority));
     m_status->setCurrentIndex(std::max(0, m_status->findData(task.status)));
     m_progress->setValue(task.percentComplete);
-    m_categories->setText(task.categories.join(QStringLiteral(", ")));
+    m_categories->setText(categoriesText(task));
     m_notes->setPlainText(task.description);
     m_notes->document()->setModified(false);
     onDueChanged();
@@ -289,6 +295,8 @@ void TaskFormDialog::onDueChanged()
 
 QStringList TaskFormDialog::editedCategories() const
 {
+    if (m_categories->text() == categoriesText(m_shown))
+        return m_shown.categories; // a comma within one separates nothing
     QStringList result;
     const QStringList parts = m_categories->text().split(u',', Qt::SkipEmptyParts);
     for (const QString &part : parts) {
@@ -301,7 +309,7 @@ QStringList TaskFormDialog::editedCategories() const
 Task TaskFormDialog::edited() const
 {
     Task task = m_shown;
-    task.title = m_title->text().trimmed();
+    task.title = PlainText::typed(m_title->text(), m_shown.title);
     task.calendarId = m_calendar->calendarId();
     task.parentTaskUid = m_parent->currentData().toString();
     task.dueDate = m_due->value();

@@ -413,6 +413,29 @@ private slots:
         QCOMPARE(instances(state), u"2.%1 3.11 4.12 6.%1 7.%1 8.%1 9.%1 10.%1"_s.arg(newTime.hour()));
     }
 
+    /// Its text names no zone, or none that is known.
+    void keepsWhatFloatsOnTheMachinesClock()
+    {
+        for (const QString &zone : { u"UTC"_s, u"No/Where"_s }) {
+            for (const bool repeats : { false, true }) {
+                ScratchState state;
+                Event stored = pulled(u"a"_s);
+                stored.timezone = zone;
+                stored.recurrenceRule = repeats ? u"FREQ=DAILY"_s : QString();
+                stored.startTime = local(0, 9);
+                stored.endTime = local(0, 10);
+                store(state, { stored });
+                const int day = repeats ? 8 : 0;
+                QVERIFY(saved(state, u"a"_s, local(day, 9), [](Event &event) { event.title = u"b"_s; }).ok);
+                QVERIFY(saved(state, u"a"_s, local(day, 9), [](Event &event) { shift(event, 0, 3'600); }).ok);
+                QVERIFY(EventEdits::move(state.state(), u"a"_s, local(day, 10), 0, 60).ok);
+                QCOMPARE(row(state, u"a"_s).timezone, zone);
+                QCOMPARE(row(state, u"a"_s).startTime, local(0, 11));
+                QCOMPARE(row(state, u"a"_s).startTime.timeSpec(), Qt::LocalTime);
+            }
+        }
+    }
+
     void movesToAnotherCalendar()
     {
         ScratchState state;
@@ -420,10 +443,16 @@ private slots:
         storeSeries(state);
         const Event master = row(state, u"series"_s);
         // Its series goes with an override.
-        const QString id = saved(state, u"moved1"_s, {}, [&](Event &event) { event.calendarId = work; }).id;
+        const Change toWork = [&](Event &event) {
+            event.calendarId = work;
+            event.title = u"b"_s;
+        };
+        const QString id = saved(state, u"moved1"_s, {}, toWork).id;
         QVERIFY(state->events()->getByCalendar(Home).isEmpty());
         QCOMPARE(state->events()->getByCalendar(work).size(), 3);
         QCOMPARE(row(state, id).recurrenceId, row(state, u"moved1"_s).recurrenceId);
+        QCOMPARE(row(state, id).title, u"b"_s);
+        QVERIFY(row(state, id).rawIcalendar.contains(u"X-OTHER:kept"_s));
         const Event copy = state->events()->getByUidAndRecurrenceId(master.uid, work, {}).value();
         QCOMPARE(copy.href + copy.etag, QString());
         QCOMPARE(copy.rawIcalendar, master.rawIcalendar);

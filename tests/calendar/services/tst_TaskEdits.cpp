@@ -91,6 +91,12 @@ private slots:
         QVERIFY(stored.dueIsDateOnly && !stored.startIsDateOnly);
         QCOMPARE(stored.dueDate->date(), May5);
         QCOMPARE(stored.startDate, start);
+        QCOMPARE(stored.startDate->timeSpec(), Qt::UTC);
+
+        stored.startDate = start; // as it was read from a text that names no zone
+        update(state, stored);
+        QVERIFY(TaskEdits::setDate(state.state(), id, DateField::Start, start.addSecs(60), false).ok);
+        QCOMPARE(row(state, id).startDate->timeSpec(), Qt::LocalTime);
     }
 
     void savesTheDifference()
@@ -186,7 +192,9 @@ private slots:
         ScratchState state;
         const QString work = state.addCalendar(u"Work"_s);
         add(state, u"root"_s);
-        const Task shown = add(state, u"a"_s, u"root"_s, 2);
+        Task shown = add(state, u"a"_s, u"root"_s, 2);
+        shown.rawIcalendar = u"BEGIN:VTODO\r\nUID:a\r\nX-OTHER:kept\r\nEND:VTODO\r\n"_s;
+        shown = update(state, shown);
         Task child = add(state, u"b"_s, u"a"_s);
         child.reminders = { reminder(10) };
         update(state, child);
@@ -195,6 +203,7 @@ private slots:
         const Task moved = row(state, TaskEdits::save(state.state(), shown, edited).id);
         QCOMPARE(outline(state), u"root"_s);
         QCOMPARE(moved.parentTaskUid + moved.href, QString());
+        QCOMPARE(moved.rawIcalendar, shown.rawIcalendar);
         QCOMPARE(state->tasks()->getByUid(u"b"_s, work)->parentTaskUid, u"a"_s);
         QCOMPARE(state->tasks()->getByUid(u"b"_s, work)->reminders.size(), 1);
         QVERIFY(row(state, u"b"_s).deletedAt);

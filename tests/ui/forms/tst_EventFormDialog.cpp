@@ -133,7 +133,7 @@ private slots:
 
     void wholeDaysShowTheirLastDay()
     {
-        const Event before = m_state->addAllDayEvent(QStringLiteral("Trip"), May1, 3);
+        const Event before = m_state->addAllDayEvent(QStringLiteral("Trip "), May1, 3);
         EventFormDialog form(m_state->state(), before, nullptr);
         QCOMPARE(picker(form, 0)->date(), May1);
         QCOMPARE(picker(form, 1)->date(), May1.addDays(2));

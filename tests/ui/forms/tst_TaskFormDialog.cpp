@@ -46,6 +46,8 @@ private slots:
         const Task task = stored(QStringLiteral("t"), [&](Task &each) {
             each.status = status;
             each.percentComplete = percent;
+            each.title = QStringLiteral(" t ");
+            each.categories = QStringList{ QStringLiteral("a,b"), QStringLiteral("c") };
         });
         TaskFormDialog form(m_state->state(), task, nullptr);
         QCOMPARE(form.edited(), task);
