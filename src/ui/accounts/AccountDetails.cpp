@@ -53,10 +53,7 @@ AccountDetails::AccountDetails(AppState *state, QWidget *parent)
     , m_fix(new QPushButton)
     , m_form(new QFormLayout)
 {
-    QFont font = m_title->font();
-    font.setBold(true);
-    font.setPointSize(Theme::FontSizeLg);
-    m_title->setFont(font);
+    m_title->setFont(Theme::headingFont(m_title->font()));
     m_type->setProperty("muted", true);
     m_fix->setAutoDefault(false);
     connect(m_fix, &QPushButton::clicked, this, &AccountDetails::onFixClicked);

@@ -50,10 +50,7 @@ CalDavCertificateDialog::CalDavCertificateDialog(const CalDavClient::UntrustedCe
 {
     auto *heading = new QLabel(tr("Trust this certificate?"));
     heading->setTextFormat(Qt::PlainText);
-    QFont font = heading->font();
-    font.setBold(true);
-    font.setPointSize(Theme::FontSizeLg);
-    heading->setFont(font);
+    heading->setFont(Theme::headingFont(heading->font()));
     body()->addWidget(heading);
     auto *text =
         makeValue(tr("%1:%2 presented a TLS certificate that doesn't chain to a trusted root. Review it before "
