@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -43,8 +44,14 @@ public:
         viewport()->setAutoFillBackground(false);
     }
 
-    [[nodiscard]] QSize sizeHint() const override { return bounded(widget()->sizeHint(), ScreenShare); }
-    [[nodiscard]] QSize minimumSizeHint() const override { return bounded(widget()->minimumSizeHint(), 0.6); }
+    [[nodiscard]] QSize sizeHint() const override
+    {
+        return bounded(widget()->sizeHint(), &QLayout::heightForWidth, ScreenShare);
+    }
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        return bounded(widget()->minimumSizeHint(), &QLayout::minimumHeightForWidth, 0.6);
+    }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
@@ -61,11 +68,12 @@ protected:
     }
 
 private:
-    [[nodiscard]] QSize bounded(QSize size, double screenShare) const
+    [[nodiscard]] QSize bounded(QSize size, int (QLayout::*heightFor)(int) const, double screenShare) const
     {
-        const int width = qMax(qMax(size.width(), viewport()->width()), minimumWidth());
+        // With the width that it has while nothing scrolls.
+        const int wide = qMax(qMax(size.width(), width()), minimumWidth());
         if (widget()->layout()->hasHeightForWidth())
-            size.setHeight(qMax(widget()->layout()->minimumHeightForWidth(width), size.height()));
+            size.setHeight((widget()->layout()->*heightFor)(wide));
         const int highest = int(screen()->availableGeometry().height() * screenShare);
         if (size.height() > highest)
             size = QSize(size.width() + verticalScrollBar()->sizeHint().width(), highest);
@@ -161,12 +169,30 @@ void FormDialog::styleForm(QFormLayout *form)
     form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
+void FormDialog::addTextRow(QFormLayout *form, const QString &label, QLabel *text)
+{
+    auto *name = new QLabel(label);
+    for (QLabel *one : { name, text })
+        one->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    form->addRow(name, text);
+}
+
 void FormDialog::showEvent(QShowEvent *event)
 {
     // Qt stops at two thirds of the screen for a dialog that nobody has resized yet.
     if (!event->spontaneous() && !testAttribute(Qt::WA_Resized))
         resize(size().expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
     QDialog::showEvent(event);
+}
+
+void FormDialog::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto *button = qobject_cast<QPushButton *>(focusWidget());
+    if (isReturn && button && !(event->modifiers() & ~Qt::KeypadModifier))
+        button->click();
+    else
+        QDialog::keyPressEvent(event);
 }
 
 QLabel *FormDialog::addSection(const QString &title)
@@ -275,6 +301,8 @@ void FormDialog::growToFit()
 {
     if (!isVisible())
         return;
+    // What has changed deep in the body reaches the layout of the dialog by one event for each level.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     layout()->activate();
     resize(size().expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
 }
