@@ -82,7 +82,7 @@ void CalDavDiscovery::tryNextPrincipalCandidate()
     if (m_fallbackHomeUrl)
         return propfind(*m_fallbackHomeUrl, CalDavXml::calendarHomeSetBody(), 0, &CalDavDiscovery::onHomeSetReply);
     if (m_wasUnauthorized)
-        return emitFail(tr("The server rejected the username or password."));
+        return emitFail(loginRejected());
     emitFail(tr("Could not find a CalDAV account on that server. Check the URL."));
 }
 
@@ -139,6 +139,11 @@ QUrl CalDavDiscovery::secured(QUrl url) const
     url.setScheme(m_baseUrl.scheme());
     url.setPort(url.host() == m_baseUrl.host() ? m_baseUrl.port() : -1);
     return url;
+}
+
+QString CalDavDiscovery::loginRejected()
+{
+    return tr("The server rejected the username or password.");
 }
 
 void CalDavDiscovery::emitFail(const QString &message)
