@@ -31,6 +31,14 @@ constexpr int MinWidth = 480;
 constexpr int ProgramIconSize = 64;
 constexpr double ScreenShare = 0.85; // of the height; what does not fit scrolls
 
+/// A list that takes what is left has a least height, of which the height for a width knows nothing.
+int wantedHeight(const QLayout *layout, int width)
+{
+    if (!layout->hasHeightForWidth())
+        return layout->sizeHint().height();
+    return qMax(layout->heightForWidth(width), layout->minimumHeightForWidth(width));
+}
+
 /// Takes the size that its content wants as long as the screen has it, and scrolls only beyond that.
 class BodyArea : public QScrollArea {
 public:
@@ -46,11 +54,15 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override
     {
-        return bounded(widget()->sizeHint(), &QLayout::heightForWidth, ScreenShare);
+        const QSize size = widget()->sizeHint();
+        return bounded(size, wantedHeight(widget()->layout(), fullWidth(size)), ScreenShare);
     }
     [[nodiscard]] QSize minimumSizeHint() const override
     {
-        return bounded(widget()->minimumSizeHint(), &QLayout::minimumHeightForWidth, 0.6);
+        const QSize size = widget()->minimumSizeHint();
+        const QLayout *layout = widget()->layout();
+        const bool wraps = layout->hasHeightForWidth();
+        return bounded(size, wraps ? layout->minimumHeightForWidth(fullWidth(size)) : size.height(), 0.6);
     }
 
 protected:
@@ -68,16 +80,14 @@ protected:
     }
 
 private:
-    [[nodiscard]] QSize bounded(QSize size, int (QLayout::*heightFor)(int) const, double screenShare) const
+    /// The width of the content while nothing scrolls.
+    [[nodiscard]] int fullWidth(QSize size) const { return qMax(qMax(size.width(), width()), minimumWidth()); }
+    [[nodiscard]] QSize bounded(QSize size, int height, double screenShare) const
     {
-        // With the width that it has while nothing scrolls.
-        const int wide = qMax(qMax(size.width(), width()), minimumWidth());
-        if (widget()->layout()->hasHeightForWidth())
-            size.setHeight((widget()->layout()->*heightFor)(wide));
         const int highest = int(screen()->availableGeometry().height() * screenShare);
-        if (size.height() > highest)
-            size = QSize(size.width() + verticalScrollBar()->sizeHint().width(), highest);
-        return size;
+        if (height <= highest)
+            return { size.width(), height };
+        return { size.width() + verticalScrollBar()->sizeHint().width(), highest };
     }
 };
 
@@ -90,13 +100,13 @@ FormDialog::FormDialog(const QString &title, QWidget *parent)
     setMinimumWidth(MinWidth);
     setSizeGripEnabled(false);
 
-    auto *area = new BodyArea(this);
+    m_area = new BodyArea(this);
     auto *content = new QWidget;
     m_body = new QVBoxLayout(content);
     m_body->setContentsMargins(0, 0, 0, 0);
     m_body->setSpacing(Spacing);
-    area->setWidget(content);
-    area->setMinimumWidth(MinWidth - 2 * Margin);
+    m_area->setWidget(content);
+    m_area->setMinimumWidth(MinWidth - 2 * Margin);
     content->setAutoFillBackground(false);
 
     m_message = new InlineMessage(InlineMessage::Kind::Problem, this);
@@ -107,7 +117,7 @@ FormDialog::FormDialog(const QString &title, QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     layout->setSpacing(Spacing);
-    layout->addWidget(area, 1);
+    layout->addWidget(m_area, 1);
     layout->addWidget(m_message);
     layout->addWidget(m_buttons);
 }
@@ -304,7 +314,9 @@ void FormDialog::growToFit()
     // What has changed deep in the body reaches the layout of the dialog by one event for each level.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     layout()->activate();
-    resize(size().expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
+    // In height alone: what a wrapped text would like as width changes with every text.
+    const int missing = qMax(0, wantedHeight(m_body, m_area->width()) - m_area->height());
+    resize(QSize(width(), height() + missing).boundedTo(screen()->availableSize()));
 }
 
 void FormDialog::setBusy(bool busy)

@@ -11,6 +11,7 @@ class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QScrollArea;
 class QVBoxLayout;
 
 /// What the small dialogs share: a scrollable body, one place for an error, and the buttons. Accepting
@@ -73,6 +74,7 @@ private:
     void showMessage(InlineMessage::Kind kind, const QString &text);
     [[nodiscard]] QString messageText(bool isProblem) const;
 
+    QScrollArea *m_area; // around the body
     QVBoxLayout *m_body;
     InlineMessage *m_message;
     QDialogButtonBox *m_buttons;
