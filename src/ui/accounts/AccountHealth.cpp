@@ -23,7 +23,8 @@ QString failure(AppState *state, const QString &id)
     return scheduler ? scheduler->failure(id) : QString();
 }
 
-/// What the last run of each calendar left behind: a line for each error, with the calendars that have it.
+/// What the last run of each calendar left behind: a line for each error, with the calendars that have it
+/// unless all do.
 QString calendarErrors(AppState *state, const Account &account)
 {
     QStringList errors;
@@ -39,8 +40,9 @@ QString calendarErrors(AppState *state, const Account &account)
         names[error].append(calendar.name.simplified());
     }
     for (QString &error : errors) {
-        const QString of = QLocale().createSeparatedList(names.value(error));
-        error = Text::tr("%1: %2", "calendars, error").arg(of, error);
+        const QStringList of = names.value(error);
+        if (of.size() == 1 || of.size() < calendars.size())
+            error = Text::tr("%1: %2", "calendars, error").arg(QLocale().createSeparatedList(of), error);
     }
     return errors.join(u'\n');
 }
