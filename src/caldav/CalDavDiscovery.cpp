@@ -131,7 +131,7 @@ void CalDavDiscovery::tryNextPrincipalCandidate()
     if (m_fallbackHomeUrl)
         return propfind(*m_fallbackHomeUrl, CalDavXml::calendarHomeSetBody(), 0, &CalDavDiscovery::onHomeSetReply);
     if (m_wasUnauthorized)
-        return emitFail(tr("The server rejected the username or password."));
+        return emitFail(loginRejected());
     if (!m_strangerUrl.isEmpty())
         return emitFail(
             tr("The server refers to another one, which was not given your password. If you trust it, enter "
@@ -203,7 +203,7 @@ void CalDavDiscovery::onCalendarsReply(const Response &response)
     m_calendarsElsewhere = server == m_baseUrl ? m_calendars : listed(response.body, server);
     if (m_calendars.isEmpty()) {
         // Some page answered the request; what has the calendars wanted another password.
-        return emitFail(m_wasUnauthorized && !hasPrincipal() ? tr("The server rejected the username or password.")
+        return emitFail(m_wasUnauthorized && !hasPrincipal() ? loginRejected()
                                                              : tr("No calendars found at the discovered home set."));
     }
     const auto differs = std::ranges::mismatch(m_calendars, m_calendarsElsewhere, {}, &DiscoveredCalendar::url,
@@ -245,6 +245,11 @@ QList<CalDavParse::DiscoveredCalendar> CalDavDiscovery::listed(const QByteArray 
 QUrl CalDavDiscovery::answeringServer(const Response &response) const
 {
     return CredentialScope::covers(m_currentUrl, response.url) ? serverOf(response.url) : m_baseUrl;
+}
+
+QString CalDavDiscovery::loginRejected()
+{
+    return tr("The server rejected the username or password.");
 }
 
 void CalDavDiscovery::emitFail(const QString &message)

@@ -28,6 +28,9 @@ public:
     /// Begins, or begins again from the start. A text without a scheme means https.
     void start(const QUrl &input);
 
+    /// What failed() says when no address took the credentials.
+    static QString loginRejected();
+
     /// Once completed; empty if what was found is a single calendar, not what holds it.
     [[nodiscard]] QString homeSet() const { return m_homeSet; }
     [[nodiscard]] QString principal() const { return m_principal; } ///< once completed; may be empty

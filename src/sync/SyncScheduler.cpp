@@ -94,6 +94,22 @@ bool SyncScheduler::canPush(const QString &calendarId) const
         && !isResting(calendarId);
 }
 
+QString SyncScheduler::failure(const QString &accountOrCalendarId) const
+{
+    return m_failures.value(accountOrCalendarId);
+}
+
+void SyncScheduler::noteEnd(const QString &accountOrCalendarId, const QString &failure)
+{
+    if (m_failures.value(accountOrCalendarId) == failure)
+        return;
+    if (failure.isEmpty())
+        m_failures.remove(accountOrCalendarId);
+    else
+        m_failures.insert(accountOrCalendarId, failure);
+    emit failuresChanged();
+}
+
 /// The signal names the calendar touched last; an edit may have touched several.
 void SyncScheduler::onChanged(ChangeOrigin origin)
 {
@@ -260,6 +276,8 @@ void SyncScheduler::discover(const Account &account, const QString &password)
     };
     connect(discovery, &CalDavDiscovery::completed, this,
             [this, id = account.id, goOn](const QList<CalDavParse::DiscoveredCalendar> &calendars) {
+                noteEnd(id, {});
+                noteRefusedCertificate(id, {}); // the server shows again what is trusted
                 const int inserted = CalDavRediscover::upsertDiscoveredCalendars(m_state, id, calendars);
                 if (inserted > 0)
                     say(tr("Discovered %n new calendar(s).", nullptr, inserted), 4000);
@@ -267,6 +285,7 @@ void SyncScheduler::discover(const Account &account, const QString &password)
             });
     connect(discovery, &CalDavDiscovery::failed, this, [this, client, id = account.id, goOn](const QString &message) {
         qWarning().noquote() << "[Sync] Rediscovery skipped:" << message;
+        noteEnd(id, message);
         if (client->hasPendingUntrustedCert())
             noteRefusedCertificate(id, client->pendingUntrustedCert().sha256);
         goOn(message);
@@ -314,6 +333,7 @@ CalDavSyncClient *SyncScheduler::makeClient()
 {
     auto *client = new CalDavSyncClient(m_state, this);
     wire(client);
+    connect(client, &CalDavSyncClient::calendarSyncCompleted, this, [this](const QString &id) { noteEnd(id, {}); });
     return client;
 }
 
@@ -348,6 +368,7 @@ void SyncScheduler::wire(CalDavSyncClient *client)
 void SyncScheduler::onFailed(const QString &calendarId, const QString &message, int timeoutMs)
 {
     m_failureStamps.insert(calendarId, now());
+    noteEnd(calendarId, message);
     sayFailure(message, timeoutMs);
 }
 

@@ -35,6 +35,10 @@ public:
     /// failure within the last minute.
     [[nodiscard]] bool canPush(const QString &calendarId) const;
 
+    /// What the last look at an account, or the last run of a calendar, in this run of the program ended with; empty
+    /// if that went well, or has not been.
+    [[nodiscard]] QString failure(const QString &accountOrCalendarId) const;
+
     static bool isCalDavFamily(const Account &account);
     /// What Account::lastSyncError holds while there is no password.
     static QString passwordMissing();
@@ -52,6 +56,7 @@ public slots:
 
 signals:
     void statusMessage(const QString &text, int timeoutMs); ///< 0: until the next one
+    void failuresChanged();
 
 private:
     void onChanged(ChangeOrigin origin);
@@ -66,6 +71,7 @@ private:
     CalDavSyncClient *makeClient();
     void wire(CalDavSyncClient *client);
     void onFailed(const QString &calendarId, const QString &message, int timeoutMs);
+    void noteEnd(const QString &accountOrCalendarId, const QString &failure);
     void setAccountError(Account account, const QString &error);
     void say(const QString &text, int timeoutMs);
     void sayFailure(const QString &text, int timeoutMs);
@@ -78,6 +84,7 @@ private:
     QTimer m_tick;
     QSet<QString> m_pendingCalendars;
     QHash<QString, QDateTime> m_failureStamps; // calendar to UTC
+    QHash<QString, QString> m_failures; // account or calendar to what to tell of it
     int m_syncedTotal = 0;
     QDeadlineTimer m_failureShown;
 };

@@ -39,22 +39,25 @@ void AccountPill::refresh()
 {
     int needAuth = 0;
     int needPassword = 0;
+    int needReview = 0; // of a certificate
     for (const Account &account : m_state->accounts()->getAll()) {
         if (!account.enabled)
             continue;
         if (account.type == AccountType::Google || account.type == AccountType::Microsoft)
             needAuth += account.lastSyncError == AccountError::SignInRequired;
+        else if (SyncScheduler::isCalDavFamily(account) && !account.pendingCertSha256.isEmpty())
+            ++needReview;
         else if (SyncScheduler::isCalDavFamily(account))
             needPassword += account.lastSyncError == SyncScheduler::passwordMissing();
     }
-    setVisible(needAuth + needPassword > 0);
-    showCounts(needAuth, needPassword);
+    setVisible(needAuth + needPassword + needReview > 0);
+    showCounts(needAuth, needPassword, needReview);
 }
 
-void AccountPill::showCounts(int needAuth, int needPassword)
+void AccountPill::showCounts(int needAuth, int needPassword, int needReview)
 {
-    if (needAuth > 0 && needPassword > 0) {
-        setText(tr("%n account(s) need attention", nullptr, needAuth + needPassword));
+    if (needReview > 0 || (needAuth > 0 && needPassword > 0)) {
+        setText(tr("%n account(s) need attention", nullptr, needAuth + needPassword + needReview));
         setToolTip(tr("Click to open Calendar Accounts and resolve the issues."));
     } else if (needAuth > 0) {
         setText(tr("%n account(s) need sign-in", nullptr, needAuth));

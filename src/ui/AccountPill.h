@@ -14,7 +14,7 @@ public:
 
 private:
     void refresh();
-    void showCounts(int needAuth, int needPassword);
+    void showCounts(int needAuth, int needPassword, int needReview);
     void updateLook();
 
     AppState *m_state;

@@ -30,6 +30,11 @@ inline QString nameOf(const QWidget *widget)
 
 inline void checkTabOrder(QDialog *dialog)
 {
+    const QList<QLabel *> labels = dialog->findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        const bool leads = !label->buddy() || label->buddy()->focusPolicy() != Qt::NoFocus;
+        QVERIFY2(leads || !label->text().contains(u'&'), qPrintable(nameOf(label) + QStringLiteral(" leads nowhere")));
+    }
     const QList<QWidget *> stops = tabStops(dialog);
     QVERIFY(stops.size() > 1);
     for (qsizetype i = 1; i < stops.size(); ++i) {

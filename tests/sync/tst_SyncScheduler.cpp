@@ -137,6 +137,7 @@ private slots:
         QVERIFY(!m_scheduler->canPush(id));
         QCOMPARE(messages().last(), u"Server returned HTTP 500 during ctag check"_s);
         QCOMPARE((*m_state)->lastSyncErrorMessage(), messages().last());
+        QCOMPARE(m_scheduler->failure(id), messages().last());
         m_scheduler->start();
         const int before = m_server->requestCount();
         addPending(u"mine"_s);
@@ -144,6 +145,7 @@ private slots:
         QVERIFY(changed.wait());
         QCOMPARE(m_server->requestCount(), before);
         syncNow(); // who asks does not wait
+        QVERIFY(m_scheduler->failure(id).isEmpty());
         QVERIFY(m_server->objects().contains("mine.ics"));
     }
 
@@ -171,6 +173,7 @@ private slots:
         QVERIFY((*m_state)->accounts()->update(m_account));
         syncNow();
         QVERIFY2(messages().last().startsWith(u"Could not reach the server: "_s), qPrintable(messages().last()));
+        QCOMPARE(m_scheduler->failure(m_account.id), messages().last());
     }
 
     void declinedAndRemovedCalendarsStayAway()

@@ -53,10 +53,7 @@ AccountDetails::AccountDetails(AppState *state, QWidget *parent)
     , m_fix(new QPushButton)
     , m_form(new QFormLayout)
 {
-    QFont font = m_title->font();
-    font.setBold(true);
-    font.setPointSize(Theme::FontSizeLg);
-    m_title->setFont(font);
+    m_title->setFont(Theme::headingFont(m_title->font()));
     m_type->setProperty("muted", true);
     m_fix->setAutoDefault(false);
     connect(m_fix, &QPushButton::clicked, this, &AccountDetails::onFixClicked);
@@ -86,17 +83,16 @@ void AccountDetails::buildForm()
     m_color = new ColorButton;
     m_enabled = new QCheckBox(tr("S&ync this account"));
     m_excluded = new QCheckBox(tr("E&xclude from cloud sync"));
-    m_form->addRow(tr("Server"), m_server);
-    m_form->addRow(tr("Username"), m_username);
-    m_form->addRow(tr("Calendars"), m_calendars);
-    m_form->addRow(tr("Last sync"), m_lastSync);
-    m_form->addRow(QString(), m_enabled);
+    FormDialog::addTextRow(m_form, tr("Server"), m_server);
+    FormDialog::addTextRow(m_form, tr("Username"), m_username);
+    FormDialog::addTextRow(m_form, tr("Calendars"), m_calendars);
+    FormDialog::addTextRow(m_form, tr("Last sync"), m_lastSync);
+    m_form->addRow(m_enabled);
     m_form->addRow(tr("Sync &interval"), m_interval);
     m_form->addRow(tr("C&olor"), m_color);
-    m_form->addRow(QString(), m_excluded);
+    m_form->addRow(m_excluded);
 
-    connect(m_enabled, &QCheckBox::clicked, this,
-            [this](bool checked) { change([checked](Account &account) { account.enabled = checked; }); });
+    connect(m_enabled, &QCheckBox::clicked, this, [this](bool checked) { onEnabledClicked(checked); });
     connect(m_excluded, &QCheckBox::clicked, this,
             [this](bool checked) { change([checked](Account &account) { account.excludeFromSync = checked; }); });
     connect(m_color, &ColorButton::colorChanged, this,
@@ -141,9 +137,10 @@ void AccountDetails::showAccount(const QString &accountId)
 void AccountDetails::showHealth(const AccountHealth &health)
 {
     using State = AccountHealth::State;
-    m_message->showText(health.state == State::Failing ? InlineMessage::Kind::Problem : InlineMessage::Kind::Warning,
+    const bool isProblem = health.state == State::Failing || health.state == State::PasswordRejected;
+    m_message->showText(isProblem ? InlineMessage::Kind::Problem : InlineMessage::Kind::Warning,
                         PlainText::breakLongWords(health.detail));
-    m_needsPassword = health.state == State::PasswordMissing;
+    m_needsPassword = health.state == State::PasswordMissing || health.state == State::PasswordRejected;
     m_fix->setText(m_needsPassword ? tr("Enter &Password…") : tr("Review &Certificate…"));
     m_fix->setVisible(m_needsPassword || health.state == State::CertificateChanged);
 }
@@ -201,6 +198,14 @@ void AccountDetails::showInterval(int minutes)
 void AccountDetails::setRefreshing(bool refreshing)
 {
     m_refresh->setText(refreshing ? tr("Cancel") : tr("&Refresh"));
+}
+
+void AccountDetails::onEnabledClicked(bool enabled)
+{
+    change([enabled](Account &account) { account.enabled = enabled; });
+    const auto account = m_state->accounts()->getById(m_accountId);
+    if (enabled && account && SyncScheduler::isCalDavFamily(*account))
+        m_state->syncScheduler()->runSyncForAccount(*account); // what was changed meanwhile waits here and there
 }
 
 void AccountDetails::onFixClicked()

@@ -43,6 +43,7 @@ private:
     void showHealth(const AccountHealth &health);
     void showSettings(const Account &account);
     void showInterval(int minutes);
+    void onEnabledClicked(bool enabled);
     void onFixClicked();
     void change(const std::function<void(Account &)> &apply);
 

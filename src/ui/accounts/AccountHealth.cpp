@@ -1,12 +1,14 @@
 #include "ui/accounts/AccountHealth.h"
 
 #include "app/state/AppState.h"
+#include "caldav/CalDavDiscovery.h"
 #include "calendar/services/TimeFormat.h"
 #include "models/Calendar.h"
 #include "storage/CalendarRepository.h"
 #include "sync/SyncScheduler.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QLocale>
 
 namespace {
@@ -15,19 +17,34 @@ struct Text {
     Q_DECLARE_TR_FUNCTIONS(AccountHealth)
 };
 
-/// What the last run of each calendar left behind.
+QString failure(AppState *state, const QString &id)
+{
+    const SyncScheduler *scheduler = state->syncScheduler();
+    return scheduler ? scheduler->failure(id) : QString();
+}
+
+/// What the last run of each calendar left behind: a line for each error, with the calendars that have it
+/// unless all do.
 QString calendarErrors(AppState *state, const Account &account)
 {
-    QStringList lines;
+    QStringList errors;
+    QHash<QString, QStringList> names;
     const QList<Calendar> calendars = state->calendars()->getByAccount(account.id);
     for (const Calendar &calendar : calendars) {
-        const bool isLatest = state->lastSyncErrored() && state->lastSyncErrorCalendar() == calendar.id;
-        const QString error =
-            calendar.lastSyncError.isEmpty() && isLatest ? state->lastSyncErrorMessage() : calendar.lastSyncError;
-        if (!error.isEmpty())
-            lines.append(Text::tr("%1: %2", "calendar, error").arg(calendar.name.simplified(), error.simplified()));
+        const QString latest = failure(state, calendar.id);
+        const QString error = (latest.isEmpty() ? calendar.lastSyncError : latest).simplified();
+        if (error.isEmpty())
+            continue;
+        if (!names.contains(error))
+            errors.append(error);
+        names[error].append(calendar.name.simplified());
     }
-    return lines.join(u'\n');
+    for (QString &error : errors) {
+        const QStringList of = names.value(error);
+        if (of.size() == 1 || of.size() < calendars.size())
+            error = Text::tr("%1: %2", "calendars, error").arg(QLocale().createSeparatedList(of), error);
+    }
+    return errors.join(u'\n');
 }
 
 }
@@ -55,7 +72,11 @@ AccountHealth AccountHealth::of(AppState *state, const Account &account)
                  .summary = Text::tr("Sign in required"),
                  .detail = Text::tr("The sign-in of this account has ended.") };
     }
-    QStringList errors{ account.lastSyncError, calendarErrors(state, account) };
+    const QString calendars = calendarErrors(state, account);
+    const QString ofAccount = failure(state, account.id);
+    if (!calendars.isEmpty() && ofAccount == CalDavDiscovery::loginRejected())
+        return { .state = State::PasswordRejected, .summary = Text::tr("Password rejected"), .detail = ofAccount };
+    QStringList errors{ account.lastSyncError, ofAccount, calendars };
     errors.removeAll(QString());
     if (!errors.isEmpty())
         return { .state = State::Failing, .summary = Text::tr("Sync failed"), .detail = errors.join(u'\n') };
@@ -69,6 +90,8 @@ QString AccountHealth::lastSync(AppState *state, const Account &account)
     if (!account.lastSyncTime)
         return Text::tr("Never");
     const QDateTime local = account.lastSyncTime->toLocalTime();
+    if (local.date() == QDate::currentDate())
+        return TimeFormat::formatTime(state, local);
     return Text::tr("%1, %2", "date, time")
         .arg(QLocale().toString(local.date(), QLocale::ShortFormat), TimeFormat::formatTime(state, local));
 }

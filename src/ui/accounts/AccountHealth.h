@@ -12,7 +12,9 @@ struct AccountHealth {
         Fine,
         Local, ///< nothing to sync
         Disabled,
+        // From here on its owner has something to do.
         PasswordMissing,
+        PasswordRejected,
         SignInRequired,
         CertificateChanged, ///< the server shows another one than the one that is trusted
         Failing,
@@ -20,7 +22,9 @@ struct AccountHealth {
 
     State state = State::Fine;
     QString summary; ///< one line
-    QString detail; ///< what went wrong, a line for each calendar; empty if nothing did
+    QString detail; ///< what went wrong, a line for each error; empty if nothing did
+
+    [[nodiscard]] bool needsOwner() const { return state >= State::PasswordMissing; }
 
     static AccountHealth of(AppState *state, const Account &account);
     static QString lastSync(AppState *state, const Account &account); ///< when that was, in local time

@@ -50,10 +50,7 @@ CalDavCertificateDialog::CalDavCertificateDialog(const CalDavClient::UntrustedCe
 {
     auto *heading = new QLabel(tr("Trust this certificate?"));
     heading->setTextFormat(Qt::PlainText);
-    QFont font = heading->font();
-    font.setBold(true);
-    font.setPointSize(Theme::FontSizeLg);
-    heading->setFont(font);
+    heading->setFont(Theme::headingFont(heading->font()));
     body()->addWidget(heading);
     auto *text =
         makeValue(tr("%1:%2 presented a TLS certificate that doesn't chain to a trusted root. Review it before "
@@ -66,14 +63,14 @@ CalDavCertificateDialog::CalDavCertificateDialog(const CalDavClient::UntrustedCe
     const QString dateFormat = QStringLiteral("yyyy-MM-dd");
     const auto orUnknown = [](const QString &name) { return name.isEmpty() ? tr("(unknown)") : name; };
     QFormLayout *form = addForm();
-    form->addRow(tr("Subject"), makeValue(orUnknown(info.subject)));
-    form->addRow(tr("Issuer"), makeValue(orUnknown(info.issuer)));
-    form->addRow(tr("Valid from"), makeValue(info.effectiveDate.toString(dateFormat)));
-    form->addRow(tr("Valid until"), makeValue(info.expiryDate.toString(dateFormat)));
-    form->addRow(tr("SHA-256"), makeFingerprint(info.sha256));
+    addTextRow(form, tr("Subject"), makeValue(orUnknown(info.subject)));
+    addTextRow(form, tr("Issuer"), makeValue(orUnknown(info.issuer)));
+    addTextRow(form, tr("Valid from"), makeValue(info.effectiveDate.toString(dateFormat)));
+    addTextRow(form, tr("Valid until"), makeValue(info.expiryDate.toString(dateFormat)));
+    addTextRow(form, tr("SHA-256"), makeFingerprint(info.sha256));
     if (!previousSha256.isEmpty())
-        form->addRow(tr("Previously trusted"), makeFingerprint(previousSha256));
-    form->addRow(tr("Errors"), makeValue(info.errors.join(u'\n')));
+        addTextRow(form, tr("Previously trusted"), makeFingerprint(previousSha256));
+    addTextRow(form, tr("Errors"), makeValue(info.errors.join(u'\n')));
 
     auto *warning = new InlineMessage(InlineMessage::Kind::Warning, this);
     warning->showText(tr("Only trust this certificate if you control the server and recognize the fingerprint. "

@@ -1,6 +1,7 @@
 #include "ui/accounts/CalDavConnectionDialog.h"
 
 #include "app/state/AppState.h"
+#include "caldav/CalDavDiscovery.h"
 #include "caldav/CalDavRediscover.h"
 #include "caldav/ServerAddress.h"
 #include "models/NewId.h"
@@ -21,9 +22,11 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
-constexpr int ListLines = 7;
+constexpr int ListLines = 10;
 
 }
 
@@ -46,11 +49,17 @@ CalDavConnectionDialog::CalDavConnectionDialog(AppState *state, const Account &a
 {
     build(tr("Save"));
     showName(m_name, account.name);
+    m_name->setCursorPosition(0);
     m_url->setText(account.serverUrl);
     m_url->setCursorPosition(0);
     m_username->setText(account.username);
+<<<<<<< HEAD
     m_password->edit()->setPlaceholderText(tr("Leave empty to keep the stored one"));
     m_lookup->setTrustedCertSha256(account.trustedCertSha256, account.serverUrl);
+=======
+    m_password->edit()->setPlaceholderText(tr("Unchanged"));
+    m_lookup->setTrustedCertSha256(account.trustedCertSha256);
+>>>>>>> gui
     chooseDefaultButton();
 }
 
@@ -97,6 +106,7 @@ void CalDavConnectionDialog::buildList()
     QLabel *section = addSection(tr("&Calendars"));
     section->setBuddy(m_list);
     m_list->setAccessibleName(tr("Calendars"));
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setMinimumHeight(fontMetrics().lineSpacing() * ListLines);
     m_list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // what is left over
     m_hint->setMinimumHeight(m_list->minimumHeight());
@@ -156,17 +166,23 @@ bool CalDavConnectionDialog::leadsElsewhere() const
 void CalDavConnectionDialog::onDiscoverClicked()
 {
     if (m_lookup->isRunning()) {
+        m_isSaving = false;
         m_lookup->stop();
         setWorking(false);
         return clearProblem();
     }
     readAddress();
-    const QString username = m_username->text().trimmed();
-    if (m_url->text().isEmpty() || username.isEmpty()) {
+    if (m_url->text().isEmpty() || m_username->text().trimmed().isEmpty()) {
         return showProblem(tr("Enter the server URL and your username first."),
                            m_url->text().isEmpty() ? m_url : m_username);
     }
+    lookUp();
+}
+
+void CalDavConnectionDialog::lookUp()
+{
     setWorking(true);
+    const QString username = m_username->text().trimmed();
     if (m_editing && m_password->text().isEmpty())
         m_lookup->start(m_url->text(), username, m_state->syncScheduler()->credentials(), m_original.id);
     else
@@ -188,7 +204,7 @@ void CalDavConnectionDialog::onFound(const QList<CalDavParse::DiscoveredCalendar
     for (const CalDavParse::DiscoveredCalendar &calendar : calendars) {
         auto *item = new QListWidgetItem(calendar.displayName.simplified(), m_list);
         item->setIcon(Theme::calendarDotIcon(Theme::eventColor(calendar.color).name()));
-        item->setToolTip(Theme::plainToolTip(calendar.url));
+        item->setToolTip(Theme::plainToolTip(calendar.displayName + u'\n' + calendar.url));
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         const bool wasLeft = m_editing && CalDavRediscover::isDeclined(m_state, m_original.id, calendar.url);
         item->setCheckState(wasLeft ? Qt::Unchecked : Qt::Checked);
@@ -196,6 +212,8 @@ void CalDavConnectionDialog::onFound(const QList<CalDavParse::DiscoveredCalendar
     m_list->setCurrentRow(0);
     showHint();
     setWorking(false);
+    if (std::exchange(m_isSaving, false))
+        return accept();
     showStatus(m_editing ? tr("Found %1 calendar(s). Pick which to have on this device.").arg(calendars.size())
                          : tr("Found %1 calendar(s). Pick which to add.").arg(calendars.size()));
     m_list->setFocus(Qt::OtherFocusReason);
@@ -204,7 +222,13 @@ void CalDavConnectionDialog::onFound(const QList<CalDavParse::DiscoveredCalendar
 void CalDavConnectionDialog::onFailed(const QString &message)
 {
     setWorking(false);
-    showProblem(message, nullptr);
+    m_password->edit()->selectAll();
+    showProblem(message, message == CalDavDiscovery::loginRejected() ? m_password : nullptr);
+    if (!std::exchange(m_isSaving, false))
+        return;
+    Prompt::question(this, tr("Save anyway?"),
+                     message + QLatin1StringView("\n\n") + tr("Save the account all the same?"), this,
+                     [this] { store(); });
 }
 
 bool CalDavConnectionDialog::isChecked(int row) const
@@ -217,6 +241,11 @@ bool CalDavConnectionDialog::save()
     readAddress();
     if (!isReadyToStore())
         return false;
+    if (m_editing && !m_hasFound && !m_password->text().isEmpty()) {
+        m_isSaving = true; // once the server has taken the new password
+        lookUp();
+        return false;
+    }
     const QList<Calendar> removed = unwantedCalendars();
     if (removed.isEmpty())
         store({});

@@ -39,6 +39,7 @@ private:
     void readAddress();
     void onConnectionEdited();
     void onDiscoverClicked();
+    void lookUp();
     void onFound(const QList<CalDavParse::DiscoveredCalendar> &calendars);
     void onFailed(const QString &message);
     void setWorking(bool working);
@@ -58,6 +59,7 @@ private:
     bool m_editing = false;
     QString m_resultId;
     ServerLookup *m_lookup;
+    bool m_isSaving = false; // when the lookup has ended
     bool m_hasFound = false;
     QList<CalDavParse::DiscoveredCalendar> m_found; // in the order of the list
     QLineEdit *m_name = nullptr;

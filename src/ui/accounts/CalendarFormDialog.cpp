@@ -70,7 +70,7 @@ void CalendarFormDialog::build()
     form->addRow(tr("&Color"), m_color);
     form->addRow(tr("&Description"), m_description);
     if (m_editing)
-        addTaskSupport();
+        addTaskSupport(form);
     m_name->setFocus();
 }
 
@@ -91,7 +91,7 @@ void CalendarFormDialog::addAccounts(QFormLayout *form)
 }
 
 /// Only where the server has not said whether it takes tasks.
-void CalendarFormDialog::addTaskSupport()
+void CalendarFormDialog::addTaskSupport(QFormLayout *form)
 {
     Calendar asDiscovered = m_original;
     asDiscovered.allowTasksOverride = false;
@@ -101,7 +101,7 @@ void CalendarFormDialog::addTaskSupport()
         return;
     m_allowTasks = new QCheckBox(tr("Allow tasks on this calendar"), this);
     m_allowTasks->setChecked(m_original.allowTasksOverride);
-    body()->addWidget(m_allowTasks);
+    form->addRow(m_allowTasks);
 }
 
 Calendar CalendarFormDialog::newLocalCalendar() const

@@ -30,7 +30,7 @@ protected:
 private:
     void build();
     void addAccounts(class QFormLayout *form);
-    void addTaskSupport();
+    void addTaskSupport(class QFormLayout *form);
     [[nodiscard]] Calendar newLocalCalendar() const;
     [[nodiscard]] Calendar entered(const Calendar &base) const;
     /// The account of the calendar, if its server has a say in this form.

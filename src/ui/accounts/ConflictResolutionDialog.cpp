@@ -20,11 +20,12 @@ namespace {
 
 constexpr int IdRole = Qt::UserRole;
 constexpr qsizetype MaxNotesLength = 600;
-constexpr int ListLines = 5;
+constexpr int ListLines = 7;
+constexpr int LongestRun = 16; // two versions stand side by side
 
 QString html(const QString &text)
 {
-    return PlainText::breakLongWords(text).toHtmlEscaped().replace(u'\n', QLatin1StringView("<br>"));
+    return PlainText::breakLongWords(text, LongestRun).toHtmlEscaped().replace(u'\n', QLatin1StringView("<br>"));
 }
 
 }
@@ -45,6 +46,7 @@ ConflictResolutionDialog::ConflictResolutionDialog(AppState *state, QWidget *par
     text->setWordWrap(true);
     body()->addWidget(text);
     m_list->setAccessibleName(windowTitle());
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setMinimumHeight(fontMetrics().lineSpacing() * ListLines);
     m_list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // what is left over
     m_empty->setAlignment(Qt::AlignCenter);
@@ -134,7 +136,7 @@ void ConflictResolutionDialog::showConflict(int row)
     if (!isThere)
         return;
     const Sync::EventConflict &conflict = conflicts.at(row);
-    m_heading->setText(tr("Conflict: %1").arg(EventText::title(conflict.local)));
+    m_heading->setText(tr("Conflict: %1").arg(PlainText::breakLongWords(EventText::title(conflict.local))));
     m_local->setText(describe(conflict.local));
     m_remote->setText(describe(conflict.remote));
     growToFit();

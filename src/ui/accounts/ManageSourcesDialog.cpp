@@ -22,6 +22,7 @@
 #include <QShortcut>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -64,8 +65,10 @@ ManageSourcesDialog::ManageSourcesDialog(AppState *state, QWidget *parent)
     connect(m_refill, &QTimer::timeout, this, &ManageSourcesDialog::refill);
     connect(state->accounts(), &AccountRepository::accountsChanged, m_refill, qOverload<>(&QTimer::start));
     connect(state->calendars(), &CalendarRepository::calendarsChanged, m_refill, qOverload<>(&QTimer::start));
-    connect(state, &AppState::syncBusyChanged, m_refill, qOverload<>(&QTimer::start));
+    if (SyncScheduler *scheduler = state->syncScheduler())
+        connect(scheduler, &SyncScheduler::failuresChanged, m_refill, qOverload<>(&QTimer::start));
     refill();
+    selectAccount(accountInNeed());
     m_list->setFocus();
 }
 
@@ -75,10 +78,14 @@ void ManageSourcesDialog::buildList()
     m_list->setItemDelegate(new TwoLineDelegate(m_list));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     const int lineHeight = fontMetrics().height();
-    m_list->setMinimumSize(lineHeight * 11, lineHeight * 12);
+    m_list->setMinimumSize(lineHeight * 13, lineHeight * 12);
     m_details->setMinimumWidth(lineHeight * 22);
     m_add->setAutoDefault(false);
-    connect(m_list, &QListWidget::currentRowChanged, this, &ManageSourcesDialog::showCurrent);
+    connect(m_list, &QListWidget::currentRowChanged, this, [this] {
+        if (m_refreshedId.isEmpty())
+            clearProblem(); // it was of another account
+        showCurrent();
+    });
     connect(m_list, &QListWidget::itemDoubleClicked, this, [this] { editCurrent(false); });
     connect(m_add, &QPushButton::clicked, this, &ManageSourcesDialog::openAddMenu);
     const auto onKey = [this](const QKeySequence &key, const std::function<void()> &run) {
@@ -118,6 +125,15 @@ void ManageSourcesDialog::selectAccount(const QString &accountId)
         if (m_list->item(row)->data(IdRole).toString() == accountId)
             m_list->setCurrentRow(row);
     }
+}
+
+/// The first one that waits for its owner.
+QString ManageSourcesDialog::accountInNeed() const
+{
+    const QList<Account> accounts = m_state->accounts()->getAll();
+    const auto found = std::ranges::find_if(
+        accounts, [this](const Account &account) { return AccountHealth::of(m_state, account).needsOwner(); });
+    return found == accounts.end() ? QString() : found->id;
 }
 
 QString ManageSourcesDialog::currentId() const

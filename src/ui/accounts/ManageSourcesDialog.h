@@ -34,6 +34,7 @@ private:
     void onFailed(const QString &message);
     void endRefresh();
     [[nodiscard]] QString currentId() const;
+    [[nodiscard]] QString accountInNeed() const;
 
     AppState *m_state;
     ServerLookup *m_lookup;

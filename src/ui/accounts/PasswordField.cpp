@@ -22,6 +22,7 @@ PasswordField::PasswordField(QWidget *parent)
     row->addWidget(m_edit, 1);
     row->addWidget(show);
     setFocusProxy(m_edit);
+    setFocusPolicy(m_edit->focusPolicy()); // else the mnemonic of its label does nothing
 }
 
 QString PasswordField::text() const

@@ -3,7 +3,6 @@
 #include "ui/actions/PopoverPlacement.h"
 #include "ui/actions/SafeTextBrowser.h"
 #include "ui/dialogs/PlainText.h"
-#include "ui/surfaces/SurfaceFonts.h"
 #include "ui/theme/Theme.h"
 
 #include <QAccessible>
@@ -106,8 +105,7 @@ void DetailsPopover::setHeading(const QString &title, const QString &color, bool
     m_title = new QLabel(PlainText::breakLongWords(title));
     m_title->setTextFormat(Qt::PlainText);
     m_title->setWordWrap(true);
-    QFont font = SurfaceFonts::bold(m_title->font());
-    font.setPointSize(Theme::FontSizeLg);
+    QFont font = Theme::headingFont(m_title->font());
     font.setStrikeOut(struckOut);
     m_title->setFont(font);
     auto *close = new QToolButton;

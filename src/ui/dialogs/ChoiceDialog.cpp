@@ -17,10 +17,7 @@ ChoiceDialog::ChoiceDialog(const QString &title, const QString &heading, const Q
     auto *head = new QLabel(PlainText::breakLongWords(heading));
     head->setTextFormat(Qt::PlainText);
     head->setWordWrap(true);
-    QFont font = head->font();
-    font.setBold(true);
-    font.setPointSize(Theme::FontSizeLg);
-    head->setFont(font);
+    head->setFont(Theme::headingFont(head->font()));
     body()->addWidget(head);
     auto *prompt = new QLabel(text);
     prompt->setTextFormat(Qt::PlainText);

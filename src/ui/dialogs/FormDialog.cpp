@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -30,6 +31,14 @@ constexpr int MinWidth = 480;
 constexpr int ProgramIconSize = 64;
 constexpr double ScreenShare = 0.85; // of the height; what does not fit scrolls
 
+/// A list that takes what is left has a least height, of which the height for a width knows nothing.
+int wantedHeight(const QLayout *layout, int width)
+{
+    if (!layout->hasHeightForWidth())
+        return layout->sizeHint().height();
+    return qMax(layout->heightForWidth(width), layout->minimumHeightForWidth(width));
+}
+
 /// Takes the size that its content wants as long as the screen has it, and scrolls only beyond that.
 class BodyArea : public QScrollArea {
 public:
@@ -43,8 +52,18 @@ public:
         viewport()->setAutoFillBackground(false);
     }
 
-    [[nodiscard]] QSize sizeHint() const override { return bounded(widget()->sizeHint(), ScreenShare); }
-    [[nodiscard]] QSize minimumSizeHint() const override { return bounded(widget()->minimumSizeHint(), 0.6); }
+    [[nodiscard]] QSize sizeHint() const override
+    {
+        const QSize size = widget()->sizeHint();
+        return bounded(size, wantedHeight(widget()->layout(), fullWidth(size)), ScreenShare);
+    }
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        const QSize size = widget()->minimumSizeHint();
+        const QLayout *layout = widget()->layout();
+        const bool wraps = layout->hasHeightForWidth();
+        return bounded(size, wraps ? layout->minimumHeightForWidth(fullWidth(size)) : size.height(), 0.6);
+    }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
@@ -61,15 +80,14 @@ protected:
     }
 
 private:
-    [[nodiscard]] QSize bounded(QSize size, double screenShare) const
+    /// The width of the content while nothing scrolls.
+    [[nodiscard]] int fullWidth(QSize size) const { return qMax(qMax(size.width(), width()), minimumWidth()); }
+    [[nodiscard]] QSize bounded(QSize size, int height, double screenShare) const
     {
-        const int width = qMax(qMax(size.width(), viewport()->width()), minimumWidth());
-        if (widget()->layout()->hasHeightForWidth())
-            size.setHeight(qMax(widget()->layout()->minimumHeightForWidth(width), size.height()));
         const int highest = int(screen()->availableGeometry().height() * screenShare);
-        if (size.height() > highest)
-            size = QSize(size.width() + verticalScrollBar()->sizeHint().width(), highest);
-        return size;
+        if (height <= highest)
+            return { size.width(), height };
+        return { size.width() + verticalScrollBar()->sizeHint().width(), highest };
     }
 };
 
@@ -82,13 +100,13 @@ FormDialog::FormDialog(const QString &title, QWidget *parent)
     setMinimumWidth(MinWidth);
     setSizeGripEnabled(false);
 
-    auto *area = new BodyArea(this);
+    m_area = new BodyArea(this);
     auto *content = new QWidget;
     m_body = new QVBoxLayout(content);
     m_body->setContentsMargins(0, 0, 0, 0);
     m_body->setSpacing(Spacing);
-    area->setWidget(content);
-    area->setMinimumWidth(MinWidth - 2 * Margin);
+    m_area->setWidget(content);
+    m_area->setMinimumWidth(MinWidth - 2 * Margin);
     content->setAutoFillBackground(false);
 
     m_message = new InlineMessage(InlineMessage::Kind::Problem, this);
@@ -99,7 +117,7 @@ FormDialog::FormDialog(const QString &title, QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     layout->setSpacing(Spacing);
-    layout->addWidget(area, 1);
+    layout->addWidget(m_area, 1);
     layout->addWidget(m_message);
     layout->addWidget(m_buttons);
 }
@@ -161,12 +179,30 @@ void FormDialog::styleForm(QFormLayout *form)
     form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
+void FormDialog::addTextRow(QFormLayout *form, const QString &label, QLabel *text)
+{
+    auto *name = new QLabel(label);
+    for (QLabel *one : { name, text })
+        one->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    form->addRow(name, text);
+}
+
 void FormDialog::showEvent(QShowEvent *event)
 {
     // Qt stops at two thirds of the screen for a dialog that nobody has resized yet.
     if (!event->spontaneous() && !testAttribute(Qt::WA_Resized))
         resize(size().expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
     QDialog::showEvent(event);
+}
+
+void FormDialog::keyPressEvent(QKeyEvent *event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto *button = qobject_cast<QPushButton *>(focusWidget());
+    if (isReturn && button && !(event->modifiers() & ~Qt::KeypadModifier))
+        button->click();
+    else
+        QDialog::keyPressEvent(event);
 }
 
 QLabel *FormDialog::addSection(const QString &title)
@@ -275,8 +311,12 @@ void FormDialog::growToFit()
 {
     if (!isVisible())
         return;
+    // What has changed deep in the body reaches the layout of the dialog by one event for each level.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     layout()->activate();
-    resize(size().expandedTo(sizeHint()).boundedTo(screen()->availableSize()));
+    // In height alone: what a wrapped text would like as width changes with every text.
+    const int missing = qMax(0, wantedHeight(m_body, m_area->width()) - m_area->height());
+    resize(QSize(width(), height() + missing).boundedTo(screen()->availableSize()));
 }
 
 void FormDialog::setBusy(bool busy)

@@ -11,6 +11,7 @@ class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QScrollArea;
 class QVBoxLayout;
 
 /// What the small dialogs share: a scrollable body, one place for an error, and the buttons. Accepting
@@ -29,6 +30,9 @@ public:
 
     /// The layout of every form: labels left, fields as wide as the dialog allows.
     static void styleForm(QFormLayout *form);
+
+    /// A row with a text of perhaps several lines, the first of which stands beside the label.
+    static void addTextRow(QFormLayout *form, const QString &label, QLabel *text);
 
     static constexpr int MaxNameLength = 200; ///< of what the user names
     /// Limits the field to MaxNameLength, or to a stored \p name that is longer.
@@ -55,6 +59,8 @@ protected:
     /// True if closing the form would lose what the user entered.
     [[nodiscard]] virtual bool hasUnsavedChanges() const { return false; }
     void showEvent(QShowEvent *event) override;
+    /// Return presses the button that has the focus, whether or not it may be the default one.
+    void keyPressEvent(QKeyEvent *event) override;
     void showProblem(const QString &text, QWidget *at); ///< and puts the focus on \p at
     void clearProblem();
     void growToFit(); ///< after the content of a visible form has got more
@@ -68,6 +74,7 @@ private:
     void showMessage(InlineMessage::Kind kind, const QString &text);
     [[nodiscard]] QString messageText(bool isProblem) const;
 
+    QScrollArea *m_area; // around the body
     QVBoxLayout *m_body;
     InlineMessage *m_message;
     QDialogButtonBox *m_buttons;

@@ -2,19 +2,18 @@
 
 namespace {
 
-constexpr int LongestRun = 32;
 constexpr QChar ZeroWidthSpace(0x200B);
 
 }
 
-QString PlainText::breakLongWords(const QString &text)
+QString PlainText::breakLongWords(const QString &text, int longestRun)
 {
     QString result;
-    result.reserve(text.size() + text.size() / LongestRun);
+    result.reserve(text.size() + text.size() / longestRun);
     int run = 0;
     for (const QChar c : text) {
         // A place to wrap between the halves of a surrogate pair would break the character.
-        if (run >= LongestRun && !c.isLowSurrogate()) {
+        if (run >= longestRun && !c.isLowSurrogate()) {
             result.append(ZeroWidthSpace);
             run = 0;
         }

@@ -91,10 +91,7 @@ void EventFormDialog::buildLayout()
 {
     setMinimumWidth(WidthPx);
     auto *heading = new QLabel(m_isNew ? tr("New event") : tr("Edit event"));
-    QFont font = heading->font();
-    font.setBold(true);
-    font.setPointSize(Theme::FontSizeLg);
-    heading->setFont(font);
+    heading->setFont(Theme::headingFont(heading->font()));
     body()->addWidget(heading);
     if (!m_isReadOnly)
         body()->addWidget(makeHint(m_isNew ? tr("Fill in the basics. Start time and calendar are required.")

@@ -6,7 +6,6 @@
 #include <QCalendarWidget>
 #include <QDateTimeEdit>
 #include <QFile>
-#include <QFont>
 #include <QList>
 #include <QPainter>
 #include <QPalette>
@@ -314,6 +313,14 @@ void setFontScalePercent(int percent)
 int fontScalePercent()
 {
     return s_fontScalePercent;
+}
+
+QFont headingFont(const QFont &font)
+{
+    QFont heading = font;
+    heading.setBold(true);
+    heading.setPointSize(FontSizeLg);
+    return heading;
 }
 
 QString sansFamily()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QIcon>
 #include <QString>
 #include <Qt>
@@ -55,6 +56,9 @@ extern int FontSizeXxl;
 /// Bounded to 70..200.
 void setFontScalePercent(int percent);
 int fontScalePercent();
+
+/// \p font as the heading of a dialog has it: bold, and of FontSizeLg.
+QFont headingFont(const QFont &font);
 
 QString sansFamily();
 QString iconFamily();

@@ -226,6 +226,29 @@ private slots:
         QCOMPARE(CalDavRediscover::isDeclined(state(), account.id, calendar.url), sayYes);
     }
 
+    void aNewPasswordIsTriedBeforeItIsStored_data()
+    {
+        columns<QString, bool, QString>("typed", "sayYes", "stored");
+        row("right", "s3cret", false, "s3cret");
+        row("wrong", "wr0ng", false, "old");
+        row("wrong, and wanted", "wr0ng", true, "wr0ng");
+    }
+    void aNewPasswordIsTriedBeforeItIsStored()
+    {
+        QFETCH(const QString, typed);
+        QFETCH(const bool, sayYes);
+        QFETCH(const QString, stored);
+        m_bench->scheduler.credentials()->setCaldavPassword(m_bench->account.id, u"old"_s, state(), [](bool) {});
+        m_bench->prompts.sayYes = sayYes;
+        CalDavConnectionDialog dialog(state(), m_bench->account);
+        field(dialog, Password)->setText(typed);
+        dialog.accept();
+        QTRY_COMPARE(m_bench->prompts.asked.size(), qsizetype(typed != u"s3cret"));
+        QTRY_COMPARE(dialog.result(), int(stored == typed ? QDialog::Accepted : QDialog::Rejected));
+        QTRY_VERIFY(m_bench->secrets().contains(stored.toUtf8()));
+        QTRY_VERIFY(!state()->isSyncing());
+    }
+
     void aCertificateIsTrustedByItsOwner()
     {
         const QSslConfiguration tls = selfSigned();
