@@ -38,7 +38,6 @@ CalDavSyncRun::~CalDavSyncRun() = default;
 
 void CalDavSyncRun::setCredentials(const QString &username, const QString &password, const QString &trustedCertSha256)
 {
-    m_username = username;
     m_session->client()->setCredentials(username, password);
     m_session->client()->setTrustedCertSha256(trustedCertSha256);
 }
@@ -193,11 +192,21 @@ void CalDavSyncRun::startPush(SyncTable *table, bool isForTasks, void (CalDavSyn
             return tr("Server returned HTTP %1 pushing \"%2\"").arg(QString::number(status), title);
         };
     }
-    const QStringList ownAddresses = m_username.contains(u'@') ? QStringList{ m_username } : QStringList();
-    m_push = new CalendarPush(m_session, table, std::exchange(m_texts, {}), ownAddresses, std::move(policy), this);
+    m_push = new CalendarPush(m_session, table, std::exchange(m_texts, {}), ownAddresses(), std::move(policy), this);
     connect(m_push, &CalendarPush::failed, this, &CalDavSyncRun::fail);
     connect(m_push, &CalendarPush::finished, this, next);
     m_push->start();
+}
+
+/// An invitation may have come to any account of the user's.
+QStringList CalDavSyncRun::ownAddresses() const
+{
+    QStringList addresses;
+    for (const Account &account : m_state->accounts()->getAll()) {
+        if (account.username.contains(u'@'))
+            addresses.append(account.username);
+    }
+    return addresses;
 }
 
 /// The user said that the calendar takes tasks, and the server says that it does not. The task must not fail for

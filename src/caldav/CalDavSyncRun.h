@@ -49,6 +49,7 @@ private:
     void onTasksPulled();
     void runTaskPush();
     void onTasksPushed();
+    [[nodiscard]] QStringList ownAddresses() const;
     bool rejectTask(const PendingResource &resource, int status);
     [[nodiscard]] std::optional<Calendar> homeForTasks() const;
 
@@ -60,7 +61,6 @@ private:
     AppState *m_state;
     Calendar m_calendar;
     CalDavSession *m_session;
-    QString m_username;
     std::unique_ptr<SyncTable> m_events;
     std::unique_ptr<SyncTable> m_tasks;
     CalendarPull *m_pull = nullptr; // of the step that is at work
