@@ -17,8 +17,8 @@ namespace CalDavRediscover {
 /// The row for a collection that is not known yet: a new id, the account, and what the server says of it. Not stored.
 Calendar newCalendar(const Account &account, const CalDavParse::DiscoveredCalendar &discovered);
 
-/// Inserts what is new and was not declined; a known calendar whose address changed (http to https, another host
-/// name) takes the new one. Returns the number of calendars inserted; 0 for an account that is not there.
+/// Inserts what is new and was neither declined nor removed; a known calendar whose address changed (http to https,
+/// another host name) takes the new one. Returns the number of calendars inserted; 0 for an account that is not there.
 int upsertDiscoveredCalendars(AppState *state, const QString &accountId,
                               const QList<CalDavParse::DiscoveredCalendar> &discovered);
 
