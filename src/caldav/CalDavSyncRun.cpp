@@ -81,7 +81,7 @@ void CalDavSyncRun::onEventsRefused(const QString &error, int status)
 void CalDavSyncRun::onEventsPulled()
 {
     m_count = m_pull->readCount();
-    m_texts = m_pull->takeTexts();
+    m_listing = m_pull->takeListing();
     if (m_pull->removedCount() > 0)
         qCInfo(caldavLog).noquote() << "[CalDav] Pull removed" << m_pull->removedCount()
                                     << "server-deleted event(s) for" << m_calendar.name;
@@ -148,7 +148,7 @@ void CalDavSyncRun::onTasksRefused(const QString &error, int status)
 void CalDavSyncRun::onTasksPulled()
 {
     m_count += m_pull->readCount();
-    m_texts = m_pull->takeTexts();
+    m_listing = m_pull->takeListing();
     if (m_pull->removedCount() > 0)
         qInfo().noquote() << "[CalDav] Task pull removed" << m_pull->removedCount() << "server-deleted task(s) for"
                           << m_calendar.name;
@@ -192,7 +192,7 @@ void CalDavSyncRun::startPush(SyncTable *table, bool isForTasks, void (CalDavSyn
             return tr("Server returned HTTP %1 pushing \"%2\"").arg(QString::number(status), title);
         };
     }
-    m_push = new CalendarPush(m_session, table, std::exchange(m_texts, {}), ownAddresses(), std::move(policy), this);
+    m_push = new CalendarPush(m_session, table, std::exchange(m_listing, {}), ownAddresses(), std::move(policy), this);
     connect(m_push, &CalendarPush::failed, this, &CalDavSyncRun::fail);
     connect(m_push, &CalendarPush::finished, this, next);
     m_push->start();

@@ -65,7 +65,7 @@ private:
     std::unique_ptr<SyncTable> m_tasks;
     CalendarPull *m_pull = nullptr; // of the step that is at work
     CalendarPush *m_push = nullptr;
-    CalendarPull::Texts m_texts;
+    CalendarPull::Listing m_listing;
     QString m_newCtag;
     int m_count = 0;
     bool m_hasEnded = false;

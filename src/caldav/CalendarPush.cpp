@@ -20,12 +20,12 @@ constexpr int PreconditionFailed = 412;
 
 }
 
-CalendarPush::CalendarPush(CalDavSession *session, SyncTable *table, CalendarPull::Texts texts,
+CalendarPush::CalendarPush(CalDavSession *session, SyncTable *table, CalendarPull::Listing listing,
                            const QStringList &ownAddresses, Policy policy, QObject *parent)
     : QObject(parent)
     , m_session(session)
     , m_table(table)
-    , m_texts(std::move(texts))
+    , m_listing(std::move(listing))
     , m_ownAddresses(ownAddresses)
     , m_policy(std::move(policy))
 {
@@ -94,8 +94,8 @@ void CalendarPush::prepare()
     }
     if (m_current->href.isEmpty())
         return send({});
-    const auto text = m_texts.constFind(m_current->href);
-    if (text != m_texts.cend())
+    const auto text = m_listing.texts.constFind(m_current->href);
+    if (text != m_listing.texts.cend())
         return send(*text);
     if (!m_current->isDeletion)
         return fetchText();
@@ -189,7 +189,7 @@ void CalendarPush::onAnswer(const CalDavClient::Response &response)
                                        << response.error;
         return emit failed(m_policy.networkMessage(response.error));
     }
-    const auto verdict = m_kind == Kind::Delete ? PushVerdict::ofDelete(response, m_texts.contains(m_href))
+    const auto verdict = m_kind == Kind::Delete ? PushVerdict::ofDelete(response, m_listing.addresses.contains(m_href))
                                                 : PushVerdict::ofPut(response);
     m_newEtag = CalDavPath::etagFromHeader(response.header("ETag"));
     if (verdict == PushVerdict::Accepted)

@@ -31,8 +31,8 @@ public:
         std::function<QString(int status, const QString &title)> statusMessage;
     };
 
-    CalendarPush(CalDavSession *session, SyncTable *table, CalendarPull::Texts texts, const QStringList &ownAddresses,
-                 Policy policy, QObject *parent);
+    CalendarPush(CalDavSession *session, SyncTable *table, CalendarPull::Listing listing,
+                 const QStringList &ownAddresses, Policy policy, QObject *parent);
 
     void start();
 
@@ -66,7 +66,7 @@ private:
 
     CalDavSession *m_session;
     SyncTable *m_table;
-    CalendarPull::Texts m_texts;
+    CalendarPull::Listing m_listing; // of this run
     QStringList m_ownAddresses;
     Policy m_policy;
     QList<PendingRow> m_queue; // one of each resource

@@ -115,6 +115,13 @@ private slots:
         QCOMPARE(m_phone->sync(), QString());
         QVERIFY(m_server->text("50%.ics").contains("SUMMARY:Late lunch"));
         QVERIFY(m_server->text("50%.ics").contains("PRODID:-//Phone//EN"));
+
+        // A deletion needs none, but to know what is there: 404 of that is no answer.
+        m_phone->removeEvent(u"b"_s);
+        m_server->fail(2, { .kind = FakeCalDav::Fault::Status, .status = 404 });
+        m_phone->sync();
+        QCOMPARE(m_phone->sync(), QString());
+        QVERIFY(!m_server->objects().contains("50%.ics"));
     }
 
     void pushesOnlyWhatChanged()
