@@ -246,6 +246,7 @@ bool CalendarPush::isStored(const CalDavClient::Response &response) const
 
 void CalendarPush::onAccepted()
 {
+    m_listing.texts.remove(m_href); // of another UID that shares the address, the text is another one now
     if (m_kind != Kind::Delete)
         m_current->accepted(m_href, m_newEtag);
     else if (!m_current->deleted())
