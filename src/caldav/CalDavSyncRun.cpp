@@ -180,7 +180,7 @@ void CalDavSyncRun::startPush(SyncTable *table, bool isForTasks, void (CalDavSyn
 {
     CalendarPush::Policy policy;
     if (isForTasks) {
-        policy.retriesWithoutIfMatch = true;
+        policy.isForTasks = true;
         policy.onRefusal = std::bind_front(&CalDavSyncRun::rejectTask, this);
         policy.networkMessage = [](const QString &error) { return tr("Task push error: %1").arg(error); };
         policy.statusMessage = [](int status, const QString &title) {

@@ -92,6 +92,7 @@ private:
     Texts m_texts;
     size_t m_nextToReconcile = 0;
     int m_resourceCount = 0;
+    int m_fetchedCount = 0; // by a multiget
     int m_readCount = 0;
     int m_announced = 0;
     int m_writtenCount = 0;

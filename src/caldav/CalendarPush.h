@@ -24,7 +24,7 @@ class CalendarPush : public QObject {
 public:
     /// What an answer may mean beside the usual.
     struct Policy {
-        bool retriesWithoutIfMatch = false; ///< overwrite the server's copy on 412, once
+        bool isForTasks = false; ///< they overwrite the server's copy on 412, once
         /// True if it dealt with a refusal: the resource is done with.
         std::function<bool(const PendingResource &resource, int status)> onRefusal;
         std::function<QString(const QString &error)> networkMessage;
@@ -48,6 +48,10 @@ private:
     void pushNext();
     [[nodiscard]] std::unique_ptr<PendingResource> openNext();
     void pushNextSoon();
+    void logQueue() const;
+    void logCurrent() const;
+    void logAnswer(const CalDavClient::Response &response) const;
+    [[nodiscard]] const char *kindName() const;
     void prepare();
     void fetchText();
     void onText(const CalDavClient::Response &response);

@@ -145,6 +145,7 @@ public:
         uid = first.uid;
         id = first.id;
         title = first.title;
+        status = first.status;
         href = commonHref(rows);
         isDeletion = m_changed.isEmpty() && m_others.isEmpty();
         hasSynced = !m_others.isEmpty();
