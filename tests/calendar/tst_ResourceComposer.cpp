@@ -568,7 +568,7 @@ private slots:
             "+X-QUILLON-REPEAT-MODE:fromCompletionDate\n+X-QUILLON-ITEM-TYPE:reminder"_s);
         change(
             "reminder", [](Task &t) { t.reminders[0].minutesBefore = 10; },
-            u"-DESCRIPTION:d\n-TRIGGER;RELATED=END:-PT30M\n+DESCRIPTION:Buy\n+TRIGGER;RELATED=END:-PT10M"_s);
+            u"-TRIGGER;RELATED=END:-PT30M\n+TRIGGER;RELATED=END:-PT10M"_s);
     }
     void tasksChangeOnlyTheLinesOfAChange()
     {
