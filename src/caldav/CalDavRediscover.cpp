@@ -172,7 +172,11 @@ int CalDavRediscover::upsertDiscoveredCalendars(AppState *state, const QString &
     QSet<QString> listed;
     for (const CalDavParse::DiscoveredCalendar &found : discovered)
         listed.insert(spelled(found.url));
-    const DeclinedAddresses declined(state, accountId);
+    DeclinedAddresses declined(state, accountId);
+    for (const Calendar &removed : state->calendars()->getDeleted()) {
+        if (removed.accountId == accountId)
+            declined.insert(removed.url);
+    }
     int inserted = 0;
     for (const CalDavParse::DiscoveredCalendar &found : discovered) {
         if (const Calendar *calendar = known.find(found.url, listed)) {

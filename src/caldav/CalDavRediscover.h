@@ -24,8 +24,8 @@ Calendar newCalendar(const Account &account, const CalDavParse::DiscoveredCalend
 std::optional<Calendar> knownCalendar(AppState *state, const QString &accountId, const QString &url,
                                       const QStringList &listedUrls);
 
-/// Inserts what is new and was not declined; a known calendar whose address changed (http to https, another host
-/// name) takes the new one. Returns the number of calendars inserted; 0 for an account that is not there.
+/// Inserts what is new and was neither declined nor removed; a known calendar whose address changed (http to https,
+/// another host name) takes the new one. Returns the number of calendars inserted; 0 for an account that is not there.
 int upsertDiscoveredCalendars(AppState *state, const QString &accountId,
                               const QList<CalDavParse::DiscoveredCalendar> &discovered);
 

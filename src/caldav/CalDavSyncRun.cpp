@@ -38,7 +38,6 @@ CalDavSyncRun::~CalDavSyncRun() = default;
 
 void CalDavSyncRun::setCredentials(const QString &username, const QString &password, const QString &trustedCertSha256)
 {
-    m_username = username;
     m_session->client()->setCredentials(username, password);
     m_session->client()->setTrustedCertSha256(trustedCertSha256);
 }
@@ -82,7 +81,7 @@ void CalDavSyncRun::onEventsRefused(const QString &error, int status)
 void CalDavSyncRun::onEventsPulled()
 {
     m_count = m_pull->readCount();
-    m_texts = m_pull->takeTexts();
+    m_listing = m_pull->takeListing();
     if (m_pull->removedCount() > 0)
         qCInfo(caldavLog).noquote() << "[CalDav] Pull removed" << m_pull->removedCount()
                                     << "server-deleted event(s) for" << m_calendar.name;
@@ -149,7 +148,7 @@ void CalDavSyncRun::onTasksRefused(const QString &error, int status)
 void CalDavSyncRun::onTasksPulled()
 {
     m_count += m_pull->readCount();
-    m_texts = m_pull->takeTexts();
+    m_listing = m_pull->takeListing();
     if (m_pull->removedCount() > 0)
         qInfo().noquote() << "[CalDav] Task pull removed" << m_pull->removedCount() << "server-deleted task(s) for"
                           << m_calendar.name;
@@ -181,7 +180,7 @@ void CalDavSyncRun::startPush(SyncTable *table, bool isForTasks, void (CalDavSyn
 {
     CalendarPush::Policy policy;
     if (isForTasks) {
-        policy.retriesWithoutIfMatch = true;
+        policy.isForTasks = true;
         policy.onRefusal = std::bind_front(&CalDavSyncRun::rejectTask, this);
         policy.networkMessage = [](const QString &error) { return tr("Task push error: %1").arg(error); };
         policy.statusMessage = [](int status, const QString &title) {
@@ -193,11 +192,21 @@ void CalDavSyncRun::startPush(SyncTable *table, bool isForTasks, void (CalDavSyn
             return tr("Server returned HTTP %1 pushing \"%2\"").arg(QString::number(status), title);
         };
     }
-    const QStringList ownAddresses = m_username.contains(u'@') ? QStringList{ m_username } : QStringList();
-    m_push = new CalendarPush(m_session, table, std::exchange(m_texts, {}), ownAddresses, std::move(policy), this);
+    m_push = new CalendarPush(m_session, table, std::exchange(m_listing, {}), ownAddresses(), std::move(policy), this);
     connect(m_push, &CalendarPush::failed, this, &CalDavSyncRun::fail);
     connect(m_push, &CalendarPush::finished, this, next);
     m_push->start();
+}
+
+/// An invitation may have come to any account of the user's.
+QStringList CalDavSyncRun::ownAddresses() const
+{
+    QStringList addresses;
+    for (const Account &account : m_state->accounts()->getAll()) {
+        if (account.username.contains(u'@'))
+            addresses.append(account.username);
+    }
+    return addresses;
 }
 
 /// The user said that the calendar takes tasks, and the server says that it does not. The task must not fail for

@@ -49,6 +49,7 @@ private:
     void onTasksPulled();
     void runTaskPush();
     void onTasksPushed();
+    [[nodiscard]] QStringList ownAddresses() const;
     bool rejectTask(const PendingResource &resource, int status);
     [[nodiscard]] std::optional<Calendar> homeForTasks() const;
 
@@ -60,12 +61,11 @@ private:
     AppState *m_state;
     Calendar m_calendar;
     CalDavSession *m_session;
-    QString m_username;
     std::unique_ptr<SyncTable> m_events;
     std::unique_ptr<SyncTable> m_tasks;
     CalendarPull *m_pull = nullptr; // of the step that is at work
     CalendarPush *m_push = nullptr;
-    CalendarPull::Texts m_texts;
+    CalendarPull::Listing m_listing;
     QString m_newCtag;
     int m_count = 0;
     bool m_hasEnded = false;

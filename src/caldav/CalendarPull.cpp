@@ -134,6 +134,8 @@ void CalendarPull::storeNext()
         else
             takeListed(resource);
     }
+    if (m_isMultiget)
+        m_fetchedCount += int(resources.size());
     if (!m_reader->atEnd())
         return;
     if (m_isMultiget)
@@ -170,6 +172,7 @@ void CalendarPull::finishMultiget()
 {
     m_reader.reset();
     m_phase = Phase::Reconcile;
+    qCDebug(caldavLog) << "[CalDav] multiget filled" << m_fetchedCount << "of" << m_resourceCount << "resources";
     for (auto missing = m_missing.cbegin(); missing != m_missing.cend(); ++missing)
         qCWarning(caldavLog).noquote() << "[CalDav] still missing body for href" << missing.key();
 }

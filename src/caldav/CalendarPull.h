@@ -28,6 +28,10 @@ public:
     };
     /// Texts of the server's resources over which local changes wait, by address.
     using Texts = QHash<QString, CalDavParse::EventResource>;
+    struct Listing {
+        Texts texts;
+        QSet<QString> addresses; ///< of all that is there
+    };
 
     CalendarPull(CalDavSession *session, SyncTable *table, const QString &component, MissingText missingText,
                  QObject *parent);
@@ -39,7 +43,7 @@ public:
     [[nodiscard]] int removedCount() const { return m_removedCount; }
     [[nodiscard]] int resourceCount() const { return m_resourceCount; }
     [[nodiscard]] int missingCount() const { return int(m_missing.size()); } ///< resources whose text is not known
-    [[nodiscard]] Texts takeTexts() { return std::move(m_texts); }
+    [[nodiscard]] Listing takeListing() { return { .texts = std::move(m_texts), .addresses = std::move(m_listed) }; }
     /// Why the listing cannot be trusted to be whole; empty if it can. What arrived is stored all the same.
     [[nodiscard]] QString shortfall() const { return m_shortfall; }
 
@@ -88,6 +92,7 @@ private:
     Texts m_texts;
     size_t m_nextToReconcile = 0;
     int m_resourceCount = 0;
+    int m_fetchedCount = 0; // by a multiget
     int m_readCount = 0;
     int m_announced = 0;
     int m_writtenCount = 0;

@@ -18,14 +18,19 @@ namespace {
 constexpr int RowsPerStep = 1000;
 constexpr int PreconditionFailed = 412;
 
+QString orEmpty(const QString &text)
+{
+    return text.isEmpty() ? QStringLiteral("(empty)") : text;
 }
 
-CalendarPush::CalendarPush(CalDavSession *session, SyncTable *table, CalendarPull::Texts texts,
+}
+
+CalendarPush::CalendarPush(CalDavSession *session, SyncTable *table, CalendarPull::Listing listing,
                            const QStringList &ownAddresses, Policy policy, QObject *parent)
     : QObject(parent)
     , m_session(session)
     , m_table(table)
-    , m_texts(std::move(texts))
+    , m_listing(std::move(listing))
     , m_ownAddresses(ownAddresses)
     , m_policy(std::move(policy))
 {
@@ -46,10 +51,46 @@ void CalendarPush::start()
         return;
     }
     std::ranges::stable_sort(m_queue, {}, &PendingRow::rank);
-    if (!m_queue.isEmpty())
-        qCDebug(caldavLog).noquote() << "[CalDav] Push for" << m_session->calendarName()
-                                     << "pending=" << m_queue.size();
+    logQueue();
     pushNextSoon();
+}
+
+void CalendarPush::logQueue() const
+{
+    if (m_queue.isEmpty())
+        return;
+    const QString &name = m_session->calendarName();
+    if (m_policy.isForTasks)
+        qInfo().noquote() << "[CalDav] Task push for" << name << "pending=" << m_queue.size();
+    else
+        qCDebug(caldavLog).noquote() << "[CalDav] Event push for" << name << "pending=" << m_queue.size();
+}
+
+void CalendarPush::logCurrent() const
+{
+    const PendingResource &row = *m_current;
+    if (m_policy.isForTasks)
+        qInfo().noquote() << "[CalDav] PUT task" << row.title << "status=" << row.status
+                          << "isCreate=" << (!row.isDeletion && row.href.isEmpty()) << "isDelete=" << row.isDeletion
+                          << "etag=" << orEmpty(row.etag);
+    else
+        qCDebug(caldavLog).noquote() << "  -" << row.title << "id=" << row.id << "uid=" << row.uid
+                                     << "deletedAt=" << (row.isDeletion ? "yes" : "no") << "href=" << orEmpty(row.href);
+}
+
+const char *CalendarPush::kindName() const
+{
+    static constexpr const char *names[] = { "(create)", "(update)", "(delete)" };
+    return names[int(m_kind)];
+}
+
+void CalendarPush::logAnswer(const CalDavClient::Response &response) const
+{
+    if (m_policy.isForTasks)
+        qInfo().noquote() << "[CalDav] PUT task" << m_current->title << "→ HTTP" << response.status << response.error;
+    else
+        qCDebug(caldavLog).noquote() << "[CalDav] Push response for" << m_current->title << "→ HTTP" << response.status
+                                     << "err=" << response.error << kindName();
 }
 
 // From the event loop: a thousand rows that need no request must neither hold it nor fill the stack.
@@ -69,6 +110,7 @@ void CalendarPush::pushNext()
     if (!m_current)
         return pushNextSoon();
     m_hasRetried = false;
+    logCurrent();
     prepare();
 }
 
@@ -88,14 +130,17 @@ std::unique_ptr<PendingResource> CalendarPush::openNext()
 void CalendarPush::prepare()
 {
     if (m_current->isDeletion && m_current->href.isEmpty()) {
-        qCDebug(caldavLog).noquote() << "[CalDav] Local-only delete skip-push for" << m_current->title;
+        if (m_policy.isForTasks)
+            qInfo().noquote() << "[CalDav] Local-only task delete skip-push for" << m_current->title;
+        else
+            qCDebug(caldavLog).noquote() << "[CalDav] Local-only delete skip-push for" << m_current->title;
         m_current->deleted();
         return pushNextSoon();
     }
     if (m_current->href.isEmpty())
         return send({});
-    const auto text = m_texts.constFind(m_current->href);
-    if (text != m_texts.cend())
+    const auto text = m_listing.texts.constFind(m_current->href);
+    if (text != m_listing.texts.cend())
         return send(*text);
     if (!m_current->isDeletion)
         return fetchText();
@@ -180,26 +225,21 @@ void CalendarPush::sendDeletion(const std::optional<QString> &etag)
 
 void CalendarPush::onAnswer(const CalDavClient::Response &response)
 {
-    static constexpr const char *kinds[] = { "(create)", "(update)", "(delete)" };
-    const char *kind = kinds[int(m_kind)];
-    qCDebug(caldavLog).noquote() << "[CalDav] Push response for" << m_current->title << "→ HTTP" << response.status
-                                 << "err=" << response.error << kind;
+    logAnswer(response);
     if (!response.error.isEmpty()) {
         qCWarning(caldavLog).noquote() << "[CalDav] Push network error for" << m_current->title << ":"
                                        << response.error;
         return emit failed(m_policy.networkMessage(response.error));
     }
-    const auto verdict = m_kind == Kind::Delete ? PushVerdict::ofDelete(response, m_texts.contains(m_href))
+    const auto verdict = m_kind == Kind::Delete ? PushVerdict::ofDelete(response, m_listing.addresses.contains(m_href))
                                                 : PushVerdict::ofPut(response);
     m_newEtag = CalDavPath::etagFromHeader(response.header("ETag"));
     if (verdict == PushVerdict::Accepted)
         return onAccepted();
     if (verdict == PushVerdict::Doubtful)
         return lookAgain(response.status);
-    if (response.status == PreconditionFailed && m_policy.retriesWithoutIfMatch && !m_hasRetried
-        && m_kind != Kind::Create) {
-        qCInfo(caldavLog).noquote() << "[CalDav] Task push 412 for" << m_current->title
-                                    << "- retrying without If-Match";
+    if (response.status == PreconditionFailed && m_policy.isForTasks && !m_hasRetried && m_kind != Kind::Create) {
+        qInfo().noquote() << "[CalDav] Task push 412 for" << m_current->title << "- retrying without If-Match";
         m_hasRetried = true;
         if (m_kind == Kind::Delete)
             sendDeletion(std::nullopt);
@@ -207,7 +247,8 @@ void CalendarPush::onAnswer(const CalDavClient::Response &response)
             sendText(std::nullopt);
         return;
     }
-    qCWarning(caldavLog).noquote() << "[CalDav] Push HTTP" << response.status << "for" << m_current->title << kind;
+    qCWarning(caldavLog).noquote() << "[CalDav] Push HTTP" << response.status << "for" << m_current->title
+                                   << kindName();
     refuse(response.status);
 }
 
@@ -246,6 +287,7 @@ bool CalendarPush::isStored(const CalDavClient::Response &response) const
 
 void CalendarPush::onAccepted()
 {
+    m_listing.texts.remove(m_href); // of another UID that shares the address, the text is another one now
     if (m_kind != Kind::Delete)
         m_current->accepted(m_href, m_newEtag);
     else if (!m_current->deleted())

@@ -24,15 +24,15 @@ class CalendarPush : public QObject {
 public:
     /// What an answer may mean beside the usual.
     struct Policy {
-        bool retriesWithoutIfMatch = false; ///< overwrite the server's copy on 412, once
+        bool isForTasks = false; ///< they overwrite the server's copy on 412, once
         /// True if it dealt with a refusal: the resource is done with.
         std::function<bool(const PendingResource &resource, int status)> onRefusal;
         std::function<QString(const QString &error)> networkMessage;
         std::function<QString(int status, const QString &title)> statusMessage;
     };
 
-    CalendarPush(CalDavSession *session, SyncTable *table, CalendarPull::Texts texts, const QStringList &ownAddresses,
-                 Policy policy, QObject *parent);
+    CalendarPush(CalDavSession *session, SyncTable *table, CalendarPull::Listing listing,
+                 const QStringList &ownAddresses, Policy policy, QObject *parent);
 
     void start();
 
@@ -48,6 +48,10 @@ private:
     void pushNext();
     [[nodiscard]] std::unique_ptr<PendingResource> openNext();
     void pushNextSoon();
+    void logQueue() const;
+    void logCurrent() const;
+    void logAnswer(const CalDavClient::Response &response) const;
+    [[nodiscard]] const char *kindName() const;
     void prepare();
     void fetchText();
     void onText(const CalDavClient::Response &response);
@@ -66,7 +70,7 @@ private:
 
     CalDavSession *m_session;
     SyncTable *m_table;
-    CalendarPull::Texts m_texts;
+    CalendarPull::Listing m_listing; // of this run
     QStringList m_ownAddresses;
     Policy m_policy;
     QList<PendingRow> m_queue; // one of each resource

@@ -12,7 +12,8 @@ enum Verdict {
     Doubtful, ///< look whether the resource is as it should be
 };
 
-/// Certain when there is an etag and no page beside it. 207 tells of single failures, RFC 4918 §9.6.1.
+/// Certain without a page beside it, when the status or an etag tells of a resource. 207 tells of single failures,
+/// RFC 4918 §9.6.1.
 Verdict ofPut(const CalDavClient::Response &response);
 /// A resource that is not there is deleted; \p wasListed: it was there a moment ago.
 Verdict ofDelete(const CalDavClient::Response &response, bool wasListed);

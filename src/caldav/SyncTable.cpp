@@ -46,6 +46,22 @@ struct Events {
         event.color = stored.color;
         event.providerEventId = stored.providerEventId;
     }
+    /// The answers of others, which are the server's to tell. False if \p event has them all.
+    static bool takeAnswers(Event &event, const Event &sent)
+    {
+        bool hasTaken = false;
+        for (Attendee &attendee : event.attendees) {
+            const auto told = std::ranges::find_if(sent.attendees, [&attendee](const Attendee &other) {
+                return other.email.compare(attendee.email, Qt::CaseInsensitive) == 0;
+            });
+            if (told == sent.attendees.end() || told->status == attendee.status)
+                continue;
+            attendee.status = told->status;
+            attendee.rsvp = told->rsvp;
+            hasTaken = true;
+        }
+        return hasTaken;
+    }
 };
 
 struct Tasks {
@@ -77,6 +93,7 @@ struct Tasks {
         if (task.color.isEmpty())
             task.color = stored.color;
     }
+    static bool takeAnswers(Task &, const Task &) { return false; }
 };
 
 template <typename Record> bool isPending(const Record &record)
@@ -128,6 +145,7 @@ public:
         uid = first.uid;
         id = first.id;
         title = first.title;
+        status = first.status;
         href = commonHref(rows);
         isDeletion = m_changed.isEmpty() && m_others.isEmpty();
         hasSynced = !m_others.isEmpty();
@@ -246,16 +264,19 @@ private:
 
     void acceptRow(const Record &row, const QList<Record> &sent, const QString &newHref, const QString &newEtag)
     {
-        const auto stored = storedRow(row);
+        auto stored = storedRow(row);
         if (!stored)
             return;
         const Record *text = findIn(sent, row);
-        if (!text || contentOf(*stored) != contentOf(row))
+        if (!text || contentOf(*stored) != contentOf(row)) {
             m_kind.repository->setAddress(row.id, newHref, newEtag);
-        else
-            m_kind.repository->markPushed(
-                row.id,
-                { .href = newHref, .etag = newEtag, .rawIcalendar = text->rawIcalendar, .sequence = text->sequence });
+            return;
+        }
+        if (Kind::takeAnswers(*stored, *text))
+            m_kind.repository->update(*stored);
+        m_kind.repository->markPushed(
+            row.id,
+            { .href = newHref, .etag = newEtag, .rawIcalendar = text->rawIcalendar, .sequence = text->sequence });
     }
 
     Database *m_database;

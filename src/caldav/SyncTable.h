@@ -22,6 +22,7 @@ public:
     QString uid;
     QString id; ///< of the row that gives the title
     QString title;
+    QString status; ///< as EventStatus or TaskStatus
     QString href; ///< empty: not on the server yet
     QString etag;
     bool isDeletion = false; ///< no live row of it is left

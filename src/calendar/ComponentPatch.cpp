@@ -138,23 +138,34 @@ void ComponentPatch::setAlarms(TreeComponent &component, std::vector<TreeCompone
                                bool canAdd, qsizetype limit)
 {
     qsizetype count = 0;
-    component.removeComponents([&](const TreeComponent &present) {
-        const std::optional<ReminderKey> key = reminderKey(present, read);
-        if (!present.is("VALARM") || !key || count++ >= limit)
-            return false;
+    std::vector<TreeComponent *> others;
+    for (TreeComponent *present : component.components("VALARM")) {
+        const std::optional<ReminderKey> key = reminderKey(*present, read);
+        if (!key || count++ >= limit)
+            continue;
         const auto match =
             std::ranges::find_if(wanted, [&](const TreeComponent &alarm) { return reminderKey(alarm, read) == key; });
         if (match == wanted.end())
-            return true;
-        wanted.erase(match);
-        return false;
-    });
-    if (!canAdd)
-        return;
-    for (TreeComponent &missing : wanted) {
-        if (reminderKey(missing, read)) // else it would be missing again the next time
-            component.addComponent(std::move(missing));
+            others.push_back(present);
+        else
+            wanted.erase(match);
     }
+    // One that would not be read would be missing again the next time.
+    std::erase_if(wanted, [&](const TreeComponent &alarm) { return !canAdd || !reminderKey(alarm, read); });
+    std::erase_if(others, [&](TreeComponent *present) {
+        const QString action = reminderKey(*present, read)->second;
+        const auto moved = std::ranges::find_if(
+            wanted, [&](const TreeComponent &alarm) { return reminderKey(alarm, read)->second == action; });
+        if (moved == wanted.end())
+            return false;
+        present->setLine(moved->lastLine("TRIGGER")->text());
+        wanted.erase(moved);
+        return true;
+    });
+    component.removeComponents(
+        [&others](const TreeComponent &present) { return std::ranges::find(others, &present) != others.end(); });
+    for (TreeComponent &missing : wanted)
+        component.addComponent(std::move(missing));
 }
 
 TreeComponent ComponentPatch::alarm(const Reminder &reminder, const QByteArray &trigger, const QString &text)

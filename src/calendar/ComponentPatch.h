@@ -40,7 +40,7 @@ void setParent(ICal::TreeComponent &component, Parent which, const QString &befo
 
 using ReadReminder = std::optional<Reminder> (ICal::Alarm::*)() const;
 /// Makes the alarms that \p read understands, up to the \p limit that it stops at, those in \p wanted: what is in both
-/// stays. Without \p canAdd none comes.
+/// stays, and what is only at another time keeps all else. Without \p canAdd none comes.
 void setAlarms(ICal::TreeComponent &component, std::vector<ICal::TreeComponent> wanted, ReadReminder read,
                bool canAdd = true, qsizetype limit = std::numeric_limits<qsizetype>::max());
 /// \p trigger is the property's name with its parameters.

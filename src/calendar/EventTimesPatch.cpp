@@ -125,7 +125,9 @@ void EventTimesPatch::patchStart()
     DateTimeReader reader;
     const auto [value, isDate] = reader.read(line.value(), tzid);
     const QString zone = tzid.isEmpty() ? Event().timezone : reader.zoneName(tzid);
-    const bool isSame = old && isDate == m_before.isAllDay && isSameTime(value, m_before.startTime, isDate)
+    // A move that was made in the text leaves a date beside the new time: others may read the former.
+    const bool isAlone = m_vevent.lines("DTSTART").size() == 1;
+    const bool isSame = isAlone && isDate == m_before.isAllDay && isSameTime(value, m_before.startTime, isDate)
         && (isDate || zone == m_before.timezone);
     if (isSame)
         return;

@@ -41,6 +41,18 @@ QByteArrayView withoutLineBreak(QByteArrayView line)
     return line.endsWith('\r') ? line.chopped(1) : line;
 }
 
+bool isFolded(QByteArrayView bytes)
+{
+    for (qsizetype from = 0; from < bytes.size();) {
+        const qsizetype end = bytes.indexOf('\n', from);
+        const qsizetype next = end < 0 ? bytes.size() : end + 1;
+        if (withoutLineBreak(bytes.sliced(from, next - from)).size() > MaxLineBytes)
+            return false;
+        from = next;
+    }
+    return true;
+}
+
 /// "X:value" and "X;parameter:value" are called X.
 QByteArrayView nameOf(const QByteArray &line)
 {
@@ -56,7 +68,7 @@ TreeLine::TreeLine(QByteArray text)
 
 TreeLine::TreeLine(QByteArrayView text, QByteArrayView bytes)
     : m_text(text.toByteArray())
-    , m_bytes(withoutLineBreak(bytes).toByteArray())
+    , m_bytes(isFolded(bytes) ? withoutLineBreak(bytes).toByteArray() : QByteArray())
 {
 }
 

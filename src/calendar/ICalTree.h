@@ -18,19 +18,19 @@ class TreeLine {
 public:
     /// A line written here, unfolded. It must hold no line break.
     explicit TreeLine(QByteArray text);
-    /// A line of a text: without its folds, and as it stands there.
+    /// A line of a text: without its folds, and as it stands there unless it is too long for a line.
     TreeLine(QByteArrayView text, QByteArrayView bytes);
 
     [[nodiscard]] const QByteArray &text() const { return m_text; } ///< unfolded
     [[nodiscard]] ContentLine content() const { return ContentLine(m_text); } ///< of this line; not to outlive it
-    /// Folded at 75 octets if it was written here; ends in CRLF.
+    /// Folded at 75 octets; ends in CRLF.
     void appendTo(QByteArray &out) const;
     /// Gives up the folds that it came with.
     void refold() { m_bytes.clear(); }
 
 private:
     QByteArray m_text;
-    QByteArray m_bytes; // empty for a line that was written here
+    QByteArray m_bytes; // with its folds; empty if it is to be folded here
 };
 
 /// A component: lines and further components, in order.

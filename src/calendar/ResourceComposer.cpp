@@ -293,6 +293,7 @@ int firstYear(const Task &task)
 TreeComponent newTask(ResourceText &resource, const Task &task, Task &before)
 {
     TreeComponent vtodo = started("VTODO", task.uid, task.created);
+    vtodo.addLine("STATUS:NEEDS-ACTION"); // what a task says of itself without it, to us; others may want it said
     for (TreeComponent &stored : resource.stored(task.rawIcalendar, "VTODO")) {
         if (uidOf(stored) != uidKey(task.uid))
             continue;

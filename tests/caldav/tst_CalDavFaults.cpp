@@ -95,6 +95,7 @@ private slots:
         SyncWorld world;
         world.server.givesEtagOnPut = false;
         QCOMPARE(world.device.sync(), QString());
+        QCOMPARE(world.server.count("GET"), 0);
         QCOMPARE(world.device.sync(), QString());
         QCOMPARE(world.differences(), QStringList());
         const int writes = world.device.writes();

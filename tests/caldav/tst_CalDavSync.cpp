@@ -115,6 +115,13 @@ private slots:
         QCOMPARE(m_phone->sync(), QString());
         QVERIFY(m_server->text("50%.ics").contains("SUMMARY:Late lunch"));
         QVERIFY(m_server->text("50%.ics").contains("PRODID:-//Phone//EN"));
+
+        // A deletion needs none, but to know what is there: 404 of that is no answer.
+        m_phone->removeEvent(u"b"_s);
+        m_server->fail(2, { .kind = FakeCalDav::Fault::Status, .status = 404 });
+        m_phone->sync();
+        QCOMPARE(m_phone->sync(), QString());
+        QVERIFY(!m_server->objects().contains("50%.ics"));
     }
 
     void pushesOnlyWhatChanged()
@@ -145,7 +152,8 @@ private slots:
         const QByteArray task = m_server->text("t.ics");
         QVERIFY(task.contains("STATUS:COMPLETED\r\n") && task.contains("X-PHONE-COLOR:7\r\n"));
         QCOMPARE(m_server->objects().size(), 4);
-        QVERIFY(m_server->text("new-task.ics").contains("SUMMARY:Buy milk"));
+        QVERIFY(m_server->text("new-task.ics").contains("SUMMARY:Buy milk\r\n"));
+        QVERIFY(m_server->text("new-task.ics").contains("STATUS:NEEDS-ACTION\r\n"));
 
         const int writes = m_phone->writes();
         const int puts = m_server->count("PUT");
@@ -156,12 +164,15 @@ private slots:
 
     void anEditHereWinsOverOneThere()
     {
-        m_server->store("a.ics", calendarText(eventText("a", "Standup")));
+        m_server->store("a.ics", calendarText(eventText("a", "Standup", "ATTENDEE:mailto:bo@x.org\r\n")));
         QCOMPARE(m_phone->sync(), QString());
         m_phone->edit(u"a"_s, [](Event &event) { event.title = u"Mine"_s; });
-        m_server->store("a.ics", calendarText(eventText("a", "Theirs", Foreign)));
+        m_server->store(
+            "a.ics",
+            calendarText(eventText("a", "Theirs", Foreign + "ATTENDEE;PARTSTAT=ACCEPTED:mailto:bo@x.org\r\n"_ba)));
         QCOMPARE(m_phone->sync(), QString());
         QCOMPARE(m_phone->event(u"a"_s).title, u"Mine"_s);
+        QCOMPARE(m_phone->event(u"a"_s).attendees.value(0).status, u"accepted"_s);
         QVERIFY(m_server->text("a.ics").contains("SUMMARY:Mine"));
         QVERIFY(m_server->text("a.ics").contains("X-PHONE-COLOR:7"));
     }

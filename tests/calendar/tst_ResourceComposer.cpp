@@ -483,10 +483,13 @@ private slots:
                                         "BEGIN:VCALENDAR\r\n"_ba.repeated(100'000) })
             verifySettled(compose(text, { row }), { row });
         const QByteArray odd = "\xEF\xBB\xBF"
-                               "BEGIN:VCALENDAR\nBEGIN:VEVENT\nUID:new\nX-A:\xFF\n \xC3\nDTSTART:20260302T090000Z\n"
-                               "DTEND:20260302T100000Z\n\nSUMMARY:U\nEND:VEVENT\nEND:VCALENDAR";
+                               "BEGIN:VCALENDAR\nBEGIN:VEVENT\nUID:new\nX-A:\xFF\n \xC3\nDTSTART;VALUE=DATE:20260301\n"
+                               "DTSTART:20260302T090000Z\nX-LONG:"
+            + QByteArray(99, 'x')
+            + "\n"
+              "DTEND:20260302T100000Z\n\nSUMMARY:U\nEND:VEVENT\nEND:VCALENDAR";
         const Composed composed = compose(odd, { row });
-        QVERIFY(composed.text.contains("\r\nX-A:\xFF\r\n \xC3\r\nDTSTART"));
+        QVERIFY(composed.text.contains("\r\nX-A:\xFF\r\n \xC3\r\nDTSTART:20260302T090000Z\r\nX-LONG:xxx"));
         verifySettled(composed, { row });
         Event broken;
         broken.uid = u"b\r\nBEGIN:VALARM"_s;
@@ -567,7 +570,7 @@ private slots:
             "+X-QUILLON-REPEAT-MODE:fromCompletionDate\n+X-QUILLON-ITEM-TYPE:reminder"_s);
         change(
             "reminder", [](Task &t) { t.reminders[0].minutesBefore = 10; },
-            u"-DESCRIPTION:d\n-TRIGGER;RELATED=END:-PT30M\n+DESCRIPTION:Buy\n+TRIGGER;RELATED=END:-PT10M"_s);
+            u"-TRIGGER;RELATED=END:-PT30M\n+TRIGGER;RELATED=END:-PT10M"_s);
     }
     void tasksChangeOnlyTheLinesOfAChange()
     {
