@@ -95,11 +95,12 @@ QString errorText(const QNetworkReply &reply)
     return reply.errorString();
 }
 
-CalDavClient::Response readResponse(QNetworkReply *reply, const QByteArray &begunBody)
+CalDavClient::Response readResponse(QNetworkReply *reply, QByteArray begunBody)
 {
     CalDavClient::Response response;
     response.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    response.body = begunBody + reply->readAll();
+    response.body = std::move(begunBody);
+    response.body += reply->readAll();
     for (const auto &[name, value] : reply->rawHeaderPairs())
         response.headers.insert(name, value);
     if (reply->error() != QNetworkReply::NoError && response.status == 0)
@@ -312,11 +313,9 @@ QNetworkReply *CalDavClient::sendRaw(const Request &request)
 
 void CalDavClient::onFinished(QNetworkReply *reply, const Request &request)
 {
-    const auto inFlight = m_inFlight.constFind(reply);
-    if (inFlight == m_inFlight.cend())
+    if (!m_inFlight.contains(reply))
         return;
-    const Response response = readResponse(reply, *inFlight);
-    m_inFlight.erase(inFlight);
+    const Response response = readResponse(reply, m_inFlight.take(reply));
     reply->deleteLater();
     const std::optional<QUrl> target = redirectTarget(response, request.url);
     if (!target || request.redirectsLeft == 0) {
