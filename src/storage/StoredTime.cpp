@@ -81,7 +81,7 @@ void appendOffset(QString &text, int seconds)
     appendPair(text, std::abs(seconds) / 60 % 60);
 }
 
-// Equal to toString(Qt::ISODate) where the offset is in whole minutes, in a twentieth of the time.
+// Equal to toString(Qt::ISODate) where the offset is in whole minutes, in a fifth of the instructions.
 QString isoText(const QDateTime &moment)
 {
     const QDate date = moment.date();
