@@ -95,11 +95,12 @@ QString errorText(const QNetworkReply &reply)
     return reply.errorString();
 }
 
-CalDavClient::Response readResponse(QNetworkReply *reply, const QByteArray &begunBody)
+CalDavClient::Response readResponse(QNetworkReply *reply, QByteArray begunBody)
 {
     CalDavClient::Response response;
     response.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    response.body = begunBody + reply->readAll();
+    response.body = std::move(begunBody);
+    response.body += reply->readAll();
     for (const auto &[name, value] : reply->rawHeaderPairs())
         response.headers.insert(name, value);
     if (reply->error() != QNetworkReply::NoError && response.status == 0)
@@ -312,12 +313,10 @@ QNetworkReply *CalDavClient::sendRaw(const Request &request)
 
 void CalDavClient::onFinished(QNetworkReply *reply, const Request &request)
 {
-    const auto inFlight = m_inFlight.constFind(reply);
-    if (inFlight == m_inFlight.cend())
+    if (!m_inFlight.contains(reply))
         return;
-    Response response = readResponse(reply, *inFlight);
+    Response response = readResponse(reply, m_inFlight.take(reply));
     response.url = request.url;
-    m_inFlight.erase(inFlight);
     reply->deleteLater();
     const std::optional<QUrl> target = redirectTarget(response, request.url);
     if (!target || request.redirectsLeft == 0) {

@@ -36,6 +36,8 @@ bool Database::open(const QString &path)
     query.exec(QStringLiteral("PRAGMA foreign_keys=ON"));
     // Each nested savepoint would else keep its journal in a file.
     query.exec(QStringLiteral("PRAGMA temp_store=MEMORY"));
+    // A slice of an import or a sync changes more pages than the usual 2 MB hold: what does not fit is written twice.
+    query.exec(QStringLiteral("PRAGMA cache_size=-8192"));
     m_isOpen = true;
     return true;
 }
