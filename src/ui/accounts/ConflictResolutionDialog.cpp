@@ -94,20 +94,15 @@ void ConflictResolutionDialog::buildPanels()
 
 void ConflictResolutionDialog::buildButtons()
 {
-    auto *row = new QHBoxLayout;
-    row->setSpacing(8);
-    const auto add = [this, row](const QString &text, void (ConflictResolutionDialog::*choose)()) {
-        auto *button = new QPushButton(text);
-        button->setAutoDefault(false);
+    // Not in the body, where long notes would scroll them away.
+    const auto add = [this](const QString &text, void (ConflictResolutionDialog::*choose)()) {
+        QPushButton *button = addSideButton(text);
         connect(button, &QPushButton::clicked, this, choose);
-        row->addWidget(button);
         m_choices.append(button);
     };
     add(tr("Keep local"), &ConflictResolutionDialog::onKeepLocal);
     add(tr("Use server version"), &ConflictResolutionDialog::onKeepServer);
     add(tr("Decide later"), &ConflictResolutionDialog::onSkip);
-    row->addStretch();
-    body()->addLayout(row);
 }
 
 void ConflictResolutionDialog::rebuildList()

@@ -69,17 +69,25 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         if (watched == widget() && event->type() == QEvent::LayoutRequest)
-            updateGeometry();
+            followContent();
         return QScrollArea::eventFilter(watched, event);
     }
 
     void resizeEvent(QResizeEvent *event) override
     {
         QScrollArea::resizeEvent(event);
-        updateGeometry(); // wrapped text needs another height for another width
+        followContent();
     }
 
 private:
+    /// Wrapped text needs another height for another width, of which a scroll area knows nothing: it would cut it.
+    void followContent()
+    {
+        const QLayout *layout = widget()->layout();
+        if (layout->hasHeightForWidth())
+            widget()->setMinimumHeight(layout->minimumHeightForWidth(viewport()->width()));
+        updateGeometry();
+    }
     /// The width of the content while nothing scrolls.
     [[nodiscard]] int fullWidth(QSize size) const { return qMax(qMax(size.width(), width()), minimumWidth()); }
     [[nodiscard]] QSize bounded(QSize size, int height, double screenShare) const
@@ -315,8 +323,10 @@ void FormDialog::growToFit()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     layout()->activate();
     // In height alone: what a wrapped text would like as width changes with every text.
-    const int missing = qMax(0, wantedHeight(m_body, m_area->width()) - m_area->height());
-    resize(QSize(width(), height() + missing).boundedTo(screen()->availableSize()));
+    const int highest = int(screen()->availableGeometry().height() * ScreenShare);
+    const int missing = qMin(wantedHeight(m_body, m_area->width()), highest) - m_area->height();
+    if (missing > 0)
+        resize(QSize(width(), height() + missing).boundedTo(screen()->availableSize()));
 }
 
 void FormDialog::setBusy(bool busy)
