@@ -13,6 +13,7 @@
 #include <QSslCertificate>
 #include <QSslConfiguration>
 #include <QSslError>
+#include <QTimer>
 
 #include <algorithm>
 #include <array>
@@ -24,6 +25,7 @@ constexpr int MaxRedirects = 5;
 // Qt takes an answer above this size for a bomb if it was packed 40 times smaller. Events that repeat the rules of
 // their time zone are.
 constexpr qint64 MaxSuspectBytes = 256 * 1024 * 1024;
+constexpr qint64 BytesPerStep = 256 * 1024;
 
 using Headers = QList<std::pair<QByteArray, QByteArray>>;
 
@@ -71,6 +73,13 @@ bool hasTransferError(const QNetworkReply &reply, int status)
     return status == 0 || error != QNetworkReply::NoError;
 }
 
+// "102 Processing" and the like come before the answer, and QNetworkAccessManager takes them for it. It would give the
+// answer itself to the next request on that connection.
+bool isInterim(int status)
+{
+    return status >= 100 && status < 200;
+}
+
 bool endsMultistatus(const QByteArray &body)
 {
     static const QRegularExpression end(
@@ -88,24 +97,21 @@ bool isCut(const CalDavClient::Response &response)
     return response.status == 207 && !endsMultistatus(response.body);
 }
 
-QString errorText(const QNetworkReply &reply)
+QString closedText()
 {
-    if (reply.error() == QNetworkReply::ContentReSendError)
-        return CalDavClient::tr("The connection was closed before the server answered.");
-    return reply.errorString();
+    return CalDavClient::tr("The connection was closed before the server answered.");
 }
 
-CalDavClient::Response readResponse(QNetworkReply *reply, QByteArray begunBody)
+CalDavClient::Response readResponse(const QNetworkReply &reply, QByteArray body)
 {
     CalDavClient::Response response;
-    response.status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    response.body = std::move(begunBody);
-    response.body += reply->readAll();
-    for (const auto &[name, value] : reply->rawHeaderPairs())
+    response.status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    response.body = std::move(body);
+    for (const auto &[name, value] : reply.rawHeaderPairs())
         response.headers.insert(name, value);
-    if (reply->error() != QNetworkReply::NoError && response.status == 0)
-        response.error = errorText(*reply);
-    response.isWhole = !hasTransferError(*reply, response.status) && !isCut(response);
+    if (reply.error() != QNetworkReply::NoError && response.status == 0)
+        response.error = reply.error() == QNetworkReply::ContentReSendError ? closedText() : reply.errorString();
+    response.isWhole = !hasTransferError(reply, response.status) && !isCut(response);
     return response;
 }
 
@@ -264,18 +270,30 @@ void CalDavClient::send(const Request &request)
 {
     QNetworkReply *reply = sendRaw(request);
     m_inFlight.insert(reply, {});
-    // As it comes: to unpack a large answer at once would hold the event loop.
-    connect(reply, &QNetworkReply::readyRead, this, [this, reply] {
-        if (const auto body = m_inFlight.find(reply); body != m_inFlight.end())
-            *body += reply->readAll();
-    });
+    auto *steps = new QTimer(reply);
+    connect(reply, &QNetworkReply::readyRead, steps, qOverload<>(&QTimer::start));
+    connect(reply, &QNetworkReply::finished, steps, qOverload<>(&QTimer::start));
+    connect(steps, &QTimer::timeout, this, [this, reply, steps, request] { readStep(reply, steps, request); });
     connect(reply, &QNetworkReply::metaDataChanged, this, &CalDavClient::heard);
     connect(reply, &QNetworkReply::downloadProgress, this, &CalDavClient::heard);
     connect(reply, &QNetworkReply::uploadProgress, this, &CalDavClient::sent);
-    // Queued, so that a continuation can delete the client, and the reply with it, outside of the reply's own code.
-    connect(
-        reply, &QNetworkReply::finished, this, [this, reply, request] { onFinished(reply, request); },
-        Qt::QueuedConnection);
+}
+
+/// An answer is unpacked as it is read. Twenty megabytes of events arrive within milliseconds when they are packed, and
+/// would hold the event loop if they were read at once.
+void CalDavClient::readStep(QNetworkReply *reply, QTimer *steps, const Request &request)
+{
+    const auto body = m_inFlight.find(reply);
+    const QByteArray data = body == m_inFlight.end() ? QByteArray() : reply->read(BytesPerStep);
+    if (!data.isEmpty()) {
+        *body += data;
+        return;
+    }
+    steps->stop();
+    // Queued, so that a continuation can delete the client, with the reply and its timer, outside of their own code.
+    if (reply->isFinished())
+        QMetaObject::invokeMethod(
+            this, [this, reply, request] { onFinished(reply, request); }, Qt::QueuedConnection);
 }
 
 QNetworkReply *CalDavClient::sendRaw(const Request &request)
@@ -292,7 +310,7 @@ QNetworkReply *CalDavClient::sendRaw(const Request &request)
         raw.setHeader(QNetworkRequest::ContentTypeHeader, QByteArrayLiteral("application/xml; charset=utf-8"));
         raw.setHeader(QNetworkRequest::ContentLengthHeader, request.body.size());
     }
-    // Between programs of one machine packing gains nothing, and an answer that arrives at once is unpacked at once.
+    // Between programs of one machine packing only takes time.
     if (isOnThisMachine(request.url))
         raw.setRawHeader("Accept-Encoding", "identity");
     if (const QByteArray auth = basicAuthHeader();
@@ -315,9 +333,14 @@ void CalDavClient::onFinished(QNetworkReply *reply, const Request &request)
 {
     if (!m_inFlight.contains(reply))
         return;
-    Response response = readResponse(reply, m_inFlight.take(reply));
-    response.url = request.url;
+    Response response = readResponse(*reply, m_inFlight.take(reply));
     reply->deleteLater();
+    if (isInterim(response.status)) {
+        m_manager->clearConnectionCache();
+        response = {};
+        response.error = closedText();
+    }
+    response.url = request.url;
     const std::optional<QUrl> target = redirectTarget(response, request.url);
     if (!target || request.redirectsLeft == 0) {
         request.callback(response);

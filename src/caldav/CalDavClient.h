@@ -14,6 +14,7 @@
 class QNetworkAccessManager;
 class QNetworkReply;
 class QSslError;
+class QTimer;
 
 /// The one place that speaks HTTP to a CalDAV server, for one account and the length of one job. No time-outs: those
 /// are the job's.
@@ -100,6 +101,7 @@ private:
     struct Request;
     void send(const Request &request);
     QNetworkReply *sendRaw(const Request &request);
+    void readStep(QNetworkReply *reply, QTimer *steps, const Request &request);
     void onFinished(QNetworkReply *reply, const Request &request);
     void onSslErrors(QNetworkReply *reply, const QList<QSslError> &errors);
 

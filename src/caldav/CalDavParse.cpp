@@ -1,6 +1,7 @@
 #include "caldav/CalDavParse.h"
 
 #include "caldav/CalDavNamespaces.h"
+#include "caldav/CalDavPath.h"
 
 #include <QXmlStreamReader>
 
@@ -56,8 +57,8 @@ std::optional<QUrl> firstHrefIn(QLatin1StringView ns, QLatin1StringView name, co
             isInside = false;
         } else if (token == QXmlStreamReader::StartElement && isInside
                    && isElement(xml, Dav, QLatin1StringView("href"))) {
-            const std::optional<QString> href = readText(xml);
-            return href ? std::optional(resolved(baseUrl, href->trimmed())) : std::nullopt;
+            const QString href = readText(xml).value_or(QString()).trimmed();
+            return href.isEmpty() ? std::nullopt : std::optional(resolved(baseUrl, href));
         }
     }
     return std::nullopt;
@@ -325,7 +326,7 @@ private:
         resource.etag = resource.etag.trimmed();
         if (resource.href.isEmpty())
             return;
-        resource.href = resolved(baseUrl, resource.href).path(QUrl::FullyDecoded);
+        resource.href = CalDavPath::ofUrl(resolved(baseUrl, resource.href));
         if (resource.etag.size() >= 2 && resource.etag.startsWith(u'"') && resource.etag.endsWith(u'"'))
             resource.etag = resource.etag.sliced(1, resource.etag.size() - 2);
         if (!resource.href.endsWith(u'/'))

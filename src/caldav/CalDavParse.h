@@ -25,7 +25,7 @@ struct DiscoveredCalendar {
 };
 
 struct EventResource {
-    QString href; ///< decoded path, not a URL
+    QString href; ///< a path as CalDavPath keeps it, not a URL
     QString etag; ///< without quotes; a weak one (W/"…") as it stands
     QString calendarData; ///< empty if the server sent no text along
 };

@@ -1,6 +1,7 @@
 #include "caldav/CalDavPath.h"
 
 #include <QCryptographicHash>
+#include <QRegularExpression>
 
 namespace CalDavPath {
 
@@ -30,6 +31,33 @@ QString resourceName(const QString &uid)
     return QString::fromLatin1(QCryptographicHash::hash(uid.toUtf8(), QCryptographicHash::Sha256).toHex());
 }
 
+// Applies \p convert to the parts of a path between slashes within names ("%2F"), and what would look like one once it
+// is decoded ("%252F"): those stay as they are, kept or encoded.
+QString convertPath(const QString &path, QString (*convert)(const QString &))
+{
+    static const QRegularExpression slash(QStringLiteral("%(?:25)*2F"), QRegularExpression::CaseInsensitiveOption);
+    QString converted;
+    qsizetype partStart = 0;
+    for (auto found = slash.globalMatch(path); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        converted += convert(path.sliced(partStart, match.capturedStart() - partStart)) + match.captured();
+        partStart = match.capturedEnd();
+    }
+    return converted + convert(path.sliced(partStart));
+}
+
+QString decode(const QString &encoded)
+{
+    return QUrl::fromPercentEncoding(encoded.toLatin1());
+}
+
+QString encode(const QString &decoded)
+{
+    QUrl url;
+    url.setPath(decoded, QUrl::DecodedMode);
+    return url.path(QUrl::FullyEncoded);
+}
+
 bool isWeak(const QString &etag)
 {
     return etag.startsWith(QLatin1StringView("W/"));
@@ -37,26 +65,31 @@ bool isWeak(const QString &etag)
 
 }
 
-QUrl resourceUrl(const QUrl &calendarUrl, const QString &decodedPath)
+QString ofUrl(const QUrl &url)
+{
+    return convertPath(url.path(QUrl::FullyEncoded), decode);
+}
+
+QUrl resourceUrl(const QUrl &calendarUrl, const QString &path)
 {
     QUrl url = calendarUrl.adjusted(QUrl::RemoveQuery | QUrl::RemoveFragment);
-    url.setPath(decodedPath, QUrl::DecodedMode);
+    url.setPath(convertPath(path, encode), QUrl::TolerantMode);
     return url;
 }
 
 QString newResourcePath(const QUrl &calendarUrl, const QString &uid)
 {
-    QString path = calendarUrl.path(QUrl::FullyDecoded);
+    QUrl url = calendarUrl;
+    QString path = url.path(QUrl::FullyEncoded);
     if (!path.endsWith(u'/'))
         path += u'/';
-    return path + resourceName(uid) + QLatin1StringView(".ics");
+    url.setPath(path + encode(resourceName(uid) + QLatin1StringView(".ics")), QUrl::TolerantMode);
+    return ofUrl(url);
 }
 
-QString toHref(const QString &decodedPath)
+QString toHref(const QString &path)
 {
-    QUrl url;
-    url.setPath(decodedPath, QUrl::DecodedMode);
-    return url.path(QUrl::FullyEncoded).toHtmlEscaped();
+    return convertPath(path, encode).toHtmlEscaped();
 }
 
 QByteArray ifMatch(const QString &etag)

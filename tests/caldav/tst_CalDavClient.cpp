@@ -62,6 +62,14 @@ private:
     QTestEventLoop m_loop; // polling would cost 10 ms for each hop between the threads of the network manager
 };
 
+// The path of a listed resource as it is kept.
+QString kept(const QString &href)
+{
+    const QByteArray list =
+        "<m:multistatus xmlns:m='DAV:'><m:response><m:href>" + href.toUtf8() + "</m:href></m:response></m:multistatus>";
+    return CalDavParse::parseEventResources(list, QUrl(u"http://h/c/"_s)).value(0).href;
+}
+
 HttpServer::Reply redirectTo(const QUrl &url, int status = 302)
 {
     return { .status = status, .body = {}, .headers = { { "Location", url.toEncoded() } } };
@@ -122,11 +130,9 @@ private slots:
         columns<QString, QString, bool>("origin", "target", "covers");
         row("same host", "https://example.com/a", "https://example.com:8443/b", true);
         row("subdomain", "https://example.com", "https://p42.dav.example.com", true);
-        row("parent domain", "https://dav.example.com", "https://example.com", true);
         row("sibling", "https://www.example.co.uk", "https://dav.example.co.uk", true);
         row("to https", "http://example.com", "https://example.com", true);
         row("to http", "https://example.com", "http://example.com", false);
-        row("other host", "https://example.com", "https://example.org", false);
         row("same ending", "https://example.com", "https://badexample.com", false);
         row("same country", "https://a.co.uk", "https://b.co.uk", false);
         row("same hoster", "https://ann.github.io", "https://bob.github.io", false);
@@ -185,11 +191,9 @@ private slots:
     void anyUidIsOneSegment_data()
     {
         columns<QString, QString>("uid", "target");
-        row("plain", "a-1@example.com", "a-1@example.com");
-        row("blank and signs", "a b?c#d:e;f", "a%20b%3Fc%23d:e;f");
+        row("blank and signs", "a b?c#d:e;f@g", "a%20b%3Fc%23d:e;f@g");
         row("slash", "a/b", "a%252Fb");
         row("encoded slash", "a%2Fb", "a%25252Fb");
-        row("dots", "../..", "..%252F..");
         row("backslash and tab", "a\\b\tc", "a%255Cb%2509c");
         row("umlaut and emoji", u"ä😀"_s, "%C3%A4%F0%9F%98%80");
         row("long", QString(201, u'a'), "a92efd82109373e58f9a2056dee01e807e216ce6075f7051207c0a9f7d666e50");
@@ -204,13 +208,25 @@ private slots:
         Caller().ask("PUT", CalDavPath::resourceUrl(collection, path));
         const QByteArray sent = server.requests().constFirst().target;
         QCOMPARE(sent, "/c%20d/" + target.toUtf8() + ".ics");
-        // The server lists it, and is asked for it.
-        for (const QByteArray &href : { sent, CalDavPath::toHref(path).toUtf8() }) {
-            const QList<CalDavParse::EventResource> listed = CalDavParse::parseEventResources(
-                "<m:multistatus xmlns:m='DAV:'><m:response><m:href>" + href + "</m:href></m:response></m:multistatus>",
-                collection);
-            QCOMPARE(listed.value(0).href, path);
-        }
+        QCOMPARE(kept(CalDavPath::toHref(path)), path);
+    }
+
+    // What a server lists is what it is asked for.
+    void resourcesKeepTheirAddress_data()
+    {
+        columns<QString, QString>("encoded", "path");
+        row("blank and signs", "/c/a%20b%23%3F&.ics", "/c/a b#?&.ics");
+        row("percent sign", "/c/50%25.ics", "/c/50%.ics");
+        row("slash in a name", "/c/a%2Fb.ics", "/c/a%2Fb.ics");
+        row("encoded name", "/c/a%252Fb%2525%25252F.ics", "/c/a%252Fb%25%25252F.ics");
+    }
+    void resourcesKeepTheirAddress()
+    {
+        QFETCH(QString, encoded);
+        QFETCH(QString, path);
+        QCOMPARE(kept(encoded.toHtmlEscaped()), path);
+        QCOMPARE(CalDavPath::toHref(path), encoded.toHtmlEscaped());
+        QCOMPARE(CalDavPath::resourceUrl(QUrl(u"http://h/x"_s), path).toEncoded(), "http://h" + encoded.toUtf8());
     }
 
     void faults_data()
@@ -222,7 +238,8 @@ private slots:
         row("cut", report, 207, Fault::Truncate, false, false);
         row("cut chunks", report, 207, Fault::Truncate, true, false);
         row("cut error page", report, 403, Fault::Truncate, false, false);
-        for (const char *verb : { "REPORT", "PUT", "DELETE", "MKCALENDAR", "PROPPATCH" })
+        row("answer before the answer", report, 102, Fault::None, false, false);
+        for (const char *verb : { "REPORT", "PUT", "DELETE" })
             row(verb, QByteArray(verb), 0, Fault::Close, false, false);
     }
     void faults()
@@ -240,10 +257,11 @@ private slots:
         Caller caller;
         caller.ask("GET", server.url());
         const CalDavClient::Response answer = caller.ask(verb, server.url()); // on a connection that was kept
-        QCOMPARE(answer.status, status);
-        QCOMPARE(answer.error.isEmpty(), status != 0);
+        const bool isAnswered = status >= 200;
+        QCOMPARE(answer.status, isAnswered ? status : 0);
+        QCOMPARE(answer.error.isEmpty(), isAnswered);
         QTEST(answer.isWhole, "isWhole");
-        QCOMPARE(answer.body, fault == Fault::None ? body : fault == Fault::Close ? "" : "<d:multistatus>");
+        QCOMPARE(answer.body, !isAnswered ? "" : fault == Fault::None ? body : "<d:multistatus>");
         QVERIFY(verb == "REPORT" || server.requests().size() == 2); // a write goes out once
     }
 

@@ -55,8 +55,7 @@ CalDavCertificateDialog::CalDavCertificateDialog(const CalDavClient::UntrustedCe
     auto *text =
         makeValue(tr("%1:%2 presented a TLS certificate that doesn't chain to a trusted root. Review it before "
                      "trusting it, anyone with this fingerprint can impersonate the server.")
-                      .arg(info.host)
-                      .arg(info.port));
+                      .arg(info.host, QString::number(info.port)));
     text->setTextInteractionFlags(Qt::NoTextInteraction);
     body()->addWidget(text);
 
