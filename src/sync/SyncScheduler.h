@@ -35,6 +35,9 @@ public:
     /// failure within the last minute.
     [[nodiscard]] bool canPush(const QString &calendarId) const;
 
+    /// Why the last run of a calendar failed, or the discovery of an account without calendars. Empty if it went well.
+    [[nodiscard]] QString lastFailure(const QString &id) const;
+
     static bool isCalDavFamily(const Account &account);
     /// What Account::lastSyncError holds while there is no password.
     static QString passwordMissing();
@@ -54,8 +57,14 @@ signals:
     void statusMessage(const QString &text, int timeoutMs); ///< 0: until the next one
 
 private:
+    struct Failure {
+        QDateTime at; // UTC
+        QString message;
+    };
+
     void onChanged(ChangeOrigin origin);
     void onBusyChanged(bool busy);
+    void repeatFailure();
     void runRound(Credentials::Unlock unlock);
     bool beginAccount(const QString &accountId, const QString &password);
     void finishRound(int startedAccounts);
@@ -65,8 +74,8 @@ private:
     void autoSync(const QString &calendarId, const QString &password);
     CalDavSyncClient *makeClient();
     void wire(CalDavSyncClient *client);
-    void onFailed(const QString &calendarId, const QString &message, int timeoutMs);
-    void setAccountError(Account account, const QString &error);
+    void onFailed(const QString &id, const QString &message, int timeoutMs);
+    void notePassword(Account account, const QString &password);
     void say(const QString &text, int timeoutMs);
     void sayFailure(const QString &text, int timeoutMs);
     [[nodiscard]] std::optional<Account> accountOf(const QString &calendarId) const;
@@ -77,7 +86,7 @@ private:
     QTimer m_queue;
     QTimer m_tick;
     QSet<QString> m_pendingCalendars;
-    QHash<QString, QDateTime> m_failureStamps; // calendar to UTC
+    QHash<QString, Failure> m_failures; // by calendar or account
     int m_syncedTotal = 0;
     QDeadlineTimer m_failureShown;
 };

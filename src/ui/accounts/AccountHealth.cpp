@@ -15,19 +15,23 @@ struct Text {
     Q_DECLARE_TR_FUNCTIONS(AccountHealth)
 };
 
-/// What the last run of each calendar left behind.
-QString calendarErrors(AppState *state, const Account &account)
+/// What the last runs left behind.
+QStringList syncErrors(AppState *state, const Account &account)
 {
-    QStringList lines;
+    const SyncScheduler *scheduler = state->syncScheduler();
+    const auto failureOf = [scheduler](const QString &id) {
+        return scheduler ? scheduler->lastFailure(id) : QString();
+    };
+    QStringList lines{ account.lastSyncError, failureOf(account.id).simplified() };
     const QList<Calendar> calendars = state->calendars()->getByAccount(account.id);
     for (const Calendar &calendar : calendars) {
-        const bool isLatest = state->lastSyncErrored() && state->lastSyncErrorCalendar() == calendar.id;
-        const QString error =
-            calendar.lastSyncError.isEmpty() && isLatest ? state->lastSyncErrorMessage() : calendar.lastSyncError;
+        const QString failure = failureOf(calendar.id);
+        const QString error = failure.isEmpty() ? calendar.lastSyncError : failure;
         if (!error.isEmpty())
             lines.append(Text::tr("%1: %2", "calendar, error").arg(calendar.name.simplified(), error.simplified()));
     }
-    return lines.join(u'\n');
+    lines.removeAll(QString());
+    return lines;
 }
 
 }
@@ -55,8 +59,7 @@ AccountHealth AccountHealth::of(AppState *state, const Account &account)
                  .summary = Text::tr("Sign in required"),
                  .detail = Text::tr("The sign-in of this account has ended.") };
     }
-    QStringList errors{ account.lastSyncError, calendarErrors(state, account) };
-    errors.removeAll(QString());
+    const QStringList errors = syncErrors(state, account);
     if (!errors.isEmpty())
         return { .state = State::Failing, .summary = Text::tr("Sync failed"), .detail = errors.join(u'\n') };
     const QString summary =
