@@ -6,6 +6,7 @@
 #include "caldav/CalDavDiscovery.h"
 #include "caldav/CalDavRediscover.h"
 #include "caldav/CalDavSyncClient.h"
+#include "caldav/RunQueue.h"
 #include "models/Constants.h"
 #include "storage/AccountRepository.h"
 #include "storage/CalendarRepository.h"
@@ -154,7 +155,8 @@ void SyncScheduler::runQueuedAutoSyncs()
     for (const QString &id : ids) {
         const auto account = accountOf(id);
         // The run before this one may have failed after the edit.
-        if (!account || !account->enabled || account->type != AccountType::CalDAV || isResting(id))
+        if (!account || !account->enabled || account->type != AccountType::CalDAV || isResting(id)
+            || RunQueue::of(m_state)->hasWaiting(id))
             continue;
         m_credentials->caldavPassword(account->id, Credentials::Unlock::Never, this,
                                       [this, id](const QString &password) { autoSync(id, password); });
@@ -232,12 +234,22 @@ void SyncScheduler::runRound(Credentials::Unlock unlock)
     const auto lookups = std::make_shared<Lookups>(Lookups{ .open = accounts.size() });
     for (const Account &account : std::as_const(accounts)) {
         m_credentials->caldavPassword(account.id, unlock, this,
-                                      [this, id = account.id, lookups](const QString &password) {
-                                          lookups->started += beginAccount(id, password);
+                                      [this, id = account.id, lookups, unlock](const QString &password) {
+                                          // Rounds of the clock must not pile up before a server that hangs.
+                                          const bool isQueued = unlock == Credentials::Unlock::Never && hasWaiting(id);
+                                          lookups->started += isQueued || beginAccount(id, password);
                                           if (--lookups->open == 0)
                                               finishRound(lookups->started);
                                       });
     }
+}
+
+bool SyncScheduler::hasWaiting(const QString &accountId) const
+{
+    const QList<Calendar> calendars = m_state->calendars()->getByAccount(accountId);
+    return std::ranges::any_of(calendars, [queue = RunQueue::of(m_state)](const Calendar &calendar) {
+        return queue->hasWaiting(calendar.id);
+    });
 }
 
 /// False if there is nothing to do with it.
@@ -280,7 +292,10 @@ void SyncScheduler::discover(const Account &account, const QString &password)
     };
     connect(discovery, &CalDavDiscovery::completed, this,
             [this, id = account.id, goOn](const QList<CalDavParse::DiscoveredCalendar> &calendars) {
-                const int inserted = CalDavRediscover::upsertDiscoveredCalendars(m_state, id, calendars);
+                const auto current = m_state->accounts()->getById(id);
+                const int inserted = current && current->enabled
+                    ? CalDavRediscover::upsertDiscoveredCalendars(m_state, id, calendars)
+                    : 0;
                 if (inserted > 0)
                     say(tr("Discovered %n new calendar(s).", nullptr, inserted), 4000);
                 noteRefusedCertificate(id, {});

@@ -67,6 +67,7 @@ private:
     void repeatFailure();
     void runRound(Credentials::Unlock unlock);
     bool beginAccount(const QString &accountId, const QString &password);
+    [[nodiscard]] bool hasWaiting(const QString &accountId) const;
     void finishRound(int startedAccounts);
     void discover(const Account &account, const QString &password);
     void noteRefusedCertificate(const QString &accountId, const QString &sha256);

@@ -186,15 +186,40 @@ private slots:
         QCOMPARE(m_scheduler->lastFailure(m_account.id), messages().last());
     }
 
-    void declinedAndRemovedCalendarsStayAway()
+    void anAccountThatGoesEndsItsWorkQuietly_data()
     {
+        columns<QByteArray, bool>("during", "isRemoved");
+        row("removed before there were calendars", QByteArray("PROPFIND"), true);
+        row("disabled before there were calendars", QByteArray("PROPFIND"), false);
+        row("removed in the listing", QByteArray("REPORT"), true);
+        row("disabled in the listing", QByteArray("REPORT"), false);
+        row("removed in a push", QByteArray("PUT"), true);
+    }
+    void anAccountThatGoesEndsItsWorkQuietly()
+    {
+        QFETCH(const QByteArray, during);
+        QFETCH(const bool, isRemoved);
         givePassword();
-        m_server->whenAsked("PROPFIND", [this] { (*m_state)->accounts()->remove(m_account.id); });
+        m_server->store("a.ics", eventText("a", "Standup"));
+        const bool isNew = during == "PROPFIND";
+        if (!isNew) {
+            syncNow();
+            addPending(u"mine"_s);
+        }
+        int before = 0;
+        m_server->whenAsked(during, [&] {
+            before = m_server->requestCount();
+            m_account.enabled = false;
+            isRemoved ? (*m_state)->accounts()->remove(m_account.id) : (*m_state)->accounts()->update(m_account);
+        });
         m_scheduler->runSyncNow();
-        QTRY_VERIFY(m_server->requestCount() >= 3);
+        QTRY_VERIFY(before > 0);
         QTRY_VERIFY(isIdle());
-        QVERIFY((*m_state)->calendars()->getByAccount(m_account.id).isEmpty());
-        QCOMPARE(messages().last(), QString()); // no longer "Syncing"
+        QVERIFY(!(*m_state)->isSyncing());
+        QVERIFY(!(*m_state)->lastSyncErrored());
+        QCOMPARE((*m_state)->calendars()->getByAccount(m_account.id).size(), isNew || isRemoved ? 0 : 1);
+        QVERIFY(isNew || m_server->requestCount() <= before + 1);
+        QVERIFY2(!messages().last().startsWith(u"Syncing"), qPrintable(messages().last()));
     }
 
     void aFullSyncDiscardsOnlyWhatTheServerCanGiveBack()
