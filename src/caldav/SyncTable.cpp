@@ -247,8 +247,9 @@ private:
         if (!stored)
             return;
         const Record *text = findIn(sent, row);
+        // An edit that was given up meanwhile is to be read anew.
         if (!text || contentOf(*stored) != contentOf(row))
-            m_kind.repository->setAddress(row.id, newHref, newEtag);
+            m_kind.repository->setAddress(row.id, newHref, isPending(*stored) ? newEtag : QString());
         else
             m_kind.repository->markPushed(
                 row.id,

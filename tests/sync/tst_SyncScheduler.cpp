@@ -138,7 +138,7 @@ private slots:
     {
         givePassword();
         syncNow();
-        const QString id = (*m_state)->calendars()->getByAccount(m_account.id).first().id;
+        const QString id = calendarId();
         QVERIFY(m_scheduler->canPush(id));
         m_server->fail(3, { .kind = FakeCalDav::Fault::Status, .status = 500 }); // behind the discovery
         m_messages->clear();
@@ -229,7 +229,7 @@ private slots:
         m_server->store("a.ics", eventText("a", "Theirs"));
         m_server->store("b.ics", eventText("b", "Theirs"));
         syncNow();
-        const QString id = (*m_state)->calendars()->getByAccount(m_account.id).first().id;
+        const QString id = calendarId();
         Event edited = *(*m_state)->events()->getByUid(u"a"_s, id);
         edited.title = u"Mine"_s;
         edited.syncStatus = SyncStatus::Pending;
@@ -243,6 +243,26 @@ private slots:
         waitForRound();
         QCOMPARE(m_server->objects().keys().join(' '), QByteArray("a.ics new.ics"));
         QVERIFY((*m_state)->events()->getById(local.id)->deletedAt);
+    }
+
+    void aFullSyncDuringAPushLeavesBothSidesAlike()
+    {
+        givePassword();
+        m_server->store("a.ics", eventText("a", "Theirs"));
+        syncNow();
+        const auto edit = [this](const QString &title) {
+            Event event = *(*m_state)->events()->getByUid(u"a"_s, calendarId());
+            event.title = title;
+            event.syncStatus = SyncStatus::Pending;
+            (*m_state)->events()->update(event);
+        };
+        edit(u"Sent"_s);
+        m_server->whenAsked("PUT", [this, edit] {
+            edit(u"Given up"_s);
+            m_scheduler->runForceFullSync();
+        });
+        syncNow();
+        QTRY_COMPARE((*m_state)->events()->getByUid(u"a"_s, calendarId())->title, u"Sent"_s);
     }
 
     void theIntervalCountsFromTheLastTry_data()
@@ -330,6 +350,8 @@ private:
         QTRY_VERIFY(!(*m_state)->isSyncing() && isIdle());
     }
 
+    QString calendarId() const { return (*m_state)->calendars()->getByAccount(m_account.id).first().id; }
+
     bool isIdle() const
     {
         return m_scheduler->findChildren<CalDavClient *>().isEmpty()
@@ -340,7 +362,7 @@ private:
     {
         Event event;
         event.id = event.uid = uid;
-        event.calendarId = (*m_state)->calendars()->getByAccount(m_account.id).first().id;
+        event.calendarId = calendarId();
         event.title = uid;
         event.startTime = utc("2026-05-01T10:00");
         event.endTime = utc("2026-05-01T11:00");
