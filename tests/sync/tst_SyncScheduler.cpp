@@ -9,7 +9,6 @@
 #include "support/FakeCalDav.h"
 #include "support/ScratchState.h"
 #include "support/TestData.h"
-#include "sync/ConflictResolutionService.h"
 
 #include <QFile>
 #include <QSignalSpy>
@@ -292,30 +291,6 @@ private slots:
         QCOMPARE(stamped && qAbs(stamped->secsTo(QDateTime::currentDateTimeUtc())) < 30, isDue);
         if (isDue)
             waitForRound();
-    }
-
-    void conflictsAreDecidedOnce()
-    {
-        Sync::ConflictResolutionService service(m_state->state());
-        const QSignalSpy changed(&service, &Sync::ConflictResolutionService::conflictsChanged);
-        Event local = m_state->addEvent(u"Mine"_s, utc("2026-03-01T09:00"), utc("2026-03-01T10:00"));
-        Event remote = local;
-        remote.id = u"elsewhere"_s;
-        remote.title = u"Theirs"_s;
-        service.recordConflict(local, remote);
-        service.recordConflict(local, local);
-        QCOMPARE(service.conflicts().size(), 1);
-        QCOMPARE(changed.size(), 1);
-        service.resolve(u"unknown"_s, Sync::ConflictResolution::KeepServer);
-        QCOMPARE(changed.size(), 1);
-        service.resolve(service.conflicts().first().id, Sync::ConflictResolution::KeepServer);
-        QCOMPARE((*m_state)->events()->getById(local.id)->title, u"Theirs"_s);
-        QCOMPARE((*m_state)->events()->getById(local.id)->syncStatus, SyncStatus::Synced);
-        service.recordConflict(local, remote);
-        service.resolve(service.conflicts().first().id, Sync::ConflictResolution::KeepLocal);
-        QCOMPARE((*m_state)->events()->getById(local.id)->title, u"Mine"_s);
-        QCOMPARE((*m_state)->events()->getById(local.id)->syncStatus, SyncStatus::Pending);
-        QVERIFY(service.conflicts().isEmpty());
     }
 
 private:
