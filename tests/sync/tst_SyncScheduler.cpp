@@ -187,17 +187,19 @@ private slots:
 
     void anAccountThatGoesEndsItsWorkQuietly_data()
     {
-        columns<QByteArray, bool>("during", "isRemoved");
-        row("removed before there were calendars", QByteArray("PROPFIND"), true);
-        row("disabled before there were calendars", QByteArray("PROPFIND"), false);
-        row("removed in the listing", QByteArray("REPORT"), true);
-        row("disabled in the listing", QByteArray("REPORT"), false);
-        row("removed in a push", QByteArray("PUT"), true);
+        columns<QByteArray, bool, bool>("during", "isRemoved", "isSilent");
+        row("removed before there were calendars", QByteArray("PROPFIND"), true, false);
+        row("disabled before there were calendars", QByteArray("PROPFIND"), false, false);
+        row("removed in the listing", QByteArray("REPORT"), true, false);
+        row("disabled in the listing", QByteArray("REPORT"), false, false);
+        row("disabled while the server is silent", QByteArray("REPORT"), false, true);
+        row("removed in a push", QByteArray("PUT"), true, false);
     }
     void anAccountThatGoesEndsItsWorkQuietly()
     {
         QFETCH(const QByteArray, during);
         QFETCH(const bool, isRemoved);
+        QFETCH(const bool, isSilent);
         givePassword();
         m_server->store("a.ics", eventText("a", "Standup"));
         const bool isNew = during == "PROPFIND";
@@ -208,6 +210,8 @@ private slots:
         int before = 0;
         m_server->whenAsked(during, [&] {
             before = m_server->requestCount();
+            if (isSilent)
+                m_server->fail(-1, { .kind = FakeCalDav::Fault::Silence }); // this one
             m_account.enabled = false;
             isRemoved ? (*m_state)->accounts()->remove(m_account.id) : (*m_state)->accounts()->update(m_account);
         });
