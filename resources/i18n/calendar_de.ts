@@ -112,11 +112,6 @@
 <context>
     <name>AccountHealth</name>
     <message>
-        <source>%1: %2</source>
-        <comment>calendar, error</comment>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
         <source>On this device</source>
         <translation>Auf diesem Gerät</translation>
     </message>
@@ -172,6 +167,15 @@
     <message>
         <source>Web feed</source>
         <translation>Abonnierter Kalender</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>calendars, error</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Password rejected</source>
+        <translation>Passwort abgelehnt</translation>
     </message>
 </context>
 <context>
@@ -369,10 +373,6 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
         <translation>Speichern</translation>
     </message>
     <message>
-        <source>Leave empty to keep the stored one</source>
-        <translation>Leer lassen, um das gespeicherte zu behalten</translation>
-    </message>
-    <message>
         <source>The server&apos;s name, unless you give another</source>
         <translation>Der Name des Servers, wenn nichts anderes dasteht</translation>
     </message>
@@ -480,6 +480,18 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
         <source>The system&apos;s password store cannot be used. Calendars sync until Quillon Calendar is closed; after that you have to enter the password of &quot;%1&quot; again.</source>
         <translation>Der Passwortspeicher des Systems ist nicht verfügbar. Die Kalender werden synchronisiert, bis Quillon Calendar beendet wird; danach müssen Sie das Passwort von „%1“ neu eingeben.</translation>
     </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>Unverändert</translation>
+    </message>
+    <message>
+        <source>Save anyway?</source>
+        <translation>Trotzdem speichern?</translation>
+    </message>
+    <message>
+        <source>Save the account all the same?</source>
+        <translation>Das Konto trotzdem speichern?</translation>
+    </message>
 </context>
 <context>
     <name>CalDavDiscovery</name>
@@ -518,6 +530,14 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     <message>
         <source>No calendars found at the discovered home set.</source>
         <translation>Im gefundenen Kalenderverzeichnis sind keine Kalender.</translation>
+    </message>
+    <message>
+        <source>The server refers to another one, which was not given your password. If you trust it, enter its address instead: %1</source>
+        <translation>Der Server verweist auf einen anderen, der Ihr Passwort nicht bekommen hat. Wenn Sie ihm vertrauen, geben Sie stattdessen dessen Adresse ein: %1</translation>
+    </message>
+    <message>
+        <source>The server&apos;s answer was cut off.</source>
+        <translation>Die Antwort des Servers ist abgebrochen.</translation>
     </message>
 </context>
 <context>
@@ -2215,7 +2235,7 @@ Bitte prüfen Sie die Dateirechte und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>&amp;Sync Now</source>
-        <translation>Jetzt &amp;synchronisieren</translation>
+        <translation>Jetzt s&amp;ynchronisieren</translation>
     </message>
     <message>
         <source>Force F&amp;ull Sync…</source>

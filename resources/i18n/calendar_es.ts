@@ -112,11 +112,6 @@
 <context>
     <name>AccountHealth</name>
     <message>
-        <source>%1: %2</source>
-        <comment>calendar, error</comment>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
         <source>On this device</source>
         <translation>En este dispositivo</translation>
     </message>
@@ -172,6 +167,15 @@
     <message>
         <source>Web feed</source>
         <translation>Suscripción web</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>calendars, error</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Password rejected</source>
+        <translation>Contraseña rechazada</translation>
     </message>
 </context>
 <context>
@@ -369,10 +373,6 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
         <translation>Guardar</translation>
     </message>
     <message>
-        <source>Leave empty to keep the stored one</source>
-        <translation>Déjela en blanco para conservar la guardada</translation>
-    </message>
-    <message>
         <source>The server&apos;s name, unless you give another</source>
         <translation>El nombre del servidor, si no indica otro</translation>
     </message>
@@ -480,6 +480,18 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
         <source>The system&apos;s password store cannot be used. Calendars sync until Quillon Calendar is closed; after that you have to enter the password of &quot;%1&quot; again.</source>
         <translation>No se puede usar el almacén de contraseñas del sistema. Los calendarios se sincronizarán hasta que cierre Quillon Calendar; después tendrá que volver a introducir la contraseña de «%1».</translation>
     </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>Sin cambios</translation>
+    </message>
+    <message>
+        <source>Save anyway?</source>
+        <translation>¿Guardar de todos modos?</translation>
+    </message>
+    <message>
+        <source>Save the account all the same?</source>
+        <translation>¿Desea guardar la cuenta de todos modos?</translation>
+    </message>
 </context>
 <context>
     <name>CalDavDiscovery</name>
@@ -518,6 +530,14 @@ Compruebe los permisos de los archivos e inténtelo de nuevo.</translation>
     <message>
         <source>No calendars found at the discovered home set.</source>
         <translation>No se encontraron calendarios en la carpeta de calendarios hallada.</translation>
+    </message>
+    <message>
+        <source>The server refers to another one, which was not given your password. If you trust it, enter its address instead: %1</source>
+        <translation>El servidor remite a otro, al que no se ha enviado su contraseña. Si confía en él, introduzca su dirección en su lugar: %1</translation>
+    </message>
+    <message>
+        <source>The server&apos;s answer was cut off.</source>
+        <translation>La respuesta del servidor llegó incompleta.</translation>
     </message>
 </context>
 <context>

@@ -112,11 +112,6 @@
 <context>
     <name>AccountHealth</name>
     <message>
-        <source>%1: %2</source>
-        <comment>calendar, error</comment>
-        <translation>%1 : %2</translation>
-    </message>
-    <message>
         <source>On this device</source>
         <translation>Sur cet appareil</translation>
     </message>
@@ -172,6 +167,15 @@
     <message>
         <source>Web feed</source>
         <translation>Flux web</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>calendars, error</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Password rejected</source>
+        <translation>Mot de passe refusé</translation>
     </message>
 </context>
 <context>
@@ -369,10 +373,6 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
         <translation>Enregistrer</translation>
     </message>
     <message>
-        <source>Leave empty to keep the stored one</source>
-        <translation>Laisser vide pour garder celui qui est enregistré</translation>
-    </message>
-    <message>
         <source>The server&apos;s name, unless you give another</source>
         <translation>Le nom du serveur, sauf si vous en donnez un autre</translation>
     </message>
@@ -480,6 +480,18 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
         <source>The system&apos;s password store cannot be used. Calendars sync until Quillon Calendar is closed; after that you have to enter the password of &quot;%1&quot; again.</source>
         <translation>Le trousseau de mots de passe du système n’est pas disponible. Les calendriers sont synchronisés jusqu’à la fermeture de Quillon Calendar ; ensuite, vous devrez saisir à nouveau le mot de passe de « %1 ».</translation>
     </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>Inchangé</translation>
+    </message>
+    <message>
+        <source>Save anyway?</source>
+        <translation>Enregistrer quand même&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Save the account all the same?</source>
+        <translation>Voulez-vous enregistrer le compte quand même&#xa0;?</translation>
+    </message>
 </context>
 <context>
     <name>CalDavDiscovery</name>
@@ -518,6 +530,14 @@ Veuillez vérifier les autorisations des fichiers et réessayer.</translation>
     <message>
         <source>No calendars found at the discovered home set.</source>
         <translation>Aucun calendrier dans le dossier trouvé.</translation>
+    </message>
+    <message>
+        <source>The server refers to another one, which was not given your password. If you trust it, enter its address instead: %1</source>
+        <translation>Le serveur renvoie vers un autre, auquel votre mot de passe n’a pas été transmis. Si vous lui faites confiance, saisissez plutôt son adresse&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The server&apos;s answer was cut off.</source>
+        <translation>La réponse du serveur a été interrompue.</translation>
     </message>
 </context>
 <context>

@@ -110,11 +110,6 @@
 <context>
     <name>AccountHealth</name>
     <message>
-        <source>%1: %2</source>
-        <comment>calendar, error</comment>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
         <source>On this device</source>
         <translation>このデバイス上</translation>
     </message>
@@ -170,6 +165,15 @@
     <message>
         <source>Web feed</source>
         <translation>Webフィード</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>calendars, error</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Password rejected</source>
+        <translation>パスワードが拒否されました</translation>
     </message>
 </context>
 <context>
@@ -364,10 +368,6 @@ Please check file permissions and try again.</source>
         <translation>保存</translation>
     </message>
     <message>
-        <source>Leave empty to keep the stored one</source>
-        <translation>保存済みのものを使う場合は空欄のまま</translation>
-    </message>
-    <message>
         <source>The server&apos;s name, unless you give another</source>
         <translation>指定しない場合はサーバー名</translation>
     </message>
@@ -475,6 +475,18 @@ Please check file permissions and try again.</source>
         <source>The system&apos;s password store cannot be used. Calendars sync until Quillon Calendar is closed; after that you have to enter the password of &quot;%1&quot; again.</source>
         <translation>システムのパスワードストアを使用できません。カレンダーはQuillon Calendarを終了するまで同期されますが、その後は「%1」のパスワードを再入力する必要があります。</translation>
     </message>
+    <message>
+        <source>Unchanged</source>
+        <translation>変更なし</translation>
+    </message>
+    <message>
+        <source>Save anyway?</source>
+        <translation>このまま保存しますか？</translation>
+    </message>
+    <message>
+        <source>Save the account all the same?</source>
+        <translation>それでもアカウントを保存しますか？</translation>
+    </message>
 </context>
 <context>
     <name>CalDavDiscovery</name>
@@ -513,6 +525,14 @@ Please check file permissions and try again.</source>
     <message>
         <source>No calendars found at the discovered home set.</source>
         <translation>検出されたカレンダーホームにカレンダーが見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>The server refers to another one, which was not given your password. If you trust it, enter its address instead: %1</source>
+        <translation>サーバーは別のサーバーを案内していますが、そのサーバーにパスワードは送信されていません。信頼できる場合は、代わりにそのアドレスを入力してください: %1</translation>
+    </message>
+    <message>
+        <source>The server&apos;s answer was cut off.</source>
+        <translation>サーバーの応答が途中で途切れました。</translation>
     </message>
 </context>
 <context>

@@ -18,6 +18,14 @@ CalDavSession::CalDavSession(AppState *state, const Calendar &calendar, QObject 
     , m_client(new CalDavClient(this))
     , m_guard(new SilenceGuard(m_client, this))
 {
+    // A server may be silent for minutes, and nobody waits for it any more.
+    connect(state->accounts(), &AccountRepository::accountsChanged, this, [this] {
+        if (isLive())
+            return;
+        m_guard->stop();
+        m_client->abort();
+        emit abandoned();
+    });
 }
 
 bool CalDavSession::isLive() const

@@ -27,7 +27,8 @@ public:
     [[nodiscard]] bool isLive() const;
 
     /// The continuation to hand to the client. A server that stays silent, \p firstByteMs at first, gives \p next
-    /// a response with an error; when the calendar has gone, \p next is not called and abandoned() is emitted.
+    /// a response with an error; when the calendar has gone, \p next is not called and abandoned() is emitted. For an
+    /// account that goes this happens at once.
     CalDavClient::Callback watched(int firstByteMs, CalDavClient::Callback next);
 
 signals:

@@ -44,6 +44,11 @@ void CalDavSyncRun::setCredentials(const QString &username, const QString &passw
 
 void CalDavSyncRun::start()
 {
+    // It may have waited for another run.
+    if (!m_session->isLive()) {
+        QMetaObject::invokeMethod(this, &CalDavSyncRun::end, Qt::QueuedConnection);
+        return;
+    }
     qCDebug(caldavLog).noquote() << "[CalDav] sync of" << m_calendar.name << "id=" << m_calendar.id;
     m_session->client()->propfind(
         m_session->calendarUrl(), CalDavXml::ctagBody(), 0,

@@ -23,6 +23,11 @@ void RunQueue::start(CalDavSyncRun *run)
         startNow(run);
 }
 
+bool RunQueue::hasWaiting(const QString &calendarId) const
+{
+    return !m_lines.value(calendarId).waiting.isEmpty();
+}
+
 void RunQueue::startNow(CalDavSyncRun *run)
 {
     const QString id = run->calendarId();

@@ -21,6 +21,9 @@ public:
     /// At once, or when the runs of its calendar that came before have ended or are gone.
     void start(CalDavSyncRun *run);
 
+    /// True if a run of the calendar has not begun yet: it will see all there is to see by then.
+    [[nodiscard]] bool hasWaiting(const QString &calendarId) const;
+
 private:
     explicit RunQueue(QObject *parent);
     void onEnded(const QString &calendarId);

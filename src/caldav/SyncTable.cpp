@@ -269,7 +269,8 @@ private:
             return;
         const Record *text = findIn(sent, row);
         if (!text || contentOf(*stored) != contentOf(row)) {
-            m_kind.repository->setAddress(row.id, newHref, newEtag);
+            // An edit that was given up meanwhile is to be read anew.
+            m_kind.repository->setAddress(row.id, newHref, isPending(*stored) ? newEtag : QString());
             return;
         }
         if (Kind::takeAnswers(*stored, *text))

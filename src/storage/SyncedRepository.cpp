@@ -147,7 +147,7 @@ int SyncedRepository::discardEdits(const QString &calendarId)
 {
     if (!write("discardEdits",
                "UPDATE %1 SET sync_status = 'synced', etag = NULL WHERE calendar_id = ?"
-               " AND sync_status = 'pending' AND deleted_at IS NULL AND href IS NOT NULL",
+               " AND sync_status = 'pending' AND deleted_at IS NULL AND href <> ''",
                { calendarId }))
         return -1;
     Statement changes(m_database, QStringLiteral("SELECT changes()"));

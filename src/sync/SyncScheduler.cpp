@@ -6,6 +6,7 @@
 #include "caldav/CalDavDiscovery.h"
 #include "caldav/CalDavRediscover.h"
 #include "caldav/CalDavSyncClient.h"
+#include "caldav/RunQueue.h"
 #include "caldav/ServerAddress.h"
 #include "models/Constants.h"
 #include "storage/AccountRepository.h"
@@ -28,6 +29,7 @@ constexpr int QueueMs = 300;
 constexpr int TickMs = 60'000;
 constexpr int StartUpMs = 3000;
 constexpr int RestSecs = 60;
+constexpr int FailureMs = 6000;
 
 bool isCloudOrFeed(const Account &account)
 {
@@ -96,18 +98,18 @@ bool SyncScheduler::canPush(const QString &calendarId) const
 
 QString SyncScheduler::failure(const QString &accountOrCalendarId) const
 {
-    return m_failures.value(accountOrCalendarId);
+    return m_failures.value(accountOrCalendarId).message;
 }
 
 void SyncScheduler::noteEnd(const QString &accountOrCalendarId, const QString &failure)
 {
-    if (m_failures.value(accountOrCalendarId) == failure)
-        return;
+    const bool isNews = m_failures.value(accountOrCalendarId).message != failure;
     if (failure.isEmpty())
         m_failures.remove(accountOrCalendarId);
     else
-        m_failures.insert(accountOrCalendarId, failure);
-    emit failuresChanged();
+        m_failures.insert(accountOrCalendarId, { .at = now(), .message = failure });
+    if (isNews)
+        emit failuresChanged();
 }
 
 /// The signal names the calendar touched last; an edit may have touched several.
@@ -134,16 +136,28 @@ void SyncScheduler::scheduleCalendarSync(const QString &calendarId)
 
 void SyncScheduler::onBusyChanged(bool busy)
 {
-    if (!busy && !m_pendingCalendars.isEmpty())
+    if (busy)
+        return;
+    if (!m_pendingCalendars.isEmpty())
         m_queue.start();
+    // Behind what the last run says of itself.
+    QMetaObject::invokeMethod(this, &SyncScheduler::repeatFailure, Qt::QueuedConnection);
+}
+
+/// What went well after a failure has taken its place.
+void SyncScheduler::repeatFailure()
+{
+    const QString failure = m_state->lastSyncErrored() ? m_state->lastSyncErrorMessage() : QString();
+    if (!failure.isEmpty() && m_failureShown.hasExpired())
+        sayFailure(failure, FailureMs);
 }
 
 bool SyncScheduler::isResting(const QString &calendarId) const
 {
-    const auto stamp = m_failureStamps.constFind(calendarId);
-    if (stamp == m_failureStamps.cend())
+    const auto failure = m_failures.constFind(calendarId);
+    if (failure == m_failures.cend())
         return false;
-    const qint64 secs = stamp->secsTo(now());
+    const qint64 secs = failure->at.secsTo(now());
     return secs >= 0 && secs < RestSecs;
 }
 
@@ -153,7 +167,8 @@ void SyncScheduler::runQueuedAutoSyncs()
     for (const QString &id : ids) {
         const auto account = accountOf(id);
         // The run before this one may have failed after the edit.
-        if (!account || !account->enabled || account->type != AccountType::CalDAV || isResting(id))
+        if (!account || !account->enabled || account->type != AccountType::CalDAV || isResting(id)
+            || RunQueue::of(m_state)->hasWaiting(id))
             continue;
         m_credentials->caldavPassword(account->id, Credentials::Unlock::Never, this,
                                       [this, id](const QString &password) { autoSync(id, password); });
@@ -166,9 +181,10 @@ void SyncScheduler::autoSync(const QString &calendarId, const QString &password)
     const auto account = accountOf(calendarId);
     if (!account || !account->enabled)
         return;
+    notePassword(*account, password);
     if (password.isEmpty()) {
         qInfo().noquote() << "[AutoSync] skip — no password for account" << account->name << "(" << account->id << ")";
-        return setAccountError(*account, passwordMissing());
+        return;
     }
     CalDavSyncClient *client = makeClient();
     connect(client, &CalDavSyncClient::calendarSyncCompleted, this, [this](const QString &, int count) {
@@ -186,9 +202,11 @@ void SyncScheduler::runPeriodicSyncTick()
 {
     const QList<Account> accounts = m_state->accounts()->getAll();
     const bool isDue = std::ranges::any_of(accounts, [](const Account &account) {
-        return account.enabled && account.syncIntervalMinutes > 0 && !isCloudOrFeed(account)
-            && (!account.lastSyncTime
-                || account.lastSyncTime->secsTo(now()) >= qint64(account.syncIntervalMinutes) * 60);
+        if (!account.enabled || account.syncIntervalMinutes <= 0 || isCloudOrFeed(account))
+            return false;
+        // A time to come was written before the clock was put right.
+        const qint64 ageSecs = account.lastSyncTime ? account.lastSyncTime->secsTo(now()) : -1;
+        return ageSecs < 0 || ageSecs >= qint64(account.syncIntervalMinutes) * 60;
     });
     if (isDue)
         runRound(Credentials::Unlock::Never);
@@ -196,6 +214,7 @@ void SyncScheduler::runPeriodicSyncTick()
 
 void SyncScheduler::runSyncNow()
 {
+    m_failureShown = {}; // who asks again has read it
     runRound(Credentials::Unlock::MayAsk);
 }
 
@@ -226,12 +245,22 @@ void SyncScheduler::runRound(Credentials::Unlock unlock)
     const auto lookups = std::make_shared<Lookups>(Lookups{ .open = accounts.size() });
     for (const Account &account : std::as_const(accounts)) {
         m_credentials->caldavPassword(account.id, unlock, this,
-                                      [this, id = account.id, lookups](const QString &password) {
-                                          lookups->started += beginAccount(id, password);
+                                      [this, id = account.id, lookups, unlock](const QString &password) {
+                                          // Rounds of the clock must not pile up before a server that hangs.
+                                          const bool isQueued = unlock == Credentials::Unlock::Never && hasWaiting(id);
+                                          lookups->started += isQueued || beginAccount(id, password);
                                           if (--lookups->open == 0)
                                               finishRound(lookups->started);
                                       });
     }
+}
+
+bool SyncScheduler::hasWaiting(const QString &accountId) const
+{
+    const QList<Calendar> calendars = m_state->calendars()->getByAccount(accountId);
+    return std::ranges::any_of(calendars, [queue = RunQueue::of(m_state)](const Calendar &calendar) {
+        return queue->hasWaiting(calendar.id);
+    });
 }
 
 /// False if there is nothing to do with it.
@@ -240,14 +269,12 @@ bool SyncScheduler::beginAccount(const QString &accountId, const QString &passwo
     const auto account = m_state->accounts()->getById(accountId);
     if (!account || !account->enabled)
         return false;
+    notePassword(*account, password);
     if (password.isEmpty()) {
         qInfo().noquote() << "[Sync] Skipping account" << account->name << "— no password in keyring for"
                           << Platform::tokenStoreAppId();
-        setAccountError(*account, passwordMissing());
         return false;
     }
-    if (account->lastSyncError == passwordMissing())
-        setAccountError(*account, {});
     discover(*account, password);
     return true;
 }
@@ -277,10 +304,13 @@ void SyncScheduler::discover(const Account &account, const QString &password)
     connect(discovery, &CalDavDiscovery::completed, this,
             [this, id = account.id, goOn](const QList<CalDavParse::DiscoveredCalendar> &calendars) {
                 noteEnd(id, {});
-                noteRefusedCertificate(id, {}); // the server shows again what is trusted
-                const int inserted = CalDavRediscover::upsertDiscoveredCalendars(m_state, id, calendars);
+                const auto current = m_state->accounts()->getById(id);
+                const int inserted = current && current->enabled
+                    ? CalDavRediscover::upsertDiscoveredCalendars(m_state, id, calendars)
+                    : 0;
                 if (inserted > 0)
                     say(tr("Discovered %n new calendar(s).", nullptr, inserted), 4000);
+                noteRefusedCertificate(id, {});
                 goOn({});
             });
     connect(discovery, &CalDavDiscovery::failed, this, [this, client, id = account.id, goOn](const QString &message) {
@@ -293,7 +323,8 @@ void SyncScheduler::discover(const Account &account, const QString &password)
     discovery->start(QUrl(ServerAddress::read(account.serverUrl).url));
 }
 
-/// The accounts dialog tells of it, and shows it beside the one that was trusted.
+/// The accounts dialog tells of it, and shows it beside the one that was trusted. Empty: it was that of somebody in
+/// between, as of a hotel's sign-in page, and the server shows its own again.
 void SyncScheduler::noteRefusedCertificate(const QString &accountId, const QString &sha256)
 {
     auto account = m_state->accounts()->getById(accountId);
@@ -310,9 +341,10 @@ void SyncScheduler::syncAccount(const QString &accountId, const QString &passwor
     const auto account = m_state->accounts()->getById(accountId);
     const QList<Calendar> calendars = m_state->calendars()->getByAccount(accountId);
     if (!account || !account->enabled)
-        return;
+        return say({}, 0); // it was counted as syncing
     if (calendars.isEmpty())
-        return discoveryFailure.isEmpty() ? say(nothingWaits(), 5000) : sayFailure(discoveryFailure, 6000);
+        return discoveryFailure.isEmpty() ? say(nothingWaits(), 5000)
+                                          : onFailed(accountId, discoveryFailure, FailureMs);
     CalDavSyncClient *client = makeClient();
     const auto remaining = std::make_shared<qsizetype>(calendars.size());
     connect(client, &CalDavSyncClient::calendarSyncCompleted, this, [this](const QString &, int count) {
@@ -320,7 +352,7 @@ void SyncScheduler::syncAccount(const QString &accountId, const QString &passwor
         say(tr("Synced %1 events").arg(m_syncedTotal), 4000);
     });
     connect(client, &CalDavSyncClient::calendarSyncFailed, this,
-            [this](const QString &id, const QString &message) { onFailed(id, message, 6000); });
+            [this](const QString &id, const QString &message) { onFailed(id, message, FailureMs); });
     connect(client, &CalDavSyncClient::calendarSyncEnded, client, [client, remaining] {
         if (--*remaining == 0)
             client->deleteLater();
@@ -340,40 +372,39 @@ CalDavSyncClient *SyncScheduler::makeClient()
 /// Counts the runs of \p client for AppState. A client that goes with runs open leaves nothing busy behind.
 void SyncScheduler::wire(CalDavSyncClient *client)
 {
-    const auto open = std::make_shared<int>(0);
-    connect(client, &CalDavSyncClient::calendarSyncStarted, m_state, [state = m_state, open] {
-        ++*open;
+    const auto open = std::make_shared<QSet<QString>>(); // calendars
+    connect(client, &CalDavSyncClient::calendarSyncStarted, m_state, [state = m_state, open](const QString &id) {
+        open->insert(id);
         state->syncOpBegan();
     });
-    // The client may outlive this by a little.
-    const auto end = [state = m_state, open](bool failed) {
-        if (*open == 0)
-            return false;
-        --*open;
-        state->syncOpEnded(failed);
-        return true;
-    };
-    connect(client, &CalDavSyncClient::calendarSyncCompleted, m_state, [end] { end(false); });
+    // The client may outlive this by a little. A run may complete after the notice that ended it here.
+    connect(client, &CalDavSyncClient::calendarSyncCompleted, m_state, [state = m_state, open](const QString &id) {
+        if (open->remove(id))
+            state->syncOpEnded(false);
+    });
     connect(client, &CalDavSyncClient::calendarSyncFailed, m_state,
-            [state = m_state, open, end](const QString &calendarId, const QString &message) {
-                if (*open > 0)
-                    state->recordSyncError(calendarId, message);
-                end(true);
+            [state = m_state, open](const QString &id, const QString &message) {
+                if (!open->remove(id))
+                    return;
+                state->recordSyncError(id, message);
+                state->syncOpEnded(true);
             });
-    connect(client, &QObject::destroyed, m_state, [end] {
-        while (end(true)) { }
+    connect(client, &QObject::destroyed, m_state, [state = m_state, open] {
+        for (qsizetype left = open->size(); left > 0; --left)
+            state->syncOpEnded(true);
     });
 }
 
-void SyncScheduler::onFailed(const QString &calendarId, const QString &message, int timeoutMs)
+void SyncScheduler::onFailed(const QString &id, const QString &message, int timeoutMs)
 {
-    m_failureStamps.insert(calendarId, now());
-    noteEnd(calendarId, message);
+    noteEnd(id, message);
     sayFailure(message, timeoutMs);
 }
 
-void SyncScheduler::setAccountError(Account account, const QString &error)
+/// An account of this family has no other error of its own. It may have been written in another language.
+void SyncScheduler::notePassword(Account account, const QString &password)
 {
+    const QString error = password.isEmpty() ? passwordMissing() : QString();
     if (account.lastSyncError == error)
         return;
     account.lastSyncError = error;
@@ -383,6 +414,8 @@ void SyncScheduler::setAccountError(Account account, const QString &error)
 
 void SyncScheduler::runForceFullSync()
 {
+    m_failureShown = {};
+    const SyncWrites origin(m_state->database()); // what is discarded has nowhere to go
     int discarded = 0;
     int cleared = 0;
     QStringList toReadAnew;

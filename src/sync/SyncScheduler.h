@@ -59,10 +59,17 @@ signals:
     void failuresChanged();
 
 private:
+    struct Failure {
+        QDateTime at; // UTC
+        QString message;
+    };
+
     void onChanged(ChangeOrigin origin);
     void onBusyChanged(bool busy);
+    void repeatFailure();
     void runRound(Credentials::Unlock unlock);
     bool beginAccount(const QString &accountId, const QString &password);
+    [[nodiscard]] bool hasWaiting(const QString &accountId) const;
     void finishRound(int startedAccounts);
     void discover(const Account &account, const QString &password);
     void noteRefusedCertificate(const QString &accountId, const QString &sha256);
@@ -70,9 +77,9 @@ private:
     void autoSync(const QString &calendarId, const QString &password);
     CalDavSyncClient *makeClient();
     void wire(CalDavSyncClient *client);
-    void onFailed(const QString &calendarId, const QString &message, int timeoutMs);
+    void onFailed(const QString &id, const QString &message, int timeoutMs);
     void noteEnd(const QString &accountOrCalendarId, const QString &failure);
-    void setAccountError(Account account, const QString &error);
+    void notePassword(Account account, const QString &password);
     void say(const QString &text, int timeoutMs);
     void sayFailure(const QString &text, int timeoutMs);
     [[nodiscard]] std::optional<Account> accountOf(const QString &calendarId) const;
@@ -83,8 +90,7 @@ private:
     QTimer m_queue;
     QTimer m_tick;
     QSet<QString> m_pendingCalendars;
-    QHash<QString, QDateTime> m_failureStamps; // calendar to UTC
-    QHash<QString, QString> m_failures; // account or calendar to what to tell of it
+    QHash<QString, Failure> m_failures; // by calendar or account
     int m_syncedTotal = 0;
     QDeadlineTimer m_failureShown;
 };

@@ -9,15 +9,18 @@
 #include "support/FakeCalDav.h"
 #include "support/ScratchState.h"
 #include "support/TestData.h"
-#include "sync/ConflictResolutionService.h"
 
 #include <QFile>
 #include <QSignalSpy>
 #include <QTest>
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int Never = std::numeric_limits<int>::min();
 
 QByteArray eventText(const QByteArray &uid, const QByteArray &title)
 {
@@ -58,6 +61,9 @@ private slots:
     void aRoundFindsCalendarsAndSyncsThem()
     {
         givePassword();
+        m_account.pendingCertSha256 = u"of a hotel"_s;
+        m_account.lastSyncError = u"Passwort fehlt"_s; // written in another language
+        QVERIFY((*m_state)->accounts()->update(m_account));
         m_server->store("a.ics", eventText("a", "Standup"));
         syncNow();
         const QList<Calendar> calendars = (*m_state)->calendars()->getByAccount(m_account.id);
@@ -67,7 +73,9 @@ private slots:
         QVERIFY((*m_state)->events()->getByUid(u"a"_s, calendars.first().id));
         QCOMPARE(messages(),
                  QStringList({ u"Syncing 1 account(s)…"_s, u"Discovered 1 new calendar(s)."_s, u"Synced 1 events"_s }));
-        QVERIFY((*m_state)->accounts()->getById(m_account.id)->lastSyncTime);
+        const Account account = *(*m_state)->accounts()->getById(m_account.id);
+        QVERIFY(account.lastSyncTime);
+        QCOMPARE(account.pendingCertSha256 + account.lastSyncError, QString());
     }
 
     void anAccountWithoutPasswordSaysSo()
@@ -129,7 +137,7 @@ private slots:
     {
         givePassword();
         syncNow();
-        const QString id = (*m_state)->calendars()->getByAccount(m_account.id).first().id;
+        const QString id = calendarId();
         QVERIFY(m_scheduler->canPush(id));
         m_server->fail(3, { .kind = FakeCalDav::Fault::Status, .status = 500 }); // behind the discovery
         m_messages->clear();
@@ -147,6 +155,7 @@ private slots:
         syncNow(); // who asks does not wait
         QVERIFY(m_scheduler->failure(id).isEmpty());
         QVERIFY(m_server->objects().contains("mine.ics"));
+        QVERIFY(m_scheduler->canPush(id));
     }
 
     void anEditBeforeAFailureWaitsForTheRest()
@@ -176,14 +185,45 @@ private slots:
         QCOMPARE(m_scheduler->failure(m_account.id), messages().last());
     }
 
-    void declinedAndRemovedCalendarsStayAway()
+    void anAccountThatGoesEndsItsWorkQuietly_data()
     {
+        columns<QByteArray, bool, bool>("during", "isRemoved", "isSilent");
+        row("removed before there were calendars", QByteArray("PROPFIND"), true, false);
+        row("disabled before there were calendars", QByteArray("PROPFIND"), false, false);
+        row("removed in the listing", QByteArray("REPORT"), true, false);
+        row("disabled in the listing", QByteArray("REPORT"), false, false);
+        row("disabled while the server is silent", QByteArray("REPORT"), false, true);
+        row("removed in a push", QByteArray("PUT"), true, false);
+    }
+    void anAccountThatGoesEndsItsWorkQuietly()
+    {
+        QFETCH(const QByteArray, during);
+        QFETCH(const bool, isRemoved);
+        QFETCH(const bool, isSilent);
         givePassword();
-        m_server->whenAsked("PROPFIND", [this] { (*m_state)->accounts()->remove(m_account.id); });
+        m_server->store("a.ics", eventText("a", "Standup"));
+        const bool isNew = during == "PROPFIND";
+        if (!isNew) {
+            syncNow();
+            addPending(u"mine"_s);
+        }
+        int before = 0;
+        m_server->whenAsked(during, [&] {
+            before = m_server->requestCount();
+            if (isSilent)
+                m_server->fail(-1, { .kind = FakeCalDav::Fault::Silence }); // this one
+            m_account.enabled = false;
+            isRemoved ? (*m_state)->accounts()->remove(m_account.id) : (*m_state)->accounts()->update(m_account);
+        });
         m_scheduler->runSyncNow();
-        QTRY_VERIFY(m_server->requestCount() >= 3);
+        m_scheduler->runSyncNow(); // one that waits
+        QTRY_VERIFY(before > 0);
         QTRY_VERIFY(isIdle());
-        QVERIFY((*m_state)->calendars()->getByAccount(m_account.id).isEmpty());
+        QVERIFY(!(*m_state)->isSyncing());
+        QVERIFY(!(*m_state)->lastSyncErrored());
+        QCOMPARE((*m_state)->calendars()->getByAccount(m_account.id).size(), isNew || isRemoved ? 0 : 1);
+        QVERIFY(isNew || m_server->requestCount() == before);
+        QVERIFY2(!messages().last().startsWith(u"Syncing"), qPrintable(messages().last()));
     }
 
     void aFullSyncDiscardsOnlyWhatTheServerCanGiveBack()
@@ -192,7 +232,7 @@ private slots:
         m_server->store("a.ics", eventText("a", "Theirs"));
         m_server->store("b.ics", eventText("b", "Theirs"));
         syncNow();
-        const QString id = (*m_state)->calendars()->getByAccount(m_account.id).first().id;
+        const QString id = calendarId();
         Event edited = *(*m_state)->events()->getByUid(u"a"_s, id);
         edited.title = u"Mine"_s;
         edited.syncStatus = SyncStatus::Pending;
@@ -208,12 +248,33 @@ private slots:
         QVERIFY((*m_state)->events()->getById(local.id)->deletedAt);
     }
 
+    void aFullSyncDuringAPushLeavesBothSidesAlike()
+    {
+        givePassword();
+        m_server->store("a.ics", eventText("a", "Theirs"));
+        syncNow();
+        const auto edit = [this](const QString &title) {
+            Event event = *(*m_state)->events()->getByUid(u"a"_s, calendarId());
+            event.title = title;
+            event.syncStatus = SyncStatus::Pending;
+            (*m_state)->events()->update(event);
+        };
+        edit(u"Sent"_s);
+        m_server->whenAsked("PUT", [this, edit] {
+            edit(u"Given up"_s);
+            m_scheduler->runForceFullSync();
+        });
+        syncNow();
+        QTRY_COMPARE((*m_state)->events()->getByUid(u"a"_s, calendarId())->title, u"Sent"_s);
+    }
+
     void theIntervalCountsFromTheLastTry_data()
     {
         columns<int, int, bool, bool>("interval", "minutesAgo", "isEnabled", "isDue");
-        row("never tried", 15, -1, true, true);
+        row("never tried", 15, Never, true, true);
         row("just now", 15, 1, true, false);
         row("due", 15, 15, true, true);
+        row("the clock was put back", 15, -60, true, true);
         row("by hand only", 0, 500, true, false);
         row("disabled", 15, 500, false, false);
     }
@@ -226,38 +287,14 @@ private slots:
         givePassword();
         m_account.syncIntervalMinutes = interval;
         m_account.enabled = isEnabled;
-        if (minutesAgo >= 0)
+        if (minutesAgo != Never)
             m_account.lastSyncTime = QDateTime::currentDateTimeUtc().addSecs(-60 * minutesAgo);
         QVERIFY((*m_state)->accounts()->update(m_account));
         m_scheduler->runPeriodicSyncTick();
         const auto stamped = (*m_state)->accounts()->getById(m_account.id)->lastSyncTime;
-        QCOMPARE(stamped && stamped->secsTo(QDateTime::currentDateTimeUtc()) < 30, isDue);
+        QCOMPARE(stamped && qAbs(stamped->secsTo(QDateTime::currentDateTimeUtc())) < 30, isDue);
         if (isDue)
             waitForRound();
-    }
-
-    void conflictsAreDecidedOnce()
-    {
-        Sync::ConflictResolutionService service(m_state->state());
-        const QSignalSpy changed(&service, &Sync::ConflictResolutionService::conflictsChanged);
-        Event local = m_state->addEvent(u"Mine"_s, utc("2026-03-01T09:00"), utc("2026-03-01T10:00"));
-        Event remote = local;
-        remote.id = u"elsewhere"_s;
-        remote.title = u"Theirs"_s;
-        service.recordConflict(local, remote);
-        service.recordConflict(local, local);
-        QCOMPARE(service.conflicts().size(), 1);
-        QCOMPARE(changed.size(), 1);
-        service.resolve(u"unknown"_s, Sync::ConflictResolution::KeepServer);
-        QCOMPARE(changed.size(), 1);
-        service.resolve(service.conflicts().first().id, Sync::ConflictResolution::KeepServer);
-        QCOMPARE((*m_state)->events()->getById(local.id)->title, u"Theirs"_s);
-        QCOMPARE((*m_state)->events()->getById(local.id)->syncStatus, SyncStatus::Synced);
-        service.recordConflict(local, remote);
-        service.resolve(service.conflicts().first().id, Sync::ConflictResolution::KeepLocal);
-        QCOMPARE((*m_state)->events()->getById(local.id)->title, u"Mine"_s);
-        QCOMPARE((*m_state)->events()->getById(local.id)->syncStatus, SyncStatus::Pending);
-        QVERIFY(service.conflicts().isEmpty());
     }
 
 private:
@@ -292,6 +329,8 @@ private:
         QTRY_VERIFY(!(*m_state)->isSyncing() && isIdle());
     }
 
+    QString calendarId() const { return (*m_state)->calendars()->getByAccount(m_account.id).first().id; }
+
     bool isIdle() const
     {
         return m_scheduler->findChildren<CalDavClient *>().isEmpty()
@@ -302,7 +341,7 @@ private:
     {
         Event event;
         event.id = event.uid = uid;
-        event.calendarId = (*m_state)->calendars()->getByAccount(m_account.id).first().id;
+        event.calendarId = calendarId();
         event.title = uid;
         event.startTime = utc("2026-05-01T10:00");
         event.endTime = utc("2026-05-01T11:00");

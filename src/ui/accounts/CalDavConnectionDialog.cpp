@@ -53,13 +53,8 @@ CalDavConnectionDialog::CalDavConnectionDialog(AppState *state, const Account &a
     m_url->setText(account.serverUrl);
     m_url->setCursorPosition(0);
     m_username->setText(account.username);
-<<<<<<< HEAD
-    m_password->edit()->setPlaceholderText(tr("Leave empty to keep the stored one"));
-    m_lookup->setTrustedCertSha256(account.trustedCertSha256, account.serverUrl);
-=======
     m_password->edit()->setPlaceholderText(tr("Unchanged"));
-    m_lookup->setTrustedCertSha256(account.trustedCertSha256);
->>>>>>> gui
+    m_lookup->setTrustedCertSha256(account.trustedCertSha256, account.serverUrl);
     chooseDefaultButton();
 }
 
@@ -228,7 +223,7 @@ void CalDavConnectionDialog::onFailed(const QString &message)
         return;
     Prompt::question(this, tr("Save anyway?"),
                      message + QLatin1StringView("\n\n") + tr("Save the account all the same?"), this,
-                     [this] { store(); });
+                     [this] { store({}); });
 }
 
 bool CalDavConnectionDialog::isChecked(int row) const

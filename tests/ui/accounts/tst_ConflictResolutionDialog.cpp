@@ -19,8 +19,10 @@ private slots:
         for (const QString &title : { u"<b>Dentist</b>"_s, QString(), u"Lunch"_s }) {
             const Event local = state.addEvent(title, utc("2026-03-15T09:00"), utc("2026-03-15T10:00"));
             Event remote = local;
+            remote.id = u"elsewhere"_s;
             remote.title = u"Theirs"_s;
             conflicts.recordConflict(local, remote);
+            conflicts.recordConflict(local, local); // the first pair stands
         }
         QCOMPARE(list->count(), 3);
         QCOMPARE(list->item(1)->text(), u"(Untitled)"_s);
@@ -32,9 +34,11 @@ private slots:
         const QString last = conflicts.conflicts().last().local.id;
         AccountBench::button(dialog, u"Use server version"_s)->click();
         QCOMPARE(state->events()->getById(first)->title, u"Theirs"_s);
+        QCOMPARE(state->events()->getById(first)->syncStatus, SyncStatus::Synced);
         list->setCurrentRow(1);
         AccountBench::button(dialog, u"Keep local"_s)->click();
         QCOMPARE(state->events()->getById(last)->title, u"Lunch"_s);
+        QCOMPARE(state->events()->getById(last)->syncStatus, SyncStatus::Pending);
         AccountBench::button(dialog, u"Decide later"_s)->click();
         QVERIFY(conflicts.conflicts().isEmpty() && list->isHidden());
         AccountBench::button(dialog, u"Decide later"_s)->click();
