@@ -5,6 +5,7 @@ namespace {
 constexpr int Created = 201;
 constexpr int NoContent = 204;
 constexpr int MultiStatus = 207;
+
 }
 
 PushVerdict::Verdict PushVerdict::ofPut(const CalDavClient::Response &response)

@@ -10,7 +10,8 @@
 
 /// The text of a calendar object resource (RFC 4791 §4.1) for its server: the newest text known, with what the records
 /// say differently written over it, and nothing else touched. A property that has no column, an alarm of another
-/// kind, a time zone, an unknown component and the order of lines stay as they were. Pure; lines end in CRLF, folded at 75 octets.
+/// kind, a time zone, an unknown component and the order of lines stay as they were. Pure; lines end in CRLF and
+/// are folded at 75 octets.
 namespace ResourceComposer {
 
 struct Context {
