@@ -67,9 +67,9 @@ public:
             m_keys.insert(key.toString());
     }
 
-    [[nodiscard]] bool contains(const QString &url) const { return m_keys.contains(keyOf(url)); }
-    void insert(const QString &url) { m_keys.insert(keyOf(url)); }
-    void remove(const QString &url) { m_keys.remove(keyOf(url)); }
+    [[nodiscard]] bool contains(const QString &url) const { return m_keys.contains(keyOf(spelled(url))); }
+    void insert(const QString &url) { m_keys.insert(keyOf(spelled(url))); }
+    void remove(const QString &url) { m_keys.remove(keyOf(spelled(url))); }
 
     void store() const
     {

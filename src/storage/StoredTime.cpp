@@ -2,6 +2,8 @@
 
 #include "calendar/TimeZones.h"
 
+#include <array>
+#include <cstdio>
 #include <cstdlib>
 
 namespace {
@@ -67,46 +69,25 @@ bool hasOffsetInSeconds(const QDateTime &time)
     return time.timeSpec() != Qt::LocalTime && time.offsetFromUtc() % 60 != 0;
 }
 
-void appendPair(QString &text, int number)
-{
-    text += QChar(u'0' + number / 10);
-    text += QChar(u'0' + number % 10);
-}
-
-void appendOffset(QString &text, int seconds)
-{
-    text += seconds < 0 ? u'-' : u'+';
-    appendPair(text, std::abs(seconds) / 3600);
-    text += u':';
-    appendPair(text, std::abs(seconds) / 60 % 60);
-}
-
-// Equal to toString(Qt::ISODate) where the offset is in whole minutes, in a fifth of the instructions.
+// Equal to toString(Qt::ISODate) where the offset is in whole minutes, in a fraction of its time: a sync writes
+// thousands of times in a slice.
 QString isoText(const QDateTime &moment)
 {
     const QDate date = moment.date();
     const QTime time = moment.time();
-    QString text;
     if (date.year() < 0 || date.year() > 9999)
-        return text;
-    text.reserve(offsetLength);
-    appendPair(text, date.year() / 100);
-    appendPair(text, date.year() % 100);
-    text += u'-';
-    appendPair(text, date.month());
-    text += u'-';
-    appendPair(text, date.day());
-    text += u'T';
-    appendPair(text, time.hour());
-    text += u':';
-    appendPair(text, time.minute());
-    text += u':';
-    appendPair(text, time.second());
-    if (moment.timeSpec() == Qt::UTC)
-        text += u'Z';
-    else if (moment.timeSpec() != Qt::LocalTime)
-        appendOffset(text, moment.offsetFromUtc());
-    return text;
+        return {};
+    std::array<char, 96> text; // each number fits, whatever it is
+    int length = std::snprintf(text.data(), text.size(), "%04d-%02d-%02dT%02d:%02d:%02d", date.year(), date.month(),
+                               date.day(), time.hour(), time.minute(), time.second());
+    if (moment.timeSpec() == Qt::UTC) {
+        text[size_t(length++)] = 'Z';
+    } else if (moment.timeSpec() != Qt::LocalTime) {
+        const int minutes = moment.offsetFromUtc() / 60;
+        length += std::snprintf(text.data() + length, text.size() - size_t(length), "%c%02d:%02d",
+                                minutes < 0 ? '-' : '+', std::abs(minutes) / 60, std::abs(minutes) % 60);
+    }
+    return QString::fromLatin1(text.data(), length);
 }
 
 }

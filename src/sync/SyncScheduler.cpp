@@ -343,8 +343,7 @@ void SyncScheduler::syncAccount(const QString &accountId, const QString &passwor
     if (!account || !account->enabled)
         return say({}, 0); // it was counted as syncing
     if (calendars.isEmpty())
-        return discoveryFailure.isEmpty() ? say(nothingWaits(), 5000)
-                                          : onFailed(accountId, discoveryFailure, FailureMs);
+        return discoveryFailure.isEmpty() ? say(nothingWaits(), 5000) : sayFailure(discoveryFailure, FailureMs);
     CalDavSyncClient *client = makeClient();
     const auto remaining = std::make_shared<qsizetype>(calendars.size());
     connect(client, &CalDavSyncClient::calendarSyncCompleted, this, [this](const QString &, int count) {
@@ -395,9 +394,9 @@ void SyncScheduler::wire(CalDavSyncClient *client)
     });
 }
 
-void SyncScheduler::onFailed(const QString &id, const QString &message, int timeoutMs)
+void SyncScheduler::onFailed(const QString &calendarId, const QString &message, int timeoutMs)
 {
-    noteEnd(id, message);
+    noteEnd(calendarId, message);
     sayFailure(message, timeoutMs);
 }
 

@@ -77,7 +77,7 @@ private:
     void autoSync(const QString &calendarId, const QString &password);
     CalDavSyncClient *makeClient();
     void wire(CalDavSyncClient *client);
-    void onFailed(const QString &id, const QString &message, int timeoutMs);
+    void onFailed(const QString &calendarId, const QString &message, int timeoutMs);
     void noteEnd(const QString &accountOrCalendarId, const QString &failure);
     void notePassword(Account account, const QString &password);
     void say(const QString &text, int timeoutMs);

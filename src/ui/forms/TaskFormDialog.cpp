@@ -43,12 +43,12 @@ bool hasChangedDates(const Task &before, const Task &after)
         || before.dueIsDateOnly != after.dueIsDateOnly || before.startIsDateOnly != after.startIsDateOnly;
 }
 
-// A day without a time begins before all of its times and ends after them.
 QString categoriesText(const Task &task)
 {
     return task.categories.join(QStringLiteral(", "));
 }
 
+// A day without a time begins before all of its times and ends after them.
 bool isDueBeforeStart(const Task &task)
 {
     if (!task.dueDate || !task.startDate)
